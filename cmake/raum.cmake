@@ -1,0 +1,34 @@
+# One folder of sources is one static library ("room"); its tests are one executable of the same name.
+
+add_library(tonkartei_optionen INTERFACE)
+target_compile_options(tonkartei_optionen INTERFACE
+  -Wall -Wextra -Wpedantic -Werror -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual)
+target_include_directories(tonkartei_optionen INTERFACE ${CMAKE_SOURCE_DIR}/src)
+if(TONKARTEI_SANITIZER)
+  target_compile_options(tonkartei_optionen INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tonkartei_optionen INTERFACE -fsanitize=address,undefined)
+endif()
+
+# tonkartei_raum(NAME FOLDER LIB...): all *.cpp of FOLDER (not of the folders below it) as library NAME.
+function(tonkartei_raum name ordner)
+  file(GLOB quellen CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${ordner}/*.cpp)
+  if(quellen)
+    add_library(${name} STATIC ${quellen})
+    target_link_libraries(${name} PUBLIC tonkartei_optionen ${ARGN})
+  else()
+    add_library(${name} INTERFACE)
+    target_link_libraries(${name} INTERFACE tonkartei_optionen ${ARGN})
+  endif()
+endfunction()
+
+# tonkartei_test(NAME FOLDER LIB...): all *.cpp of FOLDER as one GoogleTest executable, each case a test of CTest.
+function(tonkartei_test name ordner)
+  file(GLOB quellen CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${ordner}/*.cpp)
+  if(quellen)
+    add_executable(${name} ${quellen})
+    target_link_libraries(${name} PRIVATE tonkartei_optionen ${ARGN} GTest::gtest_main)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600)
+  endif()
+endfunction()

@@ -1,0 +1,68 @@
+// Numbered file channels for the line-oriented files of the family: 8-bit text of the Windows page, lines ended by CR LF.
+// Names outside the channels are Text; the conversion sits here.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "grundlagen/text.hpp"
+#include "grundlagen/zahl.hpp"
+#include "plattform/dateisystem.hpp"
+
+namespace tonkartei {
+
+// Reads and writes sequentially through a buffer. An opened file takes the lowest free number from 1 and keeps it until it
+// is closed; a failed writer that is not closed keeps it, too. Work on a number that is not open, or open the other way, is
+// Dateifehler 52 or 54; reading at the end of the file is 62.
+class Kanäle {
+public:
+    explicit Kanäle(Dateisystem& dateien);
+    ~Kanäle();
+    Kanäle(const Kanäle&) = delete;
+    Kanäle& operator=(const Kanäle&) = delete;
+
+    int öffnen_zum_Lesen(const Text& pfad);
+    int öffnen_zum_Schreiben(const Text& pfad);
+    // Writes out what is buffered; with `sichern`, waits until it is on the disk. The number is free afterwards, even when
+    // the writing fails.
+    void schließen(int nummer, bool sichern = false);
+    bool offen(int nummer) const;
+
+    // True when nothing is left to read.
+    bool am_Ende(int nummer);
+    // A whole line, up to CR LF or the end of the file. A CR or LF that stands alone belongs to the line, so all
+    // 256 bytes come back in a name.
+    Text lese_Zeile(int nummer);
+    // A value: blanks before it skipped, up to a comma or any line end (CR LF, CR or LF), blanks behind it cut. Quotes mean
+    // nothing.
+    Text lese_Wert(int nummer);
+    // The same with the file's own bytes, for paths.
+    std::string lese_Rohwert(int nummer);
+    // Whole line with the file's own bytes.
+    std::string lese_Rohzeile(int nummer);
+    // A value taken as a number, rounded; overflow (6) outside the type.
+    Long lese_Long(int nummer);
+    Byte lese_Byte(int nummer);
+
+    void schreibe_Zeile(int nummer, const Text& text);
+    void schreibe_Rohzeile(int nummer, const std::string& bytes);
+    // " 6 " or "-1 ".
+    void schreibe_Zahl(int nummer, std::int64_t wert);
+    // "45".
+    void schreibe_reine_Zahl(int nummer, std::int64_t wert);
+
+private:
+    struct Kanal;
+    Kanal& zum_Lesen(int nummer);
+    Kanal& zum_Schreiben(int nummer);
+    int öffnen(const Text& pfad, Dateimodus modus);
+    void nachfüllen(Kanal& kanal);
+    void ausschreiben(Kanal& kanal);
+
+    Dateisystem& dateien_;
+    std::map<int, std::unique_ptr<Kanal>> kanäle_;
+};
+
+}  // namespace tonkartei

@@ -1,0 +1,13 @@
+#include "plattform/dateisystem.hpp"
+
+namespace tonkartei {
+
+Text mit_Trenner(const Text& pfad) { return pfad.empty() || pfad.back() == Trenner ? pfad : pfad + Trenner; }
+
+Text Dateiname_von(const Text& pfad) { return pfad.substr(pfad.rfind(Trenner) + 1); }
+
+Text Ordner_von(const Text& pfad) { return pfad.substr(0, pfad.rfind(Trenner) + 1); }
+
+bool ist_absolut(const Text& pfad) { return !pfad.empty() && pfad.front() == Trenner; }
+
+}  // namespace tonkartei
