@@ -1,0 +1,69 @@
+# Shortcuts. The build itself is CMake's; its variants are the presets in CMakePresets.json.
+
+PREFIX ?= /usr/local
+DESTDIR ?=
+export DESTDIR
+
+RELEASE := build/release
+KERNE   := $(shell nproc 2>/dev/null || echo 2)
+
+.PHONY: help run test tour bench format install paket bediener bauen
+.NOTPARALLEL:
+
+help:
+	@echo 'make run       install what is missing, build, start Tonkartei (the tour where there is no display)'
+	@echo 'make test      build and run every test, then again under the sanitizers, fuzzers included'
+	@echo 'make tour      play the main job without a screen; pictures of the windows land in build/tour'
+	@echo 'make bench     measure; fails when a ratio is above its limit'
+	@echo 'make bediener  build the operator that works the windows by name; the last line is its path'
+	@echo 'make format    clang-format over all sources'
+	@echo 'make install   install below PREFIX ($(PREFIX)), DESTDIR in front'
+	@echo 'make paket     build a Debian package in $(RELEASE)'
+
+# Targets by the file they make, so that only what is needed is built.
+bauen:
+	@sh skripte/einrichten.sh
+	@cmake --preset release
+	@cmake --build --preset release --target bin/tonkartei bin/WinAmp.Exe
+
+run:
+	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then \
+	    $(MAKE) --no-print-directory bauen && exec $(RELEASE)/bin/tonkartei; \
+	else \
+	    echo 'No display here (DISPLAY and WAYLAND_DISPLAY are empty): playing the tour instead.'; \
+	    exec $(MAKE) --no-print-directory tour; \
+	fi
+
+test:
+	@sh skripte/einrichten.sh
+	@cmake --preset release
+	@cmake --build --preset release
+	@ctest --preset release -j $(KERNE)
+	@cmake --preset sanitizer
+	@cmake --build --preset sanitizer
+	@ctest --preset sanitizer -j $(KERNE)
+
+tour: bediener
+	@bash skripte/tour.sh
+
+bench:
+	@sh skripte/einrichten.sh leistung
+	@cmake --preset leistung
+	@cmake --build --preset leistung
+	@sh skripte/bench.sh build/leistung/bin
+
+format:
+	@sh skripte/einrichten.sh format
+	@git ls-files -co --exclude-standard -- '*.cpp' '*.hpp' | xargs clang-format -i
+
+install: bauen
+	@cmake --install $(RELEASE) --prefix '$(PREFIX)'
+
+paket: bauen
+	@cd $(RELEASE) && cpack -G DEB
+
+bediener:
+	@sh skripte/einrichten.sh
+	@cmake --preset release
+	@cmake --build --preset release --target bin/tonkartei-bediener bin/WinAmp.Exe
+	@echo '$(CURDIR)/$(RELEASE)/bin/tonkartei-bediener'
