@@ -1,0 +1,149 @@
+// The simple controls. Setting a value raises its event whether a hand or the code set it: for texts, boxes and sliders
+// only when the value changed; for option buttons on every choosing.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+
+#include "oberflaeche/element.hpp"
+
+namespace tonkartei {
+
+// Controls that stand alone have the index -1.
+inline constexpr int ohne_Index = -1;
+
+class Schriftfeld : public Element {
+public:
+    Schriftfeld(Fenster& f, Text name, Text beschriftung = {}, int index = ohne_Index)
+        : Element(f, Elementart::Schrift, std::move(name), std::move(beschriftung), index) {}
+    enum class Ausrichtung { links, Mitte, rechts };
+    Ausrichtung ausrichtung = Ausrichtung::links;
+    bool umbrechen = false;   // wraps at the width
+    bool eingerahmt = false;  // sunken frame, for values
+    // The text is data: "&" marks nothing unless doubled.
+    bool wie_Daten = false;
+};
+
+class Knopf : public Element {
+public:
+    Knopf(Fenster& f, Text name, Text beschriftung = {}, int index = ohne_Index)
+        : Element(f, Elementart::Knopf, std::move(name), std::move(beschriftung), index) {}
+    // Name of a picture of the program that is shown instead of the caption; empty: none.
+    Text Bild;
+    // Drawn flat and small, for rows of tool buttons.
+    bool klein = false;
+};
+
+class Kasten : public Element {
+public:
+    Kasten(Fenster& f, Text name, Text beschriftung = {}, int index = ohne_Index)
+        : Element(f, Elementart::Kasten, std::move(name), std::move(beschriftung), index) {}
+    bool wert() const noexcept { return wert_; }
+    // Raises Klick when it changes.
+    void wert(bool neu);
+    void von_Hand_klicken() override { wert(!wert_); }
+    void Startwerte_merken() override;
+    void Startwerte_setzen() override;
+
+private:
+    bool wert_ = false, start_ = false;
+};
+
+// Option buttons of the same name in a window are one group.
+class Optionsfeld : public Element {
+public:
+    Optionsfeld(Fenster& f, Text name, Text beschriftung = {}, int index = ohne_Index)
+        : Element(f, Elementart::Option, std::move(name), std::move(beschriftung), index) {}
+    bool wert() const noexcept { return wert_; }
+    // Chooses it, clears the others of its group, raises Klick even when it was chosen already. There is no unchoosing.
+    void wählen();
+    void von_Hand_klicken() override { wählen(); }
+    void Startwerte_merken() override;
+    void Startwerte_setzen() override;
+
+private:
+    bool wert_ = false, start_ = false;
+};
+
+class Textfeld : public Element {
+public:
+    Textfeld(Fenster& f, Text name, Text inhalt = {}, int index = ohne_Index)
+        : Element(f, Elementart::Text, std::move(name), {}, index), text_(std::move(inhalt)) {}
+    const Text& text() const noexcept { return text_; }
+    // Raises Geändert when it changes.
+    void text(Text neu);
+    Ereignis<> Geändert;
+    // Only to be read and copied from.
+    bool nur_lesen = false;
+    void Startwerte_merken() override;
+    void Startwerte_setzen() override;
+
+private:
+    Text text_, start_;
+};
+
+// Slider or scroll bar.
+class Regler : public Element {
+public:
+    enum class Form { Schieber, Bildlauf };
+    Regler(Fenster& f, Text name, int min, int max, int index = ohne_Index, Form form = Form::Schieber)
+        : Element(f, Elementart::Regler, std::move(name), {}, index), form_(form), min_(min), max_(max), wert_(min) {}
+    int min() const noexcept { return min_; }
+    int max() const noexcept { return max_; }
+    int wert() const noexcept { return wert_; }
+    Form form() const noexcept { return form_; }
+    // The value follows into the new range; that raises Geändert when it moves the value.
+    void bereich(int min, int max);
+    // Held to the range. Raises Geändert when it changes.
+    void wert(int neu);
+    // The hand's move: value, then Gescrollt.
+    void von_Hand_schieben(int neu);
+    Ereignis<> Geändert;
+    Ereignis<> Gescrollt;  // the hand alone
+    bool senkrecht = false;
+    void Startwerte_merken() override;
+    void Startwerte_setzen() override;
+
+private:
+    Form form_;
+    int min_, max_, wert_;
+    int start_min_ = 0, start_max_ = 0, start_wert_ = 0;
+};
+
+// Frame with a title; without one a bare panel.
+class Rahmen : public Element {
+public:
+    Rahmen(Fenster& f, Text name, Text beschriftung = {}, int index = ohne_Index)
+        : Element(f, Elementart::Rahmen, std::move(name), std::move(beschriftung), index) {}
+    // Drawn opaque above what lies under it.
+    bool deckend = false;
+};
+
+class Balken : public Element {
+public:
+    explicit Balken(Fenster& f, Text name, int index = ohne_Index)
+        : Element(f, Elementart::Balken, std::move(name), {}, index) {}
+    int wert() const noexcept { return wert_; }  // 0 to 100
+    void wert(int neu);
+    void Startwerte_setzen() override;
+
+private:
+    int wert_ = 0;
+};
+
+// Picture of the program, by its name.
+class Bildfläche : public Element {
+public:
+    Bildfläche(Fenster& f, Text name, Text bild, int index = ohne_Index)
+        : Element(f, Elementart::Fläche, std::move(name), {}, index), Bild(std::move(bild)) {}
+    Text Bild;
+    Größe Wunsch{720, 720};
+};
+
+// Tray symbol: Klick is its left button, Rechtsklick its right one. Hidden at first.
+class Traysymbol : public Element {
+public:
+    Traysymbol(Fenster& f, Text name) : Element(f, Elementart::Symbol, std::move(name), {}, ohne_Index) { sichtbar(false); }
+};
+
+}  // namespace tonkartei

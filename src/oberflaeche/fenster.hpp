@@ -1,0 +1,121 @@
+// A window: a plain object whose controls are members, whose handlers are member functions and whose layout is a tree.
+// Windows are members of the program object and live as long as it; loading and unloading only changes their state.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "oberflaeche/anordnung.hpp"
+#include "oberflaeche/element.hpp"
+#include "oberflaeche/geometrie.hpp"
+#include "oberflaeche/menue.hpp"
+
+namespace tonkartei {
+
+class Ansicht;
+
+enum class Fensterzustand { normal, minimiert };
+
+enum class Schließgrund {
+    Hand,      // close box
+    Programm,  // the code
+    außen,     // end of the user's session, task manager
+};
+
+class Fenster {
+public:
+    Fenster(Ansicht& ansicht, Text name, Text titel);
+    virtual ~Fenster();
+    Fenster(const Fenster&) = delete;
+    Fenster& operator=(const Fenster&) = delete;
+
+    const Text& Name() const noexcept { return name_; }
+    Ansicht& ansicht() const noexcept { return ansicht_; }
+
+    // Loading brings all controls to their start values, lays them out and calls beim_Laden; a loaded window stays as it is.
+    void laden();
+    bool geladen() const noexcept { return geladen_; }
+    // Loads if needed, shows and brings to the front.
+    void zeigen();
+    // The same; the other windows are blocked, and it returns when this one is hidden or unloaded.
+    void zeigen_modal();
+    void verstecken();
+    // Closes it: asks beim_Schließen, then unloads. False when the closing was refused. An unloaded window says true.
+    bool entladen(Schließgrund grund = Schließgrund::Programm);
+    // What the close box does.
+    bool schließen(Schließgrund grund) { return entladen(grund); }
+    void nach_vorn();
+
+    bool sichtbar() const noexcept { return geladen_ && sichtbar_; }
+    bool modal() const noexcept { return modal_; }
+    bool aktiv() const noexcept { return aktiv_; }
+    void aktiv(bool wert);
+    Fensterzustand zustand() const noexcept { return zustand_; }
+    void zustand(Fensterzustand neu);
+    bool immer_oben() const noexcept { return immer_oben_; }
+    void immer_oben(bool wert);
+    const Text& titel() const noexcept { return titel_; }
+    void titel(Text wert);
+
+    // Place on the screen and inner size, twips. The size never goes below what the layout needs.
+    const Bereich& lage() const noexcept { return lage_; }
+    void bewegen(int links, int oben);
+    void größe(int breite, int höhe);
+    // The view's report of what the user did; no echo to the view.
+    void von_Hand_bewegt(int links, int oben);
+    void von_Hand_bemessen(int breite, int höhe);
+    void von_Hand_Zustand(Fensterzustand neu);
+    void zentrieren();
+    Größe Mindestgröße();
+
+    // All controls in the order of their making, which is the tab order; menu entries included.
+    const std::vector<Element*>& elemente() const noexcept { return elemente_; }
+    // By name and index; null when there is none. An index of -1 takes the first of the name.
+    Element* element(const Text& name, int index) const;
+    const Menü* menü() const noexcept { return menü_; }
+
+    // Works the layout out anew.
+    void neu_anordnen();
+    // Repaints now, runs no input.
+    void malen();
+
+    // Default and cancel button: Return and Escape, where the control itself does not use them.
+    Element* Vorgabeknopf = nullptr;
+    Element* Abbruchknopf = nullptr;
+    // The user may change its size.
+    bool größenveränderlich = true;
+    // No title bar, always in front of the others (splash, progress).
+    bool ohne_Rand = false;
+    Ereignis<> Mausbewegung;  // the mouse moves over free ground of the window
+    Ereignis<const std::vector<Text>&> Dateien_abgelegt;
+
+protected:
+    // The layout, asked for once, at the first loading.
+    virtual Knoten anordnung() { return {}; }
+    // Size at loading, at least what the layout needs; twips.
+    virtual Größe Startgröße() { return {}; }
+    virtual void beim_Laden() {}
+    // False refuses the closing. An end from outside is never refused.
+    virtual bool beim_Schließen(Schließgrund) { return true; }
+    virtual void beim_Entladen() {}
+    virtual void bei_neuer_Größe() {}
+    virtual void bei_neuem_Zustand() {}
+    // Set in the constructor of a window with a menu bar.
+    void Menü_setzen(const Menü& menü) { menü_ = &menü; }
+
+private:
+    friend class Element;
+    friend class Ansicht;
+
+    Ansicht& ansicht_;
+    Text name_, titel_, start_titel_;
+    std::vector<Element*> elemente_;
+    const Menü* menü_ = nullptr;
+    std::unique_ptr<Anordnung> anordnung_;
+    Bereich lage_{};
+    bool geladen_ = false, sichtbar_ = false, modal_ = false, aktiv_ = true, immer_oben_ = false, startwerte_da_ = false;
+    bool ordnet_ = false, schließt_ = false;
+    Fensterzustand zustand_ = Fensterzustand::normal;
+};
+
+}  // namespace tonkartei
