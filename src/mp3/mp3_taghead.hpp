@@ -74,8 +74,8 @@ public:
 
     // Title and artist of a file; the words for a song without a tag when it has none.
     void Lied_Tag_lesen(const Text& Datei, Text& Titel, Text& Artist);
-    // Minutes and seconds of a file, 0 when the analysis finds nothing. Fails as MP3_Info_lesen does, and with 6 for a time
-    // of more than 32767 minutes.
+    // Minutes and seconds of a file, 0 when the analysis finds nothing. Fails as MP3_Info_lesen does; a time that passes it
+    // stays below 9000 minutes.
     Zeit Lied_Zeit_lesen(const Text& Datei);
     // KByte of a file, rounded; 0 when there is none.
     Long Lied_Größe_lesen(const Text& Datei);
