@@ -3,9 +3,10 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "grundlagen/text.hpp"
 #include "grundlagen/zahl.hpp"
@@ -14,20 +15,24 @@
 namespace tonkartei {
 
 // Reads and writes sequentially through a buffer. An opened file takes the lowest free number from 1 and keeps it until it
-// is closed; a failed writer that is not closed keeps it, too. Work on a number that is not open, or open the other way, is
-// Dateifehler 52 or 54; reading at the end of the file is 62.
+// is closed. A failed write leaves the channel open, and the file stays unavailable to others until somebody closes it.
+// Work on a number that is not open, or open the other way, is Dateifehler 52 or 54; reading at the end of the file is 62;
+// a 256th channel is 67.
 class Kanäle {
 public:
     explicit Kanäle(Dateisystem& dateien);
+    // Closes what is still open without writing anything more.
     ~Kanäle();
     Kanäle(const Kanäle&) = delete;
     Kanäle& operator=(const Kanäle&) = delete;
 
     int öffnen_zum_Lesen(const Text& pfad);
     int öffnen_zum_Schreiben(const Text& pfad);
-    // Writes out what is buffered; with `sichern`, waits until it is on the disk. The number is free afterwards, even when
-    // the writing fails.
+    // Writes out what is buffered; with `sichern`, waits until it is on the disk. When one of the two fails, the channel
+    // stays open, as after any failed write.
     void schließen(int nummer, bool sichern = false);
+    // Closes without writing out the buffer; does nothing for a number that is not open. Never throws.
+    void aufgeben(int nummer) noexcept;
     bool offen(int nummer) const;
 
     // True when nothing is left to read.
@@ -42,7 +47,7 @@ public:
     std::string lese_Rohwert(int nummer);
     // Whole line with the file's own bytes.
     std::string lese_Rohzeile(int nummer);
-    // A value taken as a number, rounded; overflow (6) outside the type.
+    // A value taken as a number, rounded; overflow (6) outside the type, 0 for what is no number.
     Long lese_Long(int nummer);
     Byte lese_Byte(int nummer);
 
@@ -55,14 +60,18 @@ public:
 
 private:
     struct Kanal;
+    Kanal& Kanal_von(int nummer);
     Kanal& zum_Lesen(int nummer);
     Kanal& zum_Schreiben(int nummer);
-    int öffnen(const Text& pfad, Dateimodus modus);
-    void nachfüllen(Kanal& kanal);
+    int öffnen(const Text& pfad, bool schreibend);
+    bool nachfüllen(Kanal& kanal);
+    std::string_view Zeile(Kanal& kanal);
+    std::string_view Wert(Kanal& kanal);
     void ausschreiben(Kanal& kanal);
+    void Zeile_ablegen(Kanal& kanal, std::string_view bytes);
 
     Dateisystem& dateien_;
-    std::map<int, std::unique_ptr<Kanal>> kanäle_;
+    std::vector<std::unique_ptr<Kanal>> kanäle_;  // number n at n - 1, null where free
 };
 
 }  // namespace tonkartei

@@ -1,0 +1,229 @@
+#include "plattform/kanaele.hpp"
+
+#include <algorithm>
+#include <charconv>
+#include <cstring>
+#include <span>
+#include <utility>
+
+#include "grundlagen/codepage.hpp"
+#include "grundlagen/fehler.hpp"
+
+namespace tonkartei {
+namespace {
+
+constexpr std::size_t Puffergröße = 64 * 1024;
+constexpr std::size_t höchste_Nummer = 255;
+
+bool nur_ASCII(std::string_view bytes) {
+    std::size_t i = 0;
+    for (; i + 8 <= bytes.size(); i += 8) {
+        std::uint64_t acht;
+        std::memcpy(&acht, bytes.data() + i, 8);
+        if (acht & 0x8080808080808080U) return false;
+    }
+    for (; i < bytes.size(); ++i)
+        if (static_cast<unsigned char>(bytes[i]) >= 0x80) return false;
+    return true;
+}
+
+Text als_Text(std::string_view bytes) { return nur_ASCII(bytes) ? Text(bytes) : aus_1252(bytes); }
+
+std::string_view ohne_Blanks_dahinter(std::string_view bytes) {
+    while (!bytes.empty() && bytes.back() == ' ') bytes.remove_suffix(1);
+    return bytes;
+}
+
+}  // namespace
+
+// Reading: `puffer[stelle, ende)` is what has been read ahead, and the file goes on at byte `position`. Writing: `puffer`
+// is what waits to be written to byte `position`.
+struct Kanäle::Kanal {
+    Dateisystem::Griff griff = 0;
+    bool schreibend = false;
+    bool ausgelesen = false;
+    Text pfad;
+    std::string puffer;
+    std::size_t stelle = 0;
+    std::size_t ende = 0;
+    std::uint64_t position = 0;
+};
+
+Kanäle::Kanäle(Dateisystem& dateien) : dateien_(dateien) {}
+
+Kanäle::~Kanäle() {
+    for (std::size_t i = 0; i < kanäle_.size(); ++i) aufgeben(static_cast<int>(i) + 1);
+}
+
+int Kanäle::öffnen(const Text& pfad, bool schreibend) {
+    const auto frei = std::find(kanäle_.begin(), kanäle_.end(), nullptr);
+    const auto platz = static_cast<std::size_t>(frei - kanäle_.begin());
+    if (platz == höchste_Nummer) throw Dateifehler(67, pfad);
+    auto kanal = std::make_unique<Kanal>();
+    kanal->schreibend = schreibend;
+    kanal->pfad = pfad;
+    if (frei == kanäle_.end()) kanäle_.emplace_back();
+    kanal->griff = dateien_.öffnen(pfad, schreibend ? Dateimodus::schreiben : Dateimodus::lesen);
+    kanäle_[platz] = std::move(kanal);
+    return static_cast<int>(platz) + 1;
+}
+
+int Kanäle::öffnen_zum_Lesen(const Text& pfad) { return öffnen(pfad, false); }
+int Kanäle::öffnen_zum_Schreiben(const Text& pfad) { return öffnen(pfad, true); }
+
+bool Kanäle::offen(int nummer) const {
+    return nummer >= 1 && static_cast<std::size_t>(nummer) <= kanäle_.size() &&
+           kanäle_[static_cast<std::size_t>(nummer) - 1] != nullptr;
+}
+
+Kanäle::Kanal& Kanäle::Kanal_von(int nummer) {
+    if (!offen(nummer)) throw Dateifehler(52);
+    return *kanäle_[static_cast<std::size_t>(nummer) - 1];
+}
+
+Kanäle::Kanal& Kanäle::zum_Lesen(int nummer) {
+    Kanal& kanal = Kanal_von(nummer);
+    if (kanal.schreibend) throw Dateifehler(54, kanal.pfad);
+    return kanal;
+}
+
+Kanäle::Kanal& Kanäle::zum_Schreiben(int nummer) {
+    Kanal& kanal = Kanal_von(nummer);
+    if (!kanal.schreibend) throw Dateifehler(54, kanal.pfad);
+    return kanal;
+}
+
+void Kanäle::schließen(int nummer, bool sichern) {
+    Kanal& kanal = Kanal_von(nummer);
+    if (kanal.schreibend) {
+        ausschreiben(kanal);
+        if (sichern) dateien_.sichern(kanal.griff);
+    }
+    const auto abgelöst = std::exchange(kanäle_[static_cast<std::size_t>(nummer) - 1], nullptr);
+    dateien_.schließen(abgelöst->griff);
+}
+
+void Kanäle::aufgeben(int nummer) noexcept {
+    if (!offen(nummer)) return;
+    const auto abgelöst = std::exchange(kanäle_[static_cast<std::size_t>(nummer) - 1], nullptr);
+    try {
+        dateien_.schließen(abgelöst->griff);
+    } catch (const Dateifehler&) {  // the contents are given up anyway
+    }
+}
+
+// More bytes behind those not yet consumed, which move to the front; false at the end of the file.
+bool Kanäle::nachfüllen(Kanal& kanal) {
+    if (kanal.ausgelesen) return false;
+    const std::size_t rest = kanal.ende - kanal.stelle;
+    if (kanal.stelle > 0) std::memmove(kanal.puffer.data(), kanal.puffer.data() + kanal.stelle, rest);
+    kanal.stelle = 0;
+    kanal.ende = rest;
+    // A line longer than the buffer doubles it, so that its bytes are not copied again and again.
+    if (kanal.puffer.size() - rest < Puffergröße / 2) kanal.puffer.resize(std::max(Puffergröße, 2 * kanal.puffer.size()));
+    const std::size_t gelesen =
+        dateien_.lesen(kanal.griff, kanal.position, std::span<char>(kanal.puffer).subspan(kanal.ende));
+    kanal.position += gelesen;
+    kanal.ende += gelesen;
+    kanal.ausgelesen = gelesen == 0;
+    return gelesen > 0;
+}
+
+bool Kanäle::am_Ende(int nummer) {
+    Kanal& kanal = zum_Lesen(nummer);
+    return kanal.stelle == kanal.ende && !nachfüllen(kanal);
+}
+
+// The view is good until the next reading from the channel.
+std::string_view Kanäle::Zeile(Kanal& kanal) {
+    if (kanal.stelle == kanal.ende && !nachfüllen(kanal)) throw Dateifehler(62, kanal.pfad);
+    std::size_t geprüft = 0;  // from `stelle` on
+    for (;;) {
+        const char* anfang = kanal.puffer.data() + kanal.stelle;
+        const std::size_t länge = kanal.ende - kanal.stelle;
+        const void* treffer = std::memchr(anfang + geprüft, '\n', länge - geprüft);
+        if (treffer == nullptr) {
+            geprüft = länge;
+            if (nachfüllen(kanal)) continue;
+            kanal.stelle = kanal.ende;
+            return {kanal.puffer.data() + kanal.ende - länge, länge};
+        }
+        const auto lf = static_cast<std::size_t>(static_cast<const char*>(treffer) - anfang);
+        if (lf > 0 && anfang[lf - 1] == '\r') {
+            kanal.stelle += lf + 1;
+            return {anfang, lf - 1};
+        }
+        geprüft = lf + 1;
+    }
+}
+
+std::string_view Kanäle::Wert(Kanal& kanal) {
+    if (kanal.stelle == kanal.ende && !nachfüllen(kanal)) throw Dateifehler(62, kanal.pfad);
+    do {
+        while (kanal.stelle < kanal.ende && kanal.puffer[kanal.stelle] == ' ') ++kanal.stelle;
+    } while (kanal.stelle == kanal.ende && nachfüllen(kanal));
+    std::size_t länge = 0;
+    const auto am_Wertende = [](char zeichen) { return zeichen == ',' || zeichen == '\r' || zeichen == '\n'; };
+    for (;;) {
+        while (kanal.stelle + länge < kanal.ende && !am_Wertende(kanal.puffer[kanal.stelle + länge])) ++länge;
+        if (kanal.stelle + länge < kanal.ende) {
+            // Whether a LF follows a CR must be known before the view is taken, since refilling moves the bytes.
+            if (kanal.puffer[kanal.stelle + länge] != '\r' || kanal.stelle + länge + 1 < kanal.ende) break;
+        }
+        if (!nachfüllen(kanal)) break;
+    }
+    const auto wert = std::string_view(kanal.puffer).substr(kanal.stelle, länge);
+    kanal.stelle += länge;
+    if (kanal.stelle < kanal.ende) {
+        const char trenner = kanal.puffer[kanal.stelle++];
+        if (trenner == '\r' && kanal.stelle < kanal.ende && kanal.puffer[kanal.stelle] == '\n') ++kanal.stelle;
+    }
+    return ohne_Blanks_dahinter(wert);
+}
+
+Text Kanäle::lese_Zeile(int nummer) { return als_Text(Zeile(zum_Lesen(nummer))); }
+Text Kanäle::lese_Wert(int nummer) { return als_Text(Wert(zum_Lesen(nummer))); }
+std::string Kanäle::lese_Rohwert(int nummer) { return std::string(Wert(zum_Lesen(nummer))); }
+std::string Kanäle::lese_Rohzeile(int nummer) { return std::string(Zeile(zum_Lesen(nummer))); }
+Long Kanäle::lese_Long(int nummer) { return gerundet(Zahlwert(Wert(zum_Lesen(nummer)))); }
+Byte Kanäle::lese_Byte(int nummer) { return gerundet_Byte(Zahlwert(Wert(zum_Lesen(nummer)))); }
+
+void Kanäle::ausschreiben(Kanal& kanal) {
+    if (kanal.puffer.empty()) return;
+    dateien_.schreiben(kanal.griff, kanal.position, kanal.puffer);
+    kanal.position += kanal.puffer.size();
+    kanal.puffer.clear();
+}
+
+void Kanäle::Zeile_ablegen(Kanal& kanal, std::string_view bytes) {
+    if (kanal.puffer.size() + bytes.size() + 2 > Puffergröße) ausschreiben(kanal);
+    if (kanal.puffer.capacity() < Puffergröße) kanal.puffer.reserve(Puffergröße);
+    kanal.puffer.append(bytes);
+    kanal.puffer.append("\r\n");
+}
+
+void Kanäle::schreibe_Zeile(int nummer, const Text& text) {
+    Kanal& kanal = zum_Schreiben(nummer);
+    if (nur_ASCII(text))
+        Zeile_ablegen(kanal, text);
+    else
+        Zeile_ablegen(kanal, nach_1252(text));
+}
+
+void Kanäle::schreibe_Rohzeile(int nummer, const std::string& bytes) { Zeile_ablegen(zum_Schreiben(nummer), bytes); }
+
+void Kanäle::schreibe_Zahl(int nummer, std::int64_t wert) {
+    char ziffern[24] = {' '};
+    char* anfang = wert < 0 ? ziffern : ziffern + 1;
+    char* ende = std::to_chars(anfang, ziffern + 22, wert).ptr;
+    *ende++ = ' ';
+    Zeile_ablegen(zum_Schreiben(nummer), {ziffern, static_cast<std::size_t>(ende - ziffern)});
+}
+
+void Kanäle::schreibe_reine_Zahl(int nummer, std::int64_t wert) {
+    char ziffern[24];
+    const char* ende = std::to_chars(ziffern, ziffern + sizeof ziffern, wert).ptr;
+    Zeile_ablegen(zum_Schreiben(nummer), {ziffern, static_cast<std::size_t>(ende - ziffern)});
+}
+
+}  // namespace tonkartei
