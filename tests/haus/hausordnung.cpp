@@ -1,0 +1,279 @@
+#include "haus/hausordnung.hpp"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <regex>
+#include <set>
+#include <sstream>
+#include <string_view>
+
+namespace tonkartei::haus {
+namespace {
+
+enum Fremdes : unsigned { nichts = 0, Qt = 1, POSIX = 2, mpv = 4 };
+
+struct Raum {
+    std::string_view Ordner;  // below src/; the longest that fits counts
+    int Stockwerk;            // where it lies
+    int Sicht;                // the highest floor that it may include
+    unsigned Darf;            // what it may name that is not of the standard library
+};
+
+// The floors, from the ground up. Rooms of one floor may include each other, file by file without a loop. The rooms of
+// one toolkit or one machine lie just below the roof, where only the composition reaches them, yet see the seams alone.
+constexpr std::array Räume{
+    Raum{"grundlagen", 0, 0, nichts},       Raum{"plattform", 10, 10, nichts},
+    Raum{"oberflaeche", 10, 10, nichts},    Raum{"mp3", 20, 20, nichts},
+    Raum{"datenbank", 21, 21, nichts},      Raum{"alben", 30, 30, nichts},
+    Raum{"kategorien", 31, 31, nichts},     Raum{"liste", 32, 32, nichts},
+    Raum{"wiedergabe", 33, 33, nichts},     Raum{"playlist", 34, 34, nichts},
+    Raum{"lieder", 35, 35, nichts},         Raum{"statistik", 40, 40, nichts},
+    Raum{"austausch", 40, 40, nichts},      Raum{"dj", 40, 40, nichts},
+    Raum{"display", 40, 40, nichts},        Raum{"oberflaeche/qt", 50, 10, Qt},
+    Raum{"plattform/linux", 50, 10, POSIX}, Raum{"programm", 60, 60, nichts},
+    Raum{"spieler", 70, 10, POSIX | mpv},
+};
+
+// Includes beyond a room's sight that are meant: from (a folder or a file) into (a folder).
+struct Tür {
+    std::string_view Von;
+    std::string_view Nach;
+};
+constexpr std::array Türen{
+    Tür{"programm/main.cpp", "oberflaeche/qt"},
+    Tür{"programm/main.cpp", "plattform/linux"},
+    // Both ends of the wire that stands for window messages.
+    Tür{"spieler", "plattform/linux"},
+};
+// Behind these doors nobody gets otherwise, not even from above.
+constexpr std::array<std::string_view, 2> Verschlossen{"oberflaeche/qt", "plattform/linux"};
+
+bool liegt_in(std::string_view pfad, std::string_view ordner) {
+    return pfad.starts_with(ordner) && (pfad.size() == ordner.size() || pfad[ordner.size()] == '/');
+}
+
+const Raum* Raum_von(std::string_view pfad) {
+    const Raum* bester = nullptr;
+    for (const Raum& raum : Räume)
+        if (liegt_in(pfad, raum.Ordner) && (!bester || raum.Ordner.size() > bester->Ordner.size())) bester = &raum;
+    return bester;
+}
+
+bool hat_Tür(std::string_view von, std::string_view nach) {
+    return std::any_of(Türen.begin(), Türen.end(),
+                       [&](const Tür& tür) { return liegt_in(von, tür.Von) && tür.Nach == nach; });
+}
+
+bool ist_Einschluss(std::string_view zeile) {
+    const std::size_t raute = zeile.find_first_not_of(" \t");
+    if (raute == std::string_view::npos || zeile[raute] != '#') return false;
+    const std::size_t wort = zeile.find_first_not_of(" \t", raute + 1);
+    return wort != std::string_view::npos && zeile.substr(wort).starts_with("include");
+}
+
+struct Einschluss {
+    int Zeile;
+    bool Spitz;  // <...>
+    std::string Pfad;
+};
+
+std::vector<Einschluss> Einschlüsse(const std::string& code) {
+    static const std::regex muster(R"re(^\s*#\s*include\s*(?:<([^>]*)>|"([^"]*)"))re");
+    std::vector<Einschluss> ergebnis;
+    std::istringstream strom(code);
+    std::string zeile;
+    for (int nummer = 1; std::getline(strom, zeile); ++nummer) {
+        std::smatch treffer;
+        if (ist_Einschluss(zeile) && std::regex_search(zeile, treffer, muster))
+            ergebnis.push_back({nummer, treffer[1].matched, treffer[1].matched ? treffer[1].str() : treffer[2].str()});
+    }
+    return ergebnis;
+}
+
+std::string normal(const std::string& pfad) {
+    std::vector<std::string> teile;
+    std::istringstream strom(pfad);
+    for (std::string teil; std::getline(strom, teil, '/');) {
+        if (teil == ".." && !teile.empty())
+            teile.pop_back();
+        else if (!teil.empty() && teil != ".")
+            teile.push_back(teil);
+    }
+    std::string ergebnis;
+    for (const std::string& teil : teile) ergebnis += (ergebnis.empty() ? "" : "/") + teil;
+    return ergebnis;
+}
+
+// Beside the including file first, then below the include folders, as the compiler looks.
+std::optional<std::string> Ziel(const Quellen& quellen, const std::string& von, const std::string& pfad) {
+    const std::string beide[] = {von.substr(0, von.rfind('/') + 1) + pfad, "src/" + pfad, "tests/" + pfad,
+                                 "leistung/" + pfad};
+    for (const std::string& versuch : beide)
+        if (const std::string ziel = normal(versuch); quellen.contains(ziel)) return ziel;
+    return std::nullopt;
+}
+
+// A header in angle brackets: of Qt, of libmpv, or of the machine when it is not one of the C++ library, whose names have
+// neither dot nor slash. Other libraries count as the machine's: nobody but the rooms for such things may use one.
+Fremdes Herkunft(const std::string& kopf) {
+    if (kopf.starts_with("mpv/")) return mpv;
+    if (kopf.size() > 1 && kopf[0] == 'Q' && (std::isupper(static_cast<unsigned char>(kopf[1])) || kopf[1] == 't'))
+        return Qt;
+    if (kopf.starts_with("q") && kopf.ends_with(".h")) return Qt;
+    return kopf.find_first_of("./") == std::string::npos ? nichts : POSIX;
+}
+
+const char* Name(Fremdes fremdes) { return fremdes == Qt ? "Qt" : fremdes == mpv ? "libmpv" : "the machine (POSIX)"; }
+
+// Names that come along with headers of the standard library or need no header at all.
+struct Wortregel {
+    Fremdes Was;
+    std::regex Muster;
+};
+const std::vector<Wortregel>& Wortregeln() {
+    static const std::vector<Wortregel> regeln{
+        {Qt, std::regex(R"(\b(Q[A-Z]\w+|Q_[A-Z]+)\b)")},
+        {mpv, std::regex(R"(\bmpv_\w+)")},
+        {POSIX, std::regex(R"(\b(__linux__|__unix__|__APPLE__|_WIN32|_POSIX_\w+|_GNU_SOURCE)\b)")},
+        {POSIX, std::regex(R"(\b(localtime_r|gmtime_r|timegm|setenv|unsetenv|mkstemp|mkdtemp|realpath|popen|pclose|fileno|)"
+                           R"(fdopen|strcasecmp|strncasecmp|fsync|fdatasync|usleep|nanosleep|getpid|getuid|fork|execvp?|)"
+                           R"(posix_\w+|dlopen|pthread_\w+|sigaction|ftruncate|lstat|fstat)\s*\()")},
+    };
+    return regeln;
+}
+
+void prüfe_Wörter(const std::string& datei, const std::string& code, unsigned darf, std::vector<Verstoß>& verstöße) {
+    std::istringstream strom(code);
+    std::string zeile;
+    for (int nummer = 1; std::getline(strom, zeile); ++nummer) {
+        if (ist_Einschluss(zeile)) continue;
+        for (const Wortregel& regel : Wortregeln()) {
+            std::smatch treffer;
+            if (!(darf & regel.Was) && std::regex_search(zeile, treffer, regel.Muster))
+                verstöße.push_back({datei, nummer, std::string("names ") + Name(regel.Was) + ": " + treffer[1].str()});
+        }
+    }
+}
+
+void prüfe_Einschluss(const std::string& datei, const Raum& raum, const Einschluss& einschluss,
+                      const std::optional<std::string>& ziel, std::vector<Verstoß>& verstöße) {
+    const auto melde = [&](const std::string& grund) {
+        verstöße.push_back({datei, einschluss.Zeile, grund + ": " + einschluss.Pfad});
+    };
+    if (!ziel) {
+        const bool erzeugt = einschluss.Pfad.ends_with(".moc") || einschluss.Pfad.find("moc_") != std::string::npos;
+        const bool eigen = !einschluss.Spitz && einschluss.Pfad.ends_with(".hpp");
+        const Fremdes fremdes = erzeugt ? Qt : eigen ? nichts : Herkunft(einschluss.Pfad);
+        if (fremdes != nichts && !(raum.Darf & fremdes))
+            melde(std::string("names ") + Name(fremdes));
+        else if (!einschluss.Spitz && !erzeugt)
+            melde("no such file in the project");
+        return;
+    }
+    if (einschluss.Spitz) return melde("own files are included in quotes");
+    if (!ziel->starts_with("src/")) return melde("leaves src/");
+    const std::string_view von = std::string_view(datei).substr(4);
+    const Raum* nach = Raum_von(std::string_view(*ziel).substr(4));
+    if (!nach || nach == &raum || hat_Tür(von, nach->Ordner)) return;
+    if (std::find(Verschlossen.begin(), Verschlossen.end(), nach->Ordner) != Verschlossen.end())
+        return melde("only the composition may know " + std::string(nach->Ordner) + "/");
+    if (nach->Stockwerk > raum.Sicht) melde("points up a floor");
+}
+
+// Depth first; each loop is reported once, at the file that closes it.
+class Schleifensuche {
+public:
+    Schleifensuche(const std::map<std::string, std::vector<std::string>>& kanten, std::vector<Verstoß>& verstöße)
+        : Kanten_(kanten), Verstöße_(verstöße) {
+        for (const auto& [datei, _] : Kanten_) besuche(datei);
+    }
+
+private:
+    void besuche(const std::string& datei) {
+        if (Fertig_.contains(datei)) return;
+        Weg_.push_back(datei);
+        if (const auto nach = Kanten_.find(datei); nach != Kanten_.end()) {
+            for (const std::string& ziel : nach->second) {
+                const auto anfang = std::find(Weg_.begin(), Weg_.end(), ziel);
+                if (anfang == Weg_.end()) {
+                    besuche(ziel);
+                    continue;
+                }
+                std::string runde;
+                for (auto station = anfang; station != Weg_.end(); ++station) runde += *station + " > ";
+                Verstöße_.push_back({datei, 0, "include loop: " + runde + ziel});
+            }
+        }
+        Weg_.pop_back();
+        Fertig_.insert(datei);
+    }
+
+    const std::map<std::string, std::vector<std::string>>& Kanten_;
+    std::vector<Verstoß>& Verstöße_;
+    std::vector<std::string> Weg_;
+    std::set<std::string> Fertig_;
+};
+
+}  // namespace
+
+std::string nur_Code(const std::string& text) {
+    std::string code = text;
+    const auto leere = [&](std::size_t von, std::size_t bis) {
+        for (std::size_t i = von; i < bis && i < code.size(); ++i)
+            if (code[i] != '\n') code[i] = ' ';
+    };
+    std::size_t i = 0;
+    while (i < text.size()) {
+        if (text.compare(i, 2, "//") == 0) {
+            const std::size_t ende = std::min(text.find('\n', i), text.size());
+            leere(i, ende);
+            i = ende;
+        } else if (text.compare(i, 2, "/*") == 0) {
+            const std::size_t ende = text.find("*/", i + 2);
+            leere(i, ende == std::string::npos ? text.size() : ende + 2);
+            i = ende == std::string::npos ? text.size() : ende + 2;
+        } else if (text.compare(i, 2, "R\"") == 0) {
+            const std::size_t klammer = text.find('(', i);
+            if (klammer == std::string::npos) return code;
+            const std::string schluss = ")" + text.substr(i + 2, klammer - i - 2) + "\"";
+            const std::size_t ende = std::min(text.find(schluss, klammer), text.size());
+            leere(klammer + 1, ende);
+            i = std::min(ende + schluss.size(), text.size());
+        } else if (text[i] == '"' ||
+                   (text[i] == '\'' && (i == 0 || !std::isalnum(static_cast<unsigned char>(text[i - 1]))))) {
+            const char zeichen = text[i];
+            const std::size_t zeilenanfang = i == 0 ? 0 : text.rfind('\n', i - 1) + 1;
+            const bool einschluss = ist_Einschluss(std::string_view(text).substr(zeilenanfang, i - zeilenanfang));
+            std::size_t ende = i + 1;
+            while (ende < text.size() && text[ende] != zeichen && text[ende] != '\n') ende += text[ende] == '\\' ? 2u : 1u;
+            if (!einschluss) leere(i + 1, ende);
+            i = ende + 1;
+        } else {
+            ++i;
+        }
+    }
+    return code;
+}
+
+std::vector<Verstoß> prüfe(const Quellen& quellen) {
+    std::vector<Verstoß> verstöße;
+    std::map<std::string, std::vector<std::string>> kanten;
+    for (const auto& [datei, text] : quellen) {
+        const std::string code = nur_Code(text);
+        const bool geprüft = datei.starts_with("src/");
+        const Raum* raum = geprüft ? Raum_von(std::string_view(datei).substr(4)) : nullptr;
+        if (geprüft && !raum) verstöße.push_back({datei, 0, "its folder has no floor in the table"});
+        for (const Einschluss& einschluss : Einschlüsse(code)) {
+            const std::optional<std::string> ziel = Ziel(quellen, datei, einschluss.Pfad);
+            if (ziel) kanten[datei].push_back(*ziel);
+            // Tests and benchmarks may look everywhere; only loops are looked for there.
+            if (raum) prüfe_Einschluss(datei, *raum, einschluss, ziel, verstöße);
+        }
+        if (raum) prüfe_Wörter(datei, code, raum->Darf, verstöße);
+    }
+    Schleifensuche(kanten, verstöße);
+    return verstöße;
+}
+
+}  // namespace tonkartei::haus

@@ -1,0 +1,127 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "haus/hausordnung.hpp"
+
+using namespace tonkartei::haus;
+
+namespace {
+
+std::string Gründe(const std::vector<Verstoß>& verstöße) {
+    std::string text;
+    for (const Verstoß& v : verstöße) text += v.Datei + ":" + std::to_string(v.Zeile) + ": " + v.Grund + "\n";
+    return text;
+}
+
+Quellen lies_Projekt(const std::filesystem::path& wurzel) {
+    Quellen quellen;
+    for (const char* ordner : {"src", "tests", "leistung"}) {
+        for (const auto& eintrag : std::filesystem::recursive_directory_iterator(wurzel / ordner)) {
+            const auto endung = eintrag.path().extension();
+            if (!eintrag.is_regular_file() || (endung != ".cpp" && endung != ".hpp" && endung != ".h")) continue;
+            std::ostringstream text;
+            text << std::ifstream(eintrag.path(), std::ios::binary).rdbuf();
+            quellen[eintrag.path().lexically_relative(wurzel).generic_string()] = text.str();
+        }
+    }
+    return quellen;
+}
+
+// The files that the cases include, each harmless by itself.
+Quellen Umgebung() {
+    Quellen quellen;
+    for (const char* datei :
+         {"src/grundlagen/text.hpp", "src/plattform/shell.hpp", "src/plattform/linux/xdg.hpp", "src/oberflaeche/fenster.hpp",
+          "src/oberflaeche/qt/ansicht_qt.hpp", "src/mp3/tag.hpp", "src/datenbank/modell.hpp", "src/kategorien/wahl.hpp",
+          "src/liste/bereich.hpp", "src/dj/dj.hpp", "src/programm/programm.hpp", "tests/probe/probe.hpp"})
+        quellen[datei] = "#pragma once\n";
+    return quellen;
+}
+
+struct Fall {
+    const char* Datei;
+    const char* Text;
+    const char* Grund;  // part of what must be found; empty: nothing may be found
+};
+
+}  // namespace
+
+TEST(Hausordnung, FindetWasSieVerbietet) {
+    const Fall fälle[] = {
+        {"src/grundlagen/a.cpp", "#include \"plattform/shell.hpp\"\n", "points up a floor"},
+        {"src/mp3/a.cpp", "#include \"datenbank/modell.hpp\"\n", "points up a floor"},
+        {"src/mp3/a.cpp", "#include \"../datenbank/modell.hpp\"\n", "points up a floor"},
+        {"src/kategorien/a.cpp", "  #  include \"liste/bereich.hpp\"\n", "points up a floor"},
+        {"src/oberflaeche/qt/a.cpp", "#include \"datenbank/modell.hpp\"\n", "points up a floor"},
+        {"src/plattform/linux/a.cpp", "#include \"mp3/tag.hpp\"\n", "points up a floor"},
+        {"src/spieler/a.cpp", "#include \"datenbank/modell.hpp\"\n", "points up a floor"},
+        {"src/dj/a.cpp", "#include \"programm/programm.hpp\"\n", "points up a floor"},
+        {"src/mp3/a.cpp", "#include \"plattform/linux/xdg.hpp\"\n", "only the composition"},
+        {"src/programm/a.cpp", "#include \"oberflaeche/qt/ansicht_qt.hpp\"\n", "only the composition"},
+        {"src/programm/a.cpp", "#include \"probe/probe.hpp\"\n", "leaves src/"},
+        {"src/programm/a.cpp", "#include \"fehlt.hpp\"\n", "no such file"},
+        {"src/programm/a.cpp", "#include <mp3/tag.hpp>\n", "in quotes"},
+        {"src/garten/a.cpp", "", "no floor"},
+        {"src/mp3/a.cpp", "#include <QString>\n", "Qt"},
+        {"src/mp3/a.cpp", "#include <QtCore/qstring.h>\n", "Qt"},
+        {"src/mp3/a.cpp", "#include <qglobal.h>\n", "Qt"},
+        {"src/programm/main.cpp", "#include <QApplication>\n", "Qt"},
+        {"src/programm/main.cpp", "int x = QThread::idealThreadCount();\n", "Qt"},
+        {"src/plattform/linux/a.cpp", "#include <QFile>\n", "Qt"},
+        {"src/datenbank/a.cpp", "#include <unistd.h>\n", "POSIX"},
+        {"src/datenbank/a.cpp", "#include <sys/stat.h>\n", "POSIX"},
+        {"src/datenbank/a.cpp", "#include \"unistd.h\"\n", "POSIX"},
+        {"src/datenbank/a.cpp", "int main() { return getpid (); }\n", "POSIX"},
+        {"src/grundlagen/a.cpp", "#ifdef __linux__\n", "POSIX"},
+        {"src/oberflaeche/qt/a.cpp", "#include <fcntl.h>\n", "POSIX"},
+        {"src/wiedergabe/a.cpp", "#include <mpv/client.h>\n", "libmpv"},
+        {"src/plattform/linux/a.cpp", "auto* p = mpv_create();\n", "libmpv"},
+        {"src/datenbank/modell.hpp", "#include \"datenbank/modell.hpp\"\n", "include loop"},
+        {"src/grundlagen/a.cpp", "auto s = \"// \";  auto* p = mpv_create();\n", "libmpv"},
+        {"src/grundlagen/a.cpp", "int n = 1'000; char c = '\"'; int y = fork();\n", "POSIX"},
+    };
+    for (const Fall& fall : fälle) {
+        Quellen quellen = Umgebung();
+        quellen[fall.Datei] = fall.Text;
+        const auto verstöße = prüfe(quellen);
+        EXPECT_EQ(verstöße.size(), 1u) << fall.Datei << ": " << fall.Text << Gründe(verstöße);
+        EXPECT_NE(Gründe(verstöße).find(fall.Grund), std::string::npos) << fall.Text << Gründe(verstöße);
+    }
+}
+
+TEST(Hausordnung, ErlaubtWasErlaubtIst) {
+    const Fall fälle[] = {
+        {"src/datenbank/a.cpp", "#include <vector>\n#include \"mp3/tag.hpp\"\n#include \"grundlagen/text.hpp\"\n", ""},
+        {"src/oberflaeche/qt/a.cpp", "#include <QWidget>\n#include \"oberflaeche/fenster.hpp\"\n#include \"a.moc\"\n", ""},
+        {"src/plattform/linux/a.cpp", "#include <sys/stat.h>\n#include \"xdg.hpp\"\nint a = getpid();\n", ""},
+        {"src/spieler/a.cpp", "#include <mpv/client.h>\n#include <poll.h>\n#include \"plattform/linux/xdg.hpp\"\n", ""},
+        {"src/programm/main.cpp",
+         "#include \"oberflaeche/qt/ansicht_qt.hpp\"\n#include \"plattform/linux/xdg.hpp\"\n#include \"dj/dj.hpp\"\n", ""},
+        {"src/grundlagen/a.cpp", "// QString, mpv_create(), fork()\n/* #include <unistd.h>\n */ int Quicksort;\n", ""},
+        {"src/grundlagen/a.cpp", "auto a = \"QString \\\" fork()\"; auto b = R\"x(getpid() \" )x\";\n", ""},
+        {"tests/mp3/a.cpp", "#include <unistd.h>\n#include \"mp3/tag.hpp\"\n#include \"probe/probe.hpp\"\n", ""},
+    };
+    for (const Fall& fall : fälle) {
+        Quellen quellen = Umgebung();
+        quellen[fall.Datei] = fall.Text;
+        EXPECT_EQ(Gründe(prüfe(quellen)), "") << fall.Text;
+    }
+}
+
+TEST(Hausordnung, FindetEineSchleifeÜberMehrereDateien) {
+    Quellen quellen = Umgebung();
+    quellen["src/mp3/a.hpp"] = "#include \"mp3/b.hpp\"\n";
+    quellen["src/mp3/b.hpp"] = "#include \"grundlagen/text.hpp\"\n#include \"c.hpp\"\n";
+    quellen["src/mp3/c.hpp"] = "#include \"mp3/a.hpp\"\n";
+    EXPECT_EQ(Gründe(prüfe(quellen)),
+              "src/mp3/c.hpp:0: include loop: src/mp3/a.hpp > src/mp3/b.hpp > src/mp3/c.hpp > src/mp3/a.hpp\n");
+}
+
+TEST(Hausordnung, WirdEingehalten) {
+    const Quellen quellen = lies_Projekt(TONKARTEI_WURZEL);
+    ASSERT_TRUE(quellen.contains("src/grundlagen/text.hpp"));
+    EXPECT_EQ(Gründe(prüfe(quellen)), "");
+}
