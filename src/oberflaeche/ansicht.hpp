@@ -79,7 +79,8 @@ public:
     virtual int Zeilenhöhe(int punkte) const = 0;
 
     // --- running -------------------------------------------------------------------------------------------------------
-    // Handles what is pending and returns; does not block. Throws Programmende once the end is decided and this is a nested wait.
+    // Handles what is pending and returns; does not block. Throws Programmende once the end is decided and this is a nested
+    // wait.
     virtual void Ereignisse_laufen_lassen() = 0;
     // Lets events run until the condition holds, which is asked after every event. `fenster` is the dialog that waits.
     virtual void warten_bis(Fenster& fenster, const std::function<bool()>& bedingung) = 0;
@@ -111,6 +112,8 @@ public:
     void Fenster_aufnehmen(Fenster& fenster);
     void Fenster_vergessen(Fenster& fenster);
     void Fenster_nach_vorn(Fenster& fenster);
+    void Fenster_gezeigt(Fenster& fenster);  // became visible; what was up before a modal window is blocked by it
+    void Element_verschwindet(Element& element);
     void modal_laufen_lassen(Fenster& fenster);
 
 protected:
@@ -119,7 +122,7 @@ protected:
 private:
     std::vector<Fenster*> fenster_;
     std::vector<Fenster*> modale_;
-    std::vector<const Fenster*> gezeigt_;  // in the order of their showing
+    std::vector<const Fenster*> gezeigt_;  // in the order of their becoming visible
     Element* fokus_ = nullptr;
     bool endet_ = false;
 };

@@ -17,7 +17,7 @@ enum class Elementart {
     Knopf,       // push button
     Kasten,      // check box
     Option,      // option button
-    Text,        // text field
+    Eingabe,     // text field
     Schrift,     // label
     Liste,       // list box
     Auswahl,     // drop-down list
@@ -49,7 +49,7 @@ struct Taste {
 class Element {
 public:
     Element(Fenster& fenster, Elementart art, Text name, Text beschriftung = {}, int index = 0);
-    virtual ~Element() = default;
+    virtual ~Element();
     Element(const Element&) = delete;
     Element& operator=(const Element&) = delete;
 
@@ -111,10 +111,10 @@ public:
     // Raised by hand and code alike where a value changes (see each kind); else by the hand.
     Ereignis<> Klick;
     Ereignis<> Doppelklick;
-    Ereignis<int, int> Gedrückt;      // left button goes down; twips in the control
-    Ereignis<int, int> Losgelassen;   // left button comes up
-    Ereignis<int> Rechtsklick;        // right button comes up; the line under the mouse, -1 none
-    Ereignis<> Mausbewegung;          // the mouse moves over it
+    Ereignis<int, int> Gedrückt;     // left button goes down; twips in the control
+    Ereignis<int, int> Losgelassen;  // left button comes up
+    Ereignis<int> Rechtsklick;       // right button comes up; the line under the mouse, -1 none
+    Ereignis<> Mausbewegung;         // the mouse moves over it
     Ereignis<Taste&> Tastendruck;
 
     // Drag and drop: a drag that starts here carries this mark; empty: nothing can be dragged from here.

@@ -68,7 +68,7 @@ private:
 class Textfeld : public Element {
 public:
     Textfeld(Fenster& f, Text name, Text inhalt = {}, int index = ohne_Index)
-        : Element(f, Elementart::Text, std::move(name), {}, index), text_(std::move(inhalt)) {}
+        : Element(f, Elementart::Eingabe, std::move(name), {}, index), text_(std::move(inhalt)) {}
     const Text& text() const noexcept { return text_; }
     // Raises Geändert when it changes.
     void text(Text neu);

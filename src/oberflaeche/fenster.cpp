@@ -1,0 +1,173 @@
+#include "oberflaeche/fenster.hpp"
+
+#include <algorithm>
+
+#include "oberflaeche/ansicht.hpp"
+
+namespace tonkartei {
+
+Fenster::Fenster(Ansicht& ansicht, Text name, Text titel)
+    : ansicht_(ansicht), name_(std::move(name)), titel_(std::move(titel)), start_titel_(titel_) {}
+
+Fenster::~Fenster() { ansicht_.Fenster_vergessen(*this); }
+
+void Fenster::laden() {
+    if (geladen_) return;
+    for (Element* e : elemente_) {
+        if (startwerte_da_)
+            e->Startwerte_setzen();
+        else
+            e->Startwerte_merken();
+    }
+    startwerte_da_ = true;
+    titel_ = start_titel_;
+    zustand_ = Fensterzustand::normal;
+    aktiv_ = true;
+    geladen_ = true;
+    if (!anordnung_) anordnung_ = std::make_unique<Anordnung>(ansicht_, anordnung());
+    ansicht_.Fenster_aufnehmen(*this);
+    const Größe wunsch = Startgröße();
+    const Größe mindest = Mindestgröße();
+    lage_.breite = std::max(wunsch.breite, mindest.breite);
+    lage_.höhe = std::max(wunsch.höhe, mindest.höhe);
+    zentrieren();
+    neu_anordnen();
+    beim_Laden();
+    if (geladen_) ansicht_.Fenster_geändert(*this);
+}
+
+void Fenster::zeigen() {
+    laden();
+    if (!sichtbar_) {
+        sichtbar_ = true;
+        ansicht_.Fenster_gezeigt(*this);
+    }
+    nach_vorn();
+}
+
+void Fenster::zeigen_modal() {
+    laden();
+    modal_ = true;
+    zeigen();
+    ansicht_.modal_laufen_lassen(*this);
+    modal_ = false;
+}
+
+void Fenster::verstecken() {
+    if (!sichtbar_) return;
+    sichtbar_ = false;
+    ansicht_.Fenster_geändert(*this);
+}
+
+bool Fenster::entladen(Schließgrund grund) {
+    if (!geladen_ || schließt_) return true;
+    struct Merker {
+        bool& m;
+        explicit Merker(bool& b) : m(b) { m = true; }
+        ~Merker() { m = false; }
+    } const merker(schließt_);
+    if (!beim_Schließen(grund) && grund != Schließgrund::außen) return false;
+    beim_Entladen();
+    geladen_ = false;
+    sichtbar_ = false;
+    ansicht_.Fenster_vergessen(*this);
+    ansicht_.Fenster_geändert(*this);
+    return true;
+}
+
+void Fenster::nach_vorn() {
+    if (!geladen_) return;
+    ansicht_.Fenster_nach_vorn(*this);
+    ansicht_.Fenster_geändert(*this);
+}
+
+void Fenster::aktiv(bool wert) {
+    if (aktiv_ == wert) return;
+    aktiv_ = wert;
+    if (geladen_) ansicht_.Fenster_geändert(*this);
+}
+
+void Fenster::zustand(Fensterzustand neu) {
+    if (zustand_ == neu) return;
+    zustand_ = neu;
+    ansicht_.Fenster_geändert(*this);
+    bei_neuem_Zustand();
+}
+
+void Fenster::immer_oben(bool wert) {
+    if (immer_oben_ == wert) return;
+    immer_oben_ = wert;
+    if (geladen_) ansicht_.Fenster_geändert(*this);
+}
+
+void Fenster::titel(Text wert) {
+    if (titel_ == wert) return;
+    titel_ = std::move(wert);
+    if (geladen_) ansicht_.Fenster_geändert(*this);
+}
+
+void Fenster::bewegen(int links, int oben) {
+    if (lage_.links == links && lage_.oben == oben) return;
+    lage_.links = links;
+    lage_.oben = oben;
+    if (geladen_) ansicht_.Fenster_geändert(*this);
+}
+
+void Fenster::größe(int breite, int höhe) {
+    von_Hand_bemessen(breite, höhe);
+    if (geladen_) ansicht_.Fenster_geändert(*this);
+}
+
+void Fenster::von_Hand_bewegt(int links, int oben) {
+    lage_.links = links;
+    lage_.oben = oben;
+}
+
+void Fenster::von_Hand_bemessen(int breite, int höhe) {
+    const Größe mindest = Mindestgröße();
+    breite = std::max(breite, mindest.breite);
+    höhe = std::max(höhe, mindest.höhe);
+    if (lage_.breite == breite && lage_.höhe == höhe) return;
+    lage_.breite = breite;
+    lage_.höhe = höhe;
+    neu_anordnen();
+    if (geladen_) bei_neuer_Größe();
+}
+
+void Fenster::von_Hand_Zustand(Fensterzustand neu) {
+    if (zustand_ == neu) return;
+    zustand_ = neu;
+    bei_neuem_Zustand();
+}
+
+void Fenster::zentrieren() {
+    const Größe bildschirm = ansicht_.Bildschirm();
+    bewegen((bildschirm.breite - lage_.breite) / 2, (bildschirm.höhe - lage_.höhe) / 2);
+}
+
+Größe Fenster::Mindestgröße() { return anordnung_ ? anordnung_->Mindestgröße() : Größe{}; }
+
+Element* Fenster::element(const Text& name, int index) const {
+    for (Element* e : elemente_)
+        if (e->Name() == name && (index == -1 || e->Index() == index)) return e;
+    return nullptr;
+}
+
+void Fenster::neu_anordnen() {
+    if (!geladen_ || !anordnung_ || ordnet_) return;
+    ordnet_ = true;
+    const Größe mindest = anordnung_->Mindestgröße();
+    if (mindest.breite > lage_.breite || mindest.höhe > lage_.höhe) {
+        lage_.breite = std::max(lage_.breite, mindest.breite);
+        lage_.höhe = std::max(lage_.höhe, mindest.höhe);
+        ansicht_.Fenster_geändert(*this);
+    }
+    anordnung_->anordnen({lage_.breite, lage_.höhe});
+    ordnet_ = false;
+}
+
+void Fenster::malen() {
+    if (sichtbar()) ansicht_.Fenster_malen(*this);
+}
+
+}  // namespace tonkartei

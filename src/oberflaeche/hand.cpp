@@ -1,0 +1,170 @@
+#include "oberflaeche/hand.hpp"
+
+#include <algorithm>
+
+#include "grundlagen/codepage.hpp"
+#include "oberflaeche/ansicht.hpp"
+#include "oberflaeche/elemente.hpp"
+#include "oberflaeche/fenster.hpp"
+#include "oberflaeche/listen.hpp"
+
+namespace tonkartei::Hand {
+namespace {
+
+void fokussieren(Element& element) {
+    if (element.nimmt_Fokus()) element.fenster().ansicht().fokus(element);
+}
+
+// The character behind a single "&", in upper case; empty without one.
+Text Zugriffszeichen(const Text& beschriftung) {
+    for (std::size_t i = 0; i + 1 < beschriftung.size(); ++i) {
+        if (beschriftung[i] != '&') continue;
+        if (beschriftung[i + 1] == '&') {
+            ++i;
+            continue;
+        }
+        return groß(links(std::string_view(beschriftung).substr(i + 1), 1));
+    }
+    return {};
+}
+
+bool Wahl_verschieben(Element& element, int schritt) {
+    if (element.art() == Elementart::Liste || element.art() == Elementart::Auswahl) {
+        auto& liste = static_cast<Zeilenelement&>(element);
+        const int neu = std::clamp(liste.gewählt() + schritt, 0, std::max(0, liste.Anzahl() - 1));
+        if (liste.Anzahl() > 0 && neu != liste.gewählt()) liste.wähle(neu);
+        return true;
+    }
+    if (element.art() == Elementart::Regler) {
+        auto& regler = static_cast<Regler&>(element);
+        schieben(regler, regler.wert() - schritt);
+        return true;
+    }
+    return false;
+}
+
+void Knopf_drücken(Element* knopf) {
+    if (knopf != nullptr && knopf->bedienbar()) klicken(*knopf);
+}
+
+void tippen(Element& element, const Taste& taste) {
+    switch (element.art()) {
+        case Elementart::Eingabe: {
+            auto& feld = static_cast<Textfeld&>(element);
+            if (!feld.nur_lesen) feld.text(feld.text() + taste.zeichen);
+            break;
+        }
+        case Elementart::Knopf:
+        case Elementart::Kasten:
+        case Elementart::Option:
+            if (taste.zeichen == " ") klicken(element);
+            break;
+        default: break;
+    }
+}
+
+}  // namespace
+
+void klicken(Element& element, int x, int y) {
+    fokussieren(element);
+    drücken(element, x, y);
+    loslassen(element, x, y);
+    element.von_Hand_klicken();
+}
+
+void doppelklicken(Element& element, int, int) {
+    fokussieren(element);
+    element.Doppelklick();
+}
+
+void drücken(Element& element, int x, int y) {
+    fokussieren(element);
+    element.Gedrückt(x, y);
+}
+
+void loslassen(Element& element, int x, int y) { element.Losgelassen(x, y); }
+
+void rechtsklicken(Element& element, int zeile) { element.Rechtsklick(zeile); }
+
+void wählen(Element& element, int zeile) {
+    fokussieren(element);
+    if (element.art() == Elementart::Reiter)
+        static_cast<Reiter&>(element).wert(zeile);
+    else if (element.art() == Elementart::Liste || element.art() == Elementart::Auswahl)
+        static_cast<Zeilenelement&>(element).wähle(zeile);
+}
+
+void schreiben(Element& element, const Text& text) {
+    fokussieren(element);
+    if (element.art() == Elementart::Eingabe) static_cast<Textfeld&>(element).text(text);
+}
+
+void schieben(Element& element, int wert) {
+    if (element.art() == Elementart::Regler) static_cast<Regler&>(element).von_Hand_schieben(wert);
+}
+
+void Taste_drücken(Element& element, Taste taste) {
+    element.Tastendruck(taste);
+    if (taste.erledigt) return;
+    Fenster& fenster = element.fenster();
+    switch (taste.art) {
+        case Taste::Art::Return: Knopf_drücken(element.art() == Elementart::Knopf ? &element : fenster.Vorgabeknopf); break;
+        case Taste::Art::Escape: Knopf_drücken(fenster.Abbruchknopf); break;
+        case Taste::Art::Tab:
+            if (Element* nächstes = nächster_Fokus(element)) fokussieren(*nächstes);
+            break;
+        case Taste::Art::Auf: Wahl_verschieben(element, -1); break;
+        case Taste::Art::Ab: Wahl_verschieben(element, 1); break;
+        case Taste::Art::Alt:
+            if (Element* ziel = Zugriffstaste(fenster, taste.zeichen)) {
+                const bool auslösbar = ziel->art() == Elementart::Knopf || ziel->art() == Elementart::Kasten ||
+                                       ziel->art() == Elementart::Option;
+                if (auslösbar)
+                    klicken(*ziel);
+                else
+                    fokussieren(*ziel);
+            }
+            break;
+        case Taste::Art::Löschen:
+            if (element.art() == Elementart::Eingabe) {
+                auto& feld = static_cast<Textfeld&>(element);
+                const std::size_t zeichen = Zeichenzahl(feld.text());
+                if (zeichen > 0 && !feld.nur_lesen) feld.text(links(feld.text(), zeichen - 1));
+            }
+            break;
+        case Taste::Art::Zeichen: tippen(element, taste); break;
+    }
+}
+
+void Maus_bewegen(Element& element) { element.Mausbewegung(); }
+
+void ablegen(Element& quelle, Element& ziel) {
+    quelle.Ziehen_beginnt();
+    if (!quelle.Ziehmarke.empty()) ziel.Abgelegt(quelle);
+}
+
+void Dateien_ablegen(Element& ziel, const std::vector<Text>& pfade) { ziel.Dateien_abgelegt(pfade); }
+
+Element* Zugriffstaste(Fenster& fenster, const Text& zeichen) {
+    const Text gesucht = groß(zeichen);
+    for (Element* e : fenster.elemente()) {
+        if (e->art() == Elementart::Menü || !e->bedienbar()) continue;
+        if (e->art() == Elementart::Schrift && static_cast<Schriftfeld*>(e)->wie_Daten) continue;
+        if (Zugriffszeichen(e->beschriftung()) != gesucht || gesucht.empty()) continue;
+        if (e->art() == Elementart::Schrift || e->art() == Elementart::Rahmen) return nächster_Fokus(*e);
+        return e;
+    }
+    return nullptr;
+}
+
+Element* nächster_Fokus(Element& element) {
+    const auto& alle = element.fenster().elemente();
+    const auto hier = std::find(alle.begin(), alle.end(), &element);
+    for (auto i = hier == alle.end() ? hier : hier + 1; i != alle.end(); ++i)
+        if ((*i)->nimmt_Fokus()) return *i;
+    for (auto i = alle.begin(); i != hier; ++i)
+        if ((*i)->nimmt_Fokus()) return *i;
+    return nullptr;
+}
+
+}  // namespace tonkartei::Hand
