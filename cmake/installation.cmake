@@ -8,7 +8,7 @@ endif()
 if(TARGET spieler)
   install(TARGETS spieler RUNTIME DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/tonkartei)
 endif()
-install(FILES symbol/tonkartei.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES src/programm/tonkartei.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES symbol/tonkartei.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 foreach(kante 48 128 256)
   install(FILES symbol/tonkartei-${kante}.png
