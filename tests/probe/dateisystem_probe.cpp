@@ -1,0 +1,105 @@
+#include "probe/dateisystem_probe.hpp"
+
+#include <algorithm>
+
+#include "grundlagen/fehler.hpp"
+
+namespace tonkartei {
+
+Text Dateisystem_Probe::voller_Pfad(const Text& pfad) const {
+    const Text ganz = ist_absolut(pfad) ? pfad : mit_Trenner(aktueller_Ordner()) + pfad;
+    std::vector<Text> teile;
+    std::size_t anfang = 0;
+    while (anfang <= ganz.size()) {
+        const std::size_t ende = std::min(ganz.find(Trenner, anfang), ganz.size());
+        const Text teil = ganz.substr(anfang, ende - anfang);
+        if (teil == "..") {
+            if (!teile.empty()) teile.pop_back();
+        } else if (!teil.empty() && teil != ".") {
+            teile.push_back(teil);
+        }
+        anfang = ende + 1;
+    }
+    Text ergebnis(1, Trenner);
+    for (const Text& teil : teile) ergebnis += teil + Trenner;
+    return ergebnis;
+}
+
+bool Dateisystem_Probe::geschützt(const Text& pfad) const {
+    const Text voll = voller_Pfad(pfad);
+    return std::any_of(geschützt_.begin(), geschützt_.end(),
+                       [&](const Text& ordner) { return voll.size() > ordner.size() && voll.starts_with(ordner); });
+}
+
+std::size_t Dateisystem_Probe::Laufwerk_von(const Text& pfad) const {
+    const Text voll = voller_Pfad(pfad);
+    std::size_t ergebnis = 0, länge = 0;
+    for (std::size_t i = 0; i < laufwerke_.size(); ++i) {
+        if (!voll.starts_with(laufwerke_[i]) || laufwerke_[i].size() < länge) continue;
+        ergebnis = i + 1;
+        länge = laufwerke_[i].size();
+    }
+    return ergebnis;
+}
+
+void Dateisystem_Probe::Schreibschutz(const Text& ordner, bool an) {
+    if (an)
+        geschützt_.insert(voller_Pfad(ordner));
+    else
+        geschützt_.erase(voller_Pfad(ordner));
+}
+
+void Dateisystem_Probe::Laufwerk(const Text& ordner) { laufwerke_.push_back(voller_Pfad(ordner)); }
+
+Dateisystem::Griff Dateisystem_Probe::öffnen(const Text& pfad, Dateimodus modus) {
+    if (störungen_.trifft(Vorgang::öffnen)) throw Dateifehler(70, pfad);
+    if (modus != Dateimodus::lesen && geschützt(pfad)) throw Dateifehler(75, pfad);
+    return echt_.öffnen(pfad, modus);
+}
+
+std::size_t Dateisystem_Probe::lesen(Griff griff, std::uint64_t stelle, std::span<char> ziel) {
+    if (störungen_.trifft(Vorgang::lesen)) throw Dateifehler(57);
+    return echt_.lesen(griff, stelle, ziel);
+}
+
+void Dateisystem_Probe::schreiben(Griff griff, std::uint64_t stelle, std::span<const char> bytes) {
+    if (störungen_.trifft(Vorgang::schreiben)) throw Dateifehler(61);
+    echt_.schreiben(griff, stelle, bytes);
+}
+
+void Dateisystem_Probe::umbenennen(const Text& von, const Text& nach) {
+    if (störungen_.trifft(Vorgang::umbenennen) || geschützt(von) || geschützt(nach)) throw Dateifehler(75, von);
+    if (echt_.Datei_da(von) && Laufwerk_von(von) != Laufwerk_von(nach)) throw Dateifehler(74, von);
+    echt_.umbenennen(von, nach);
+}
+
+void Dateisystem_Probe::löschen(const Text& pfad) {
+    if (störungen_.trifft(Vorgang::löschen) || geschützt(pfad)) throw Dateifehler(70, pfad);
+    echt_.löschen(pfad);
+}
+
+void Dateisystem_Probe::Ordner_anlegen(const Text& pfad) {
+    if (störungen_.trifft(Vorgang::anlegen) || geschützt(pfad)) throw Dateifehler(75, pfad);
+    echt_.Ordner_anlegen(pfad);
+}
+
+void Dateisystem_Probe::Ordner_löschen(const Text& pfad) {
+    if (störungen_.trifft(Vorgang::löschen) || geschützt(pfad)) throw Dateifehler(75, pfad);
+    echt_.Ordner_löschen(pfad);
+}
+
+void Dateisystem_Probe::kopieren(const Text& von, const Text& nach) {
+    if (störungen_.trifft(Vorgang::kopieren)) throw Dateifehler(61, nach);
+    if (geschützt(nach)) throw Dateifehler(75, nach);
+    echt_.kopieren(von, nach);
+}
+
+bool Dateisystem_Probe::gleiches_Laufwerk(const Text& a, const Text& b) {
+    return Laufwerk_von(a) == Laufwerk_von(b) && echt_.gleiches_Laufwerk(a, b);
+}
+
+std::optional<std::uint64_t> Dateisystem_Probe::freie_Bytes(const Text& ordner) {
+    return platz_ ? platz_ : echt_.freie_Bytes(ordner);
+}
+
+}  // namespace tonkartei
