@@ -60,6 +60,7 @@ install: bauen
 	@cmake --install $(RELEASE) --prefix '$(PREFIX)'
 
 paket: bauen
+	@sh skripte/einrichten.sh paket
 	@cd $(RELEASE) && cpack -G DEB
 
 bediener:

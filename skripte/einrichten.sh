@@ -1,6 +1,7 @@
 #!/bin/sh
 # Installs the Debian packages that building, testing and running need, and nothing when they are all there (one
-# question to dpkg, no apt). Groups by argument: "leistung" adds the benchmarks' packages, "format" the formatter.
+# question to dpkg, no apt). Groups by argument: "leistung" adds the benchmarks' packages, "format" the formatter, "paket"
+# what making a Debian package takes.
 set -eu
 
 # Building and running. libgl1 and the xcb libraries come with Qt; sound comes with libmpv.
@@ -14,8 +15,9 @@ for gruppe in "$@"; do
     case $gruppe in
         leistung) pakete="$pakete libbenchmark-dev libtag1-dev" ;;
         format) pakete="$pakete clang-format" ;;
+        paket) pakete="$pakete dpkg-dev file" ;;
         *)
-            echo "einrichten.sh: unknown group '$gruppe' (known: leistung, format)" >&2
+            echo "einrichten.sh: unknown group '$gruppe' (known: leistung, format, paket)" >&2
             exit 2
             ;;
     esac
