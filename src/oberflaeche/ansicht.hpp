@@ -61,6 +61,7 @@ public:
     virtual void Fenster_geändert(Fenster& fenster) = 0;                     // title, visible, state, place, size, enabled
     virtual void Element_geändert(Element& element, unsigned änderung) = 0;  // bits of Änderung
     virtual void Fenster_malen(Fenster& fenster) = 0;                        // repaints at once, runs no input
+    virtual void Fenster_verschwindet(Fenster&) {}                           // the object dies; its controls are gone
     virtual void modal_laufen(Fenster& fenster) = 0;                         // until it is hidden
     virtual void Menü_zeigen(Menüpunkt& wurzel) = 0;                         // a pop-up menu at the mouse
     virtual void Zwischenablage_setzen(const Text& text) = 0;

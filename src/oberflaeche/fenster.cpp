@@ -9,7 +9,10 @@ namespace tonkartei {
 Fenster::Fenster(Ansicht& ansicht, Text name, Text titel)
     : ansicht_(ansicht), name_(std::move(name)), titel_(std::move(titel)), start_titel_(titel_) {}
 
-Fenster::~Fenster() { ansicht_.Fenster_vergessen(*this); }
+Fenster::~Fenster() {
+    ansicht_.Fenster_vergessen(*this);
+    ansicht_.Fenster_verschwindet(*this);
+}
 
 void Fenster::laden() {
     if (geladen_) return;

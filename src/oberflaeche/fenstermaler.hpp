@@ -18,6 +18,7 @@ public:
     virtual void Element_geändert(Element& element, unsigned änderung) = 0;
     virtual void Fenster_malen(Fenster& fenster) = 0;
     virtual void Fokus_zeigen(Element& element) = 0;
+    virtual void Fenster_verschwindet(Fenster& fenster) = 0;
 
     virtual int Textbreite(const Text& text, int punkte) const = 0;
     virtual int Texthöhe(int punkte) const = 0;
