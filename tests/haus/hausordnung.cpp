@@ -185,7 +185,9 @@ void prüfe_Einschluss(const std::string& datei, const Raum& raum, const Einschl
 class Schleifensuche {
 public:
     Schleifensuche(const std::map<std::string, std::vector<std::string>>& kanten, std::vector<Verstoß>& verstöße)
-        : Kanten_(kanten), Verstöße_(verstöße) {
+        : Kanten_(kanten), Verstöße_(verstöße) {}
+
+    void suche() {
         for (const auto& [datei, _] : Kanten_) besuche(datei);
     }
 
@@ -201,7 +203,7 @@ private:
                     continue;
                 }
                 std::string runde;
-                for (auto station = anfang; station != Weg_.end(); ++station) runde += *station + " > ";
+                for (auto station = anfang; station != Weg_.end(); ++station) runde.append(*station).append(" > ");
                 Verstöße_.push_back({datei, 0, "include loop: " + runde + ziel});
             }
         }
@@ -272,7 +274,7 @@ std::vector<Verstoß> prüfe(const Quellen& quellen) {
         }
         if (raum) prüfe_Wörter(datei, code, raum->Darf, verstöße);
     }
-    Schleifensuche(kanten, verstöße);
+    Schleifensuche(kanten, verstöße).suche();
     return verstöße;
 }
 
