@@ -1,0 +1,190 @@
+#include "spieler/abspieler.hpp"
+
+#include <mpv/client.h>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <stdexcept>
+
+namespace tonkartei::spieler {
+
+namespace {
+
+constexpr auto Sprungfrist = std::chrono::seconds(2);  // a jump that has shown no effect by then had none
+constexpr std::uint64_t Beobachtet_Position = 1, Beobachtet_Länge = 2;
+
+// A plain player of local songs: no pictures, no scripts, no settings of the user's, and no file that leads to another one.
+constexpr const char* Einstellungen[][2] = {
+    {"config", "no"},
+    {"terminal", "no"},
+    {"msg-level", "all=no"},
+    {"idle", "yes"},
+    {"load-scripts", "no"},
+    {"ytdl", "no"},
+    {"osc", "no"},
+    {"load-stats-overlay", "no"},
+    {"load-osd-console", "no"},
+    {"load-auto-profiles", "no"},
+    {"input-default-bindings", "no"},
+    {"input-media-keys", "no"},
+    {"resume-playback", "no"},
+    {"vo", "null"},
+    {"vid", "no"},
+    {"sid", "no"},
+    {"audio-display", "no"},
+    {"cover-art-auto", "no"},
+    {"audio-file-auto", "no"},
+    {"sub-auto", "no"},
+    {"autoload-files", "no"},
+    {"access-references", "no"},
+    {"demuxer", "+lavf"},
+    {"demuxer-lavf-o", "protocol_whitelist=file"},
+    {"demuxer-max-bytes", "4MiB"},
+    {"demuxer-max-back-bytes", "1MiB"},
+    {"cache", "no"},
+    {"audio-client-name", "Tonkartei"},
+    {"ao", "pulse,pipewire,alsa"},
+    {"audio-fallback-to-null", "yes"},
+};
+
+void wecken(void* wecker) {
+    const std::uint64_t eins = 1;
+    // A full counter is awake already.
+    if (::write(static_cast<const Deskriptor*>(wecker)->fd(), &eins, sizeof(eins)) < 0) return;
+}
+
+}  // namespace
+
+void Abspieler::Freigabe::operator()(mpv_handle* mpv) const { mpv_terminate_destroy(mpv); }
+
+Abspieler::Abspieler(const Text& ausgabe) : wecker_(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)), mpv_(mpv_create()) {
+    if (!wecker_ || !mpv_) throw std::runtime_error("no player library");
+    for (const auto& [name, wert] : Einstellungen)
+        mpv_set_option_string(mpv_.get(), name, wert);  // names that this version of the library lacks are no loss
+    if (!ausgabe.empty()) mpv_set_option_string(mpv_.get(), "ao", ausgabe.c_str());
+    mpv_set_wakeup_callback(mpv_.get(), wecken, &wecker_);
+    if (mpv_initialize(mpv_.get()) < 0) throw std::runtime_error("player library does not start");
+    mpv_observe_property(mpv_.get(), Beobachtet_Position, "time-pos", MPV_FORMAT_DOUBLE);
+    mpv_observe_property(mpv_.get(), Beobachtet_Länge, "duration", MPV_FORMAT_DOUBLE);
+}
+
+void Abspieler::abholen() {
+    std::uint64_t zähler;
+    if (::read(wecker_.fd(), &zähler, sizeof(zähler)) < 0 && errno != EAGAIN) return;
+    for (;;) {
+        const mpv_event* ereignis = mpv_wait_event(mpv_.get(), 0);
+        if (ereignis->event_id == MPV_EVENT_NONE) return;
+        verarbeiten(*ereignis);
+    }
+}
+
+void Abspieler::verarbeiten(const mpv_event& ereignis) {
+    switch (ereignis.event_id) {
+        case MPV_EVENT_PROPERTY_CHANGE: {
+            const auto& wert = *static_cast<const mpv_event_property*>(ereignis.data);
+            const double* zahl = wert.format == MPV_FORMAT_DOUBLE ? static_cast<const double*>(wert.data) : nullptr;
+            if (!geladen_ || !zahl) return;
+            if (ereignis.reply_userdata == Beobachtet_Position) position_ = *zahl;
+            if (ereignis.reply_userdata == Beobachtet_Länge) länge_ = *zahl;
+            return;
+        }
+        case MPV_EVENT_COMMAND_REPLY:
+            if (ereignis.reply_userdata == 0) return;
+            if (ereignis.reply_userdata == ladekennung_) {
+                const mpv_node& ergebnis = static_cast<const mpv_event_command*>(ereignis.data)->result;
+                for (int i = 0; ergebnis.format == MPV_FORMAT_NODE_MAP && i < ergebnis.u.list->num; ++i)
+                    if (std::strcmp(ergebnis.u.list->keys[i], "playlist_entry_id") == 0)
+                        eintrag_ = ergebnis.u.list->values[i].u.int64;
+                if (ereignis.error < 0 && zu_Ende) zu_Ende();
+            } else if (ereignis.reply_userdata == sprungkennung_) {
+                sprung_angenommen_ = true;
+                if (ereignis.error < 0) Sprung_vergessen();
+            }
+            return;
+        case MPV_EVENT_FILE_LOADED:
+            if (eintrag_ < 0) return;
+            geladen_ = true;
+            if (sprungziel_) Sprung_senden();
+            return;
+        case MPV_EVENT_SEEK: sprung_läuft_ = sprung_angenommen_; return;
+        case MPV_EVENT_PLAYBACK_RESTART:
+            if (!sprung_läuft_) return;
+            position_ = static_cast<double>(*sprungziel_) / 1000;  // until the library tells the exact one
+            Sprung_vergessen();
+            return;
+        case MPV_EVENT_END_FILE: {
+            const auto& ende = *static_cast<const mpv_event_end_file*>(ereignis.data);
+            if (eintrag_ < 0 || ende.playlist_entry_id != eintrag_) return;
+            if (ende.reason != MPV_END_FILE_REASON_EOF && ende.reason != MPV_END_FILE_REASON_ERROR) return;
+            vergessen();
+            if (zu_Ende) zu_Ende();
+            return;
+        }
+        default: return;
+    }
+}
+
+void Abspieler::laden(const Text& datei) {
+    vergessen();
+    ladekennung_ = ++kennung_;
+    const char* befehl[] = {"loadfile", datei.c_str(), "replace", nullptr};
+    mpv_command_async(mpv_.get(), ladekennung_, befehl);
+}
+
+void Abspieler::vergessen() {
+    eintrag_ = -1;
+    ladekennung_ = 0;
+    geladen_ = false;
+    position_ = 0;
+    länge_.reset();
+    Sprung_vergessen();
+}
+
+void Abspieler::stoppen() {
+    vergessen();
+    const char* befehl[] = {"stop", nullptr};
+    mpv_command_async(mpv_.get(), 0, befehl);
+}
+
+void Abspieler::anhalten(bool angehalten) {
+    int wert = angehalten;
+    mpv_set_property_async(mpv_.get(), 0, "pause", MPV_FORMAT_FLAG, &wert);
+}
+
+void Abspieler::Lautstärke_setzen(int wert) {
+    double prozent = wert * 100.0 / 255;
+    mpv_set_property_async(mpv_.get(), 0, "volume", MPV_FORMAT_DOUBLE, &prozent);
+}
+
+void Abspieler::springen(std::int64_t ms) {
+    Sprung_vergessen();
+    sprungziel_ = ms;
+    sprung_gesendet_ = Uhr::now();
+    if (geladen_) Sprung_senden();
+}
+
+void Abspieler::Sprung_senden() {
+    sprungkennung_ = ++kennung_;
+    sprung_gesendet_ = Uhr::now();
+    char sekunden[32];
+    std::snprintf(sekunden, sizeof(sekunden), "%.3f", static_cast<double>(*sprungziel_) / 1000);
+    const char* befehl[] = {"seek", sekunden, "absolute+exact", nullptr};
+    mpv_command_async(mpv_.get(), sprungkennung_, befehl);
+}
+
+void Abspieler::Sprung_vergessen() {
+    sprungziel_.reset();
+    sprungkennung_ = 0;
+    sprung_angenommen_ = sprung_läuft_ = false;
+}
+
+std::int64_t Abspieler::Position() const {
+    const bool im_Sprung = sprungziel_ && (!geladen_ || Uhr::now() - sprung_gesendet_ < Sprungfrist);
+    const double ms = im_Sprung ? static_cast<double>(*sprungziel_) : position_ * 1000;
+    return ms > 0 ? static_cast<std::int64_t>(ms) : 0;
+}
+
+}  // namespace tonkartei::spieler

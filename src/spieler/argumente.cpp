@@ -1,0 +1,32 @@
+#include "spieler/argumente.hpp"
+
+#include "plattform/linux/fenster_protokoll.hpp"
+
+namespace tonkartei::spieler {
+
+namespace {
+
+Text ohne_Anführungszeichen(const Text& wort) {
+    return wort.size() >= 2 && wort.front() == '"' && wort.back() == '"' ? wort.substr(1, wort.size() - 2) : wort;
+}
+
+}  // namespace
+
+Argumente lies_Argumente(const std::vector<Text>& worte, const Text& ordner) {
+    static const Text Klassenwort = "/CLASS=";
+    Argumente ergebnis;
+    for (const Text& roh : worte) {
+        const Text wort = ohne_Anführungszeichen(roh);
+        if (wort == "/NEW") {
+            ergebnis.neu = true;
+        } else if (wort.starts_with(Klassenwort)) {
+            const Text klasse = ohne_Anführungszeichen(wort.substr(Klassenwort.size()));
+            if (!klasse.empty()) ergebnis.Klasse = klasse.substr(0, protokoll::Höchstlänge_Klasse);
+        } else if (!wort.empty()) {
+            ergebnis.Dateien.push_back(wort.front() == '/' ? wort : ordner + "/" + wort);
+        }
+    }
+    return ergebnis;
+}
+
+}  // namespace tonkartei::spieler
