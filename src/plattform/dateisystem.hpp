@@ -35,7 +35,8 @@ public:
 
     struct Eintrag {
         Text Name;
-        bool ist_Ordner = false;
+        bool ist_Ordner = false;   // a link to a folder is one, too
+        bool ist_Verweis = false;  // a symbolic link
     };
 
     virtual ~Dateisystem() = default;
