@@ -22,7 +22,12 @@ set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME tonkartei)
 set(CPACK_PACKAGE_VENDOR "Tonkartei developers")
 set(CPACK_PACKAGE_CONTACT "Tonkartei developers <tonkartei@localhost>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY ${PROJECT_DESCRIPTION})
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "card index for music kept as MP3 files")
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
+  "Tonkartei knows every song of a collection by title, artist and up to twenty
+ categories of one's own naming, sorts and searches thousands of them, counts
+ what is listened to, and has songs played by a player in the background.
+ The interface is German.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
