@@ -1,6 +1,7 @@
 #include "probe/fenstersystem_probe.hpp"
 
 #include <algorithm>
+#include <utility>
 
 namespace tonkartei {
 namespace {
