@@ -60,6 +60,13 @@ void Ansicht::fokus(Element& element) {
     Fokus_zeigen(element);
 }
 
+void Ansicht::Fenster_entstanden(Fenster& fenster) { alle_.push_back(&fenster); }
+
+void Ansicht::Fenster_vergangen(Fenster& fenster) {
+    Fenster_vergessen(fenster);
+    entfernen(alle_, &fenster);
+}
+
 void Ansicht::Fenster_aufnehmen(Fenster& fenster) {
     // A window that is loaded but not yet shown lies behind all others.
     fenster_.push_back(&fenster);

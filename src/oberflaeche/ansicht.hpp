@@ -99,6 +99,8 @@ public:
     // --- shared state --------------------------------------------------------------------------------------------------
     // The loaded windows, front first.
     const std::vector<Fenster*>& fenster() const noexcept { return fenster_; }
+    // All that exist, loaded or not, in the order of their making.
+    const std::vector<Fenster*>& alle_Fenster() const noexcept { return alle_; }
     // The innermost modal window, or null.
     Fenster* modales_Fenster() const noexcept { return modale_.empty() ? nullptr : modale_.back(); }
     // False for windows that a modal one blocks: those that were up before it.
@@ -110,6 +112,8 @@ public:
     void von_Hand_Fokus(Element* element) noexcept { fokus_ = element; }
 
     // Called by Fenster.
+    void Fenster_entstanden(Fenster& fenster);
+    void Fenster_vergangen(Fenster& fenster);
     void Fenster_aufnehmen(Fenster& fenster);
     void Fenster_vergessen(Fenster& fenster);
     void Fenster_nach_vorn(Fenster& fenster);
@@ -121,7 +125,7 @@ protected:
     virtual void Fokus_zeigen(Element&) {}
 
 private:
-    std::vector<Fenster*> fenster_;
+    std::vector<Fenster*> fenster_, alle_;
     std::vector<Fenster*> modale_;
     std::vector<const Fenster*> gezeigt_;  // in the order of their becoming visible
     Element* fokus_ = nullptr;
