@@ -7,10 +7,12 @@
 namespace tonkartei {
 
 Fenster::Fenster(Ansicht& ansicht, Text name, Text titel)
-    : ansicht_(ansicht), name_(std::move(name)), titel_(std::move(titel)), start_titel_(titel_) {}
+    : ansicht_(ansicht), name_(std::move(name)), titel_(std::move(titel)), start_titel_(titel_) {
+    ansicht_.Fenster_entstanden(*this);
+}
 
 Fenster::~Fenster() {
-    ansicht_.Fenster_vergessen(*this);
+    ansicht_.Fenster_vergangen(*this);
     ansicht_.Fenster_verschwindet(*this);
 }
 
