@@ -1,0 +1,46 @@
+// The commit of adding: questions first, then files, records and the warning about the size of the collection.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include "datenbank/modell.hpp"
+#include "lieder/dateien_uebernehmen.hpp"
+#include "lieder/lieder_eintragen.hpp"
+#include "lieder/uebernahme_auftrag.hpp"
+#include "oberflaeche/ansicht.hpp"
+#include "plattform/dateisystem.hpp"
+
+namespace tonkartei {
+
+class Lieder_Übernahme {
+public:
+    Lieder_Übernahme(Ansicht& ansicht, Modell& modell, Dateisystem& dateien, Dateien_übernehmen& übernehmen,
+                     Lieder_eintragen& eintragen)
+        : ansicht_(ansicht), modell_(modell), dateien_(dateien), übernehmen_(übernehmen), eintragen_(eintragen) {}
+
+    // Stops the player, so that it lets go of its file; connected by the composition.
+    std::function<void()> Winamp_anhalten;
+    // Make an album or a list file of the `A` new songs and put what belongs to it into the company; without one nothing is
+    // made.
+    std::function<void(Long A, Begleitung&)> Album_erstellen;
+    std::function<void(Long A, Begleitung&)> Playlist_erstellen;
+
+    // False when the user decided against it before anything happened.
+    bool ausführen(const Übernahme_Auftrag& auftrag);
+
+    // Room on the volume of the collection in KByte, rounded down; 0 when it cannot be told.
+    std::uint64_t freie_KByte() const;
+
+private:
+    bool bestätigt(const Übernahme_Auftrag& auftrag) const;
+    void vor_Größe_warnen() const;
+
+    Ansicht& ansicht_;
+    Modell& modell_;
+    Dateisystem& dateien_;
+    Dateien_übernehmen& übernehmen_;
+    Lieder_eintragen& eintragen_;
+};
+
+}  // namespace tonkartei
