@@ -1,0 +1,68 @@
+#include "datenbank/zugriffsdatei.hpp"
+
+#include "datenbank/info_datei.hpp"
+#include "datenbank/version.hpp"
+#include "datenbank/zeitleser.hpp"
+#include "oberflaeche/ansicht.hpp"
+#include "plattform/kanaele.hpp"
+#include "plattform/rechner.hpp"
+
+namespace tonkartei {
+namespace {
+
+constexpr const char* Kennung = "Datenbank-Zugriffsdatei";
+
+}  // namespace
+
+void Zugriffsdatei::schreibe_Zugriffsdatei() {
+    int nummer = 0;
+    try {
+        nummer = kanäle_.öffnen_zum_Schreiben(modell_.Pfad(Zugriffsdatei_Name));
+        const Zeitpunkt jetzt = rechner_.jetzt();
+        kanäle_.schreibe_Zeile(nummer, Programmtitel);
+        kanäle_.schreibe_Zeile(nummer, modell_.Programmversion);
+        kanäle_.schreibe_Zeile(nummer, Kennung);
+        kanäle_.schreibe_Zeile(nummer, rechner_.GetComputerNameA());
+        kanäle_.schreibe_Zeile(nummer, rechner_.GetUserNameA());
+        for (const int zahl : {jetzt.Tag, jetzt.Monat, jetzt.Jahr, jetzt.Stunde, jetzt.Minute, jetzt.Sekunde})
+            kanäle_.schreibe_reine_Zahl(nummer, zahl);
+        kanäle_.schließen(nummer);
+    } catch (const Dateifehler&) {
+        kanäle_.aufgeben(nummer);
+        modell_.Meldung = "Es ist ein Fehler beim Schreiben der Datenbank-Zugriffsdatei aufgetreten!";
+        ansicht_.informieren("Zugriffsdatei schreiben", modell_.Meldung);
+    }
+}
+
+bool Zugriffsdatei::lese_Zugriffsdatei(const Text& Datei, Zeitpunkt& zeitpunkt, Text& Computer, Text& Benutzer) {
+    Text fehler;
+    int nummer = 0;
+    try {
+        nummer = kanäle_.öffnen_zum_Lesen(Datei);
+        fehler = Inhalt_lesen(nummer, zeitpunkt, Computer, Benutzer);
+    } catch (const Dateifehler&) {
+        fehler = "Es ist ein Fehler beim Lesen der Datenbank-Zugriffsdatei aufgetreten!";
+    }
+    kanäle_.aufgeben(nummer);
+    if (fehler.empty()) return true;
+    modell_.Meldung = fehler + Text(CRCR) + "Kontaktieren sie den Autor!";
+    ansicht_.informieren("Zugriffsdatei lesen", modell_.Meldung);
+    return false;
+}
+
+// Empty, or what is wrong with the file.
+Text Zugriffsdatei::Inhalt_lesen(int nummer, Zeitpunkt& zeitpunkt, Text& Computer, Text& Benutzer) {
+    if (kanäle_.lese_Zeile(nummer) != Programmtitel)
+        return "Die Zugriffsdatei ist nicht von diesem Programm erstellt worden!";
+    // Whatever version wrote it: the layout never changed.
+    kanäle_.lese_Zeile(nummer);
+    if (kanäle_.lese_Zeile(nummer) != Kennung) return "Die Zugriffsdatei hat einen Fehler!";
+    Computer = kanäle_.lese_Zeile(nummer);
+    Benutzer = kanäle_.lese_Zeile(nummer);
+    const auto [tag, monat, jahr] = drei_Zahlen_lesen(kanäle_);
+    const auto [stunde, minute, sekunde] = drei_Zahlen_lesen(kanäle_);
+    zeitpunkt = Zeitpunkt_aus(tag, monat, jahr, stunde, minute, sekunde);
+    return {};
+}
+
+}  // namespace tonkartei
