@@ -4,7 +4,9 @@
 #include <sys/eventfd.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <cmath>
 #include <cstdio>
 #include <cstring>
 #include <stdexcept>
@@ -14,6 +16,8 @@ namespace tonkartei::spieler {
 namespace {
 
 constexpr auto Sprungfrist = std::chrono::seconds(2);  // a jump that has shown no effect by then had none
+constexpr double Gerätepuffer = 0.5;                   // seconds
+constexpr double Höchstlücke = 0.3;                    // seconds between two news of the position
 constexpr std::uint64_t Beobachtet_Position = 1, Beobachtet_Länge = 2;
 
 // A plain player of local songs: no pictures, no scripts, no settings of the user's, and no file that leads to another one.
@@ -87,7 +91,7 @@ void Abspieler::verarbeiten(const mpv_event& ereignis) {
             const auto& wert = *static_cast<const mpv_event_property*>(ereignis.data);
             const double* zahl = wert.format == MPV_FORMAT_DOUBLE ? static_cast<const double*>(wert.data) : nullptr;
             if (!geladen_ || !zahl) return;
-            if (ereignis.reply_userdata == Beobachtet_Position) position_ = *zahl;
+            if (ereignis.reply_userdata == Beobachtet_Position) Position_übernehmen(*zahl);
             if (ereignis.reply_userdata == Beobachtet_Länge) länge_ = *zahl;
             return;
         }
@@ -112,7 +116,8 @@ void Abspieler::verarbeiten(const mpv_event& ereignis) {
         case MPV_EVENT_SEEK: sprung_läuft_ = sprung_angenommen_; return;
         case MPV_EVENT_PLAYBACK_RESTART:
             if (!sprung_läuft_) return;
-            position_ = static_cast<double>(*sprungziel_) / 1000;  // until the library tells the exact one
+            position_ = boden_ = static_cast<double>(*sprungziel_) / 1000;
+            erzählt_um_ = {};
             Sprung_vergessen();
             return;
         case MPV_EVENT_END_FILE: {
@@ -127,6 +132,15 @@ void Abspieler::verarbeiten(const mpv_event& ereignis) {
     }
 }
 
+// The library counts what the device has yet to play as not played, also right after a jump: it then tells a position that
+// lies before the target, by the length of the device's buffer.
+void Abspieler::Position_übernehmen(double sekunden) {
+    if (sekunden < boden_ && sekunden > boden_ - Gerätepuffer) return;
+    boden_ = 0;
+    position_ = sekunden;
+    erzählt_um_ = Uhr::now();
+}
+
 void Abspieler::laden(const Text& datei) {
     vergessen();
     ladekennung_ = ++kennung_;
@@ -138,7 +152,8 @@ void Abspieler::vergessen() {
     eintrag_ = -1;
     ladekennung_ = 0;
     geladen_ = false;
-    position_ = 0;
+    position_ = boden_ = 0;
+    erzählt_um_ = {};
     länge_.reset();
     Sprung_vergessen();
 }
@@ -150,6 +165,9 @@ void Abspieler::stoppen() {
 }
 
 void Abspieler::anhalten(bool angehalten) {
+    if (angehalten && !angehalten_) position_ = static_cast<double>(Position()) / 1000;
+    angehalten_ = angehalten;
+    erzählt_um_ = {};
     int wert = angehalten;
     mpv_set_property_async(mpv_.get(), 0, "pause", MPV_FORMAT_FLAG, &wert);
 }
@@ -181,10 +199,17 @@ void Abspieler::Sprung_vergessen() {
     sprung_angenommen_ = sprung_läuft_ = false;
 }
 
+// The library tells the position some times a second only; in between the clock goes on for it.
 std::int64_t Abspieler::Position() const {
-    const bool im_Sprung = sprungziel_ && (!geladen_ || Uhr::now() - sprung_gesendet_ < Sprungfrist);
-    const double ms = im_Sprung ? static_cast<double>(*sprungziel_) : position_ * 1000;
-    return ms > 0 ? static_cast<std::int64_t>(ms) : 0;
+    const auto jetzt = Uhr::now();
+    double sekunden = position_;
+    if (sprungziel_ && (!geladen_ || jetzt - sprung_gesendet_ < Sprungfrist)) {
+        sekunden = static_cast<double>(*sprungziel_) / 1000;
+    } else if (!angehalten_ && erzählt_um_ != Uhr::time_point{}) {
+        sekunden += std::min(std::chrono::duration<double>(jetzt - erzählt_um_).count(), Höchstlücke);
+        if (länge_) sekunden = std::min(sekunden, std::max(*länge_, position_));
+    }
+    return std::max<std::int64_t>(std::llround(sekunden * 1000), 0);
 }
 
 }  // namespace tonkartei::spieler

@@ -50,6 +50,7 @@ private:
 
     void vergessen();  // what was known of the song
     void verarbeiten(const mpv_event& ereignis);
+    void Position_übernehmen(double sekunden);
     void Sprung_senden();
     void Sprung_vergessen();
 
@@ -60,7 +61,10 @@ private:
     std::uint64_t ladekennung_ = 0;  // the load whose entry is awaited
     std::int64_t eintrag_ = -1;      // the library's name for the song; news of others is stale
     bool geladen_ = false;
+    bool angehalten_ = false;
     double position_ = 0;  // seconds, as told last
+    double boden_ = 0;     // seconds: the last jump's target, as long as the library has not reached it
+    Uhr::time_point erzählt_um_{};
     std::optional<double> länge_;
 
     std::optional<std::int64_t> sprungziel_;  // ms
