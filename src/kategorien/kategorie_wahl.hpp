@@ -39,7 +39,6 @@ private:
     const Modell& modell_;
     Text datei_;
     bool gewählt_ = false;
-    bool füllt_ = false;
 };
 
 }  // namespace tonkartei

@@ -103,6 +103,8 @@ public:
 
     // A control that code places by itself: the layout leaves it alone.
     bool frei = false;
+    // The caption is data: "&" is a character like others, not the mark of an access key.
+    bool Beschriftung_wörtlich = false;
     // A helper that the user never sees (hidden parallel lists): the view makes nothing for it.
     bool unsichtbarer_Helfer = false;
     // Number in the mouse-over effect of its window; 0 none.

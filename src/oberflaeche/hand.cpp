@@ -149,6 +149,7 @@ Element* Zugriffstaste(Fenster& fenster, const Text& zeichen) {
     const Text gesucht = groß(zeichen);
     for (Element* e : fenster.elemente()) {
         if (e->art() == Elementart::Menü || !e->bedienbar()) continue;
+        if (e->Beschriftung_wörtlich) continue;
         if (e->art() == Elementart::Schrift && static_cast<Schriftfeld*>(e)->wie_Daten) continue;
         if (Zugriffszeichen(e->beschriftung()) != gesucht || gesucht.empty()) continue;
         if (e->art() == Elementart::Schrift || e->art() == Elementart::Rahmen) return nächster_Fokus(*e);

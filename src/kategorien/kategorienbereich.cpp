@@ -1,0 +1,275 @@
+#include "kategorien/kategorienbereich.hpp"
+
+#include <utility>
+
+#include "oberflaeche/ansicht.hpp"
+#include "oberflaeche/fenster.hpp"
+
+namespace tonkartei {
+
+struct Kategorienbereich::Stille {
+    bool& an;
+    bool vorher;
+    explicit Stille(bool& flagge) : an(flagge), vorher(std::exchange(flagge, false)) {}
+    ~Stille() { an = vorher; }
+    Stille(const Stille&) = delete;
+    Stille& operator=(const Stille&) = delete;
+};
+
+Kategorienbereich::Kategorienbereich(Fenster& fenster, Modell& modell, Einstellungen& einstellungen)
+    : Kategorien_Rahmen(fenster, "Kategorien_Rahmen", "Kategorien"),
+      Schema_Rahmen(fenster, "Schema_Rahmen"),
+      Lied_Kategorie(fenster, "Lied_Kategorie"),
+      fenster_(fenster),
+      modell_(modell),
+      einstellungen_(einstellungen) {
+    for (int k = 1; k <= Kategorien_maximal; ++k) {
+        auto& kasten = kästen_[static_cast<std::size_t>(k - 1)];
+        kasten = std::make_unique<Kasten>(fenster, "zeige_Kategorie", "", k);
+        kasten->tooltip("Die Kategorien, die in der Liste angezeigt werden.");
+        kasten->Beschriftung_wörtlich = true;
+        kasten->sichtbar(false);
+        kasten->Klick.verbinden([this, k] { Kasten_geändert(k); });
+        kasten->Rechtsklick.verbinden([this, k](int) { Rechtsklick_auf_Kasten(k); });
+    }
+    for (int n = 1; n <= Schemas_maximal; ++n) {
+        auto& knopf = schemas_[static_cast<std::size_t>(n - 1)];
+        knopf = std::make_unique<Knopf>(fenster, "Kategorie_Schema", Zahltext(n), n);
+        knopf->klein = true;
+        knopf->sichtbar(false);
+        knopf->Klick.verbinden([this, n] { Schema_klicken(n); });
+        knopf->Rechtsklick.verbinden([this, n](int) {
+            Schema_speichern(n);
+            Schema_beschreiben(n);
+        });
+    }
+    Lied_Kategorie.aktiv(false);
+    Lied_Kategorie.tooltip("Die Kategorie des Liedes");
+    Lied_Kategorie.Klick.verbinden([this] { Kategorie_des_Liedes_geändert(); });
+}
+
+Kasten& Kategorienbereich::zeige_Kategorie(int k) const {
+    if (k < 1 || k > Kategorien_maximal) throw Laufzeitfehler(Fehler_Index);
+    return *kästen_[static_cast<std::size_t>(k - 1)];
+}
+
+Knopf& Kategorienbereich::Kategorie_Schema(int n) const {
+    if (n < 1 || n > Schemas_maximal) throw Laufzeitfehler(Fehler_Index);
+    return *schemas_[static_cast<std::size_t>(n - 1)];
+}
+
+Knoten Kategorienbereich::anordnung() {
+    std::vector<Knoten> kästen;
+    for (auto& kasten : kästen_) kästen.push_back(Knoten(*kasten).dehnen(1));
+    std::vector<Knoten> schemas;
+    for (auto& knopf : schemas_) schemas.push_back(Knoten(*knopf));
+    return Gruppe(Kategorien_Rahmen, Spalte({Gitter(2, std::move(kästen)).lücke(30),
+                                             Gruppe(Schema_Rahmen, Zeile(std::move(schemas)).lücke(30))}));
+}
+
+void Kategorienbereich::melden() { Tabelle_geändert(); }
+
+void Kategorienbereich::aktualisiere_Kategorie_List(bool Startkategorien_setzen) {
+    {
+        const Stille stille(Kategorie_Ereignisse_an_);
+        std::vector<Text> namen;
+        for (int k = 1; k <= Kategorien_maximal; ++k) {
+            Kasten& kasten = zeige_Kategorie(k);
+            const bool da = k <= modell_.Anzahl_Kategorien;
+            if (da) {
+                namen.push_back(modell_.Kategorien[k]);
+                kasten.beschriftung(modell_.Kategorien[k]);
+            }
+            kasten.wert(false);
+            kasten.sichtbar(da);
+        }
+        Lied_Kategorie.setzen(std::move(namen));
+        zeige_Kategorie(1).wert(true);
+    }
+    fenster_.neu_anordnen();
+    melden();
+    if (Startkategorien_setzen && einstellungen_.Kategorien_merken)
+        setzte_Startkategorien();
+    else if (!Startkategorien_setzen)
+        Auswahl_geändert();
+}
+
+void Kategorienbereich::setzte_Startkategorien() {
+    if (!einstellungen_.Kategorien_merken) return;
+    {
+        const Stille stille(Kategorie_Ereignisse_an_);
+        for (int k = 1; k <= modell_.Anzahl_Kategorien; ++k)
+            zeige_Kategorie(k).wert((static_cast<std::uint32_t>(einstellungen_.Kategorien) >> (k - 1) & 1U) != 0);
+    }
+    Auswahl_geändert();
+}
+
+Long Kategorienbereich::Kategorien_Maske() const {
+    Long maske = 0;
+    for (int k = 1; k <= modell_.Anzahl_Kategorien; ++k)
+        if (zeige_Kategorie(k).wert()) maske += Long{1} << (k - 1);
+    return maske;
+}
+
+void Kategorienbereich::Kasten_geändert(int k) {
+    if (k < 1 || k > modell_.Anzahl_Kategorien) return;
+    melden();
+    // A click of the user's ends the automatic change, which sets the boxes by its table.
+    if (Kategorie_Ereignisse_an_) Auto_Wechsel_beenden(k);
+    {
+        const Stille stille(Kategorie_Ereignisse_an_);
+        if (zeige_Kategorie(k).wert()) {
+            if (k == 1) {
+                for (int anderer = 2; anderer <= Kategorien_maximal; ++anderer) zeige_Kategorie(anderer).wert(false);
+            } else {
+                zeige_Kategorie(1).wert(false);
+            }
+        }
+    }
+    if (!Kategorie_Ereignisse_an_) return;
+    Auswahl_geändert();
+    Suche_fokussieren();
+}
+
+void Kategorienbereich::Rechtsklick_auf_Kasten(int k) {
+    if (k > modell_.Anzahl_Kategorien) return;
+    if (Auto_Wechsel_an()) {
+        if (k != 1) {
+            Auto_Wechsel_Kategorie[k] = !Auto_Wechsel_Kategorie[k];
+        } else {
+            for (int i = 1; i <= modell_.Anzahl_Kategorien; ++i) Auto_Wechsel_Kategorie[i] = i > 1;
+        }
+        zeige_Kategorie_Farben();
+        return;
+    }
+    if (einstellungen_.Kategorie_Rechtsklick == 1) {
+        nur_oder_alle_anderen(k);
+        Auswahl_geändert();
+        Suche_fokussieren();
+    } else if (einstellungen_.Kategorie_Rechtsklick == 2 && Lied_Kategorie.aktiv()) {
+        Lied_Kategorie.wähle(k - 1);
+    }
+}
+
+// The same right click toggles between this category alone and all but this one (and never box 1 with others).
+void Kategorienbereich::nur_oder_alle_anderen(int k) {
+    const Stille stille(Kategorie_Ereignisse_an_);
+    const bool war_gewählt = zeige_Kategorie(k).wert();
+    for (int i = 2; i <= modell_.Anzahl_Kategorien; ++i) zeige_Kategorie(i).wert(war_gewählt && i != k);
+    zeige_Kategorie(1).wert(false);
+    zeige_Kategorie(k).wert(!war_gewählt);
+}
+
+void Kategorienbereich::Kategorie_des_Liedes_geändert() {
+    const Long nr = angezeigtes_Lied();
+    if (nr < 1) return;
+    Lied& lied = modell_.Lieder[nr];
+    const int neu = Lied_Kategorie.gewählt() + 1;
+    if (neu == lied.Kategorie) return;
+    if (einstellungen_.Kategorie_wechsel_bestätigen) {
+        modell_.Meldung = "Wollen sie die Kategorie des Liedes " + in_Anführungszeichen(lied.Titel) + " von " +
+                          in_Anführungszeichen(lied.Artist) + " wirklich von " +
+                          in_Anführungszeichen(modell_.Kategorien[lied.Kategorie]) + " auf " +
+                          in_Anführungszeichen(modell_.Kategorien[neu]) + " ändern?";
+        if (!fenster_.ansicht().fragen("Kategorie wechseln", modell_.Meldung)) {
+            Lied_Kategorie.wähle(lied.Kategorie - 1);
+            return;
+        }
+    }
+    lied.Kategorie = als_Byte(neu);
+    zeige_Kategorie_Farben();
+}
+
+void Kategorienbereich::zeige_Kategorie_Farben() {
+    const bool auto_an = Auto_Wechsel_an();
+    for (int k = 1; k <= Kategorien_maximal; ++k) {
+        Farbe farbe = Farbe_Standard;
+        if (k == Lied_Kategorie.gewählt() + 1)
+            farbe = einstellungen_.Kategorie_Farbe;
+        else if (auto_an && Auto_Wechsel_Kategorie[k])
+            farbe = einstellungen_.automatische_Kategorien_Farbe;
+        zeige_Kategorie(k).farbe(farbe);
+    }
+}
+
+void Kategorienbereich::Farben_zurücksetzen() {
+    for (int k = 1; k <= Kategorien_maximal; ++k) zeige_Kategorie(k).farbe(Farbe_Standard);
+}
+
+void Kategorienbereich::Farbe_ändern(Long Einstellungen::*einstellung) {
+    if (const auto farbe = fenster_.ansicht().Farbe_wählen(einstellungen_.*einstellung)) {
+        einstellungen_.*einstellung = *farbe;
+        zeige_Kategorie_Farben();
+    }
+}
+
+void Kategorienbereich::Anz_Kat_Schemas_setzen(int n) {
+    modell_.Anz_Kat_Schemas = als_Byte(n);
+    Schemas_zeigen();
+    schema_modus_ = Schema_Modus::wählen;
+}
+
+void Kategorienbereich::Schemas_zeigen() {
+    for (int n = 1; n <= Schemas_maximal; ++n) {
+        Knopf& knopf = Kategorie_Schema(n);
+        knopf.tooltip(modell_.Schemas[n].Name);
+        knopf.sichtbar(n <= modell_.Anz_Kat_Schemas);
+    }
+    Schema_Rahmen.sichtbar(modell_.Anz_Kat_Schemas > 0);
+    melden();
+}
+
+void Kategorienbereich::Schema_klicken(int n) {
+    switch (std::exchange(schema_modus_, Schema_Modus::wählen)) {
+        case Schema_Modus::wählen: Schema_wählen(n); break;
+        case Schema_Modus::speichern: Schema_speichern(n); break;
+        case Schema_Modus::beschreiben: Schema_beschreiben(n); break;
+    }
+}
+
+void Kategorienbereich::Schema_wählen(int n) {
+    {
+        const Stille stille(Kategorie_Ereignisse_an_);
+        for (int k = 1; k <= Kategorien_maximal; ++k) zeige_Kategorie(k).wert(false);
+        const Schema& schema = modell_.Schemas[n];
+        for (int i = 1; i <= schema.Anzahl; ++i)
+            if (schema.Kategorien[i] <= modell_.Anzahl_Kategorien) zeige_Kategorie(schema.Kategorien[i]).wert(true);
+    }
+    Auswahl_geändert();
+    Suche_fokussieren();
+}
+
+void Kategorienbereich::Schema_speichern(int n) {
+    Schema& schema = modell_.Schemas[n];
+    schema.Anzahl = 0;
+    for (int k = 1; k <= modell_.Anzahl_Kategorien; ++k)
+        if (zeige_Kategorie(k).wert()) schema.Kategorien[++schema.Anzahl] = als_Byte(k);
+}
+
+void Kategorienbereich::Schema_beschreiben(int n) {
+    Schema& schema = modell_.Schemas[n];
+    const Text name = fenster_.ansicht().eingeben("Geben sie eine neue Kurzbeschreibung für dieses Schema ein:",
+                                                  "Kategorie-Schema-Kurzbeschreibung ändern", schema.Name);
+    if (name.empty()) return;
+    schema.Name = name;
+    Kategorie_Schema(n).tooltip(name);
+    melden();
+}
+
+void Kategorienbereich::Schema_zuweisen_beginnen() {
+    modell_.Meldung =
+        "Klicken sie auf eine Kategorie-Schema Schaltfläche, "
+        "um die aktuell ausgewählten Kategorien dort zu speichern.";
+    fenster_.ansicht().informieren("Kategorie-Schema zuweisen", modell_.Meldung);
+    schema_modus_ = Schema_Modus::speichern;
+}
+
+void Kategorienbereich::Schema_beschreiben_beginnen() {
+    modell_.Meldung =
+        "Klicken sie auf eine Kategorie-Schema Schaltfläche, "
+        "um deren Kurzbeschreibung zu ändern.";
+    fenster_.ansicht().informieren("Kategorie-Kurzbeschreibung ändern", modell_.Meldung);
+    schema_modus_ = Schema_Modus::beschreiben;
+}
+
+}  // namespace tonkartei

@@ -1,0 +1,72 @@
+// A control on the screen: holds its widget, makes it follow the model, and turns what happens to it into the hand's doings.
+#pragma once
+
+#include <QObject>
+#include <QPoint>
+#include <memory>
+
+#include "oberflaeche/element.hpp"
+
+class QKeyEvent;
+class QMouseEvent;
+class QWidget;
+
+namespace tonkartei {
+
+class Fensterwidget;
+struct Umfeld;
+
+class Bauteil : public QObject {
+public:
+    Bauteil(Umfeld& umfeld, Fensterwidget& fenster, Element& element);
+    ~Bauteil() override;
+
+    // The kind's part; null for what makes no widget of its own (menu entries, hidden helpers).
+    static std::unique_ptr<Bauteil> machen(Umfeld& umfeld, Fensterwidget& fenster, Element& element);
+
+    Element& element() const noexcept { return element_; }
+    // Null for the tray symbol.
+    QWidget* widget() const noexcept { return widget_; }
+    // Where children of a frame are put.
+    virtual QWidget* Inneres() const noexcept { return widget_; }
+    // Follows the model; bits of Änderung.
+    void zeigen(unsigned änderung);
+
+    bool eventFilter(QObject* wer, QEvent* was) override;
+
+protected:
+    // Takes over the widget. Mouse and keys are watched on it, and on `fläche` if the mouse acts on another widget inside it.
+    void aufnehmen(QWidget* widget, QWidget* fläche = nullptr);
+    virtual void Aussehen_zeigen();
+    virtual void Lage_zeigen();
+    virtual void Wert_zeigen() {}
+    virtual void Zeilen_zeigen() {}
+    // The line at a place of the mouse area; -1 none.
+    virtual int Zeile_an(QPoint) const { return -1; }
+    // The widget tells clicks by itself.
+    virtual bool klickt_selbst() const { return false; }
+    // A left press in a list; true when the widget shall not see it.
+    virtual bool gedrückt(QPoint) { return false; }
+    void Farben_zeigen();
+
+    Umfeld& umfeld_;
+    Fensterwidget& fenster_;
+
+private:
+    bool Maus(QMouseEvent& ereignis);
+    bool Taste_gedrückt(QKeyEvent& ereignis);
+    bool Ablage(QEvent& ereignis);
+    void ziehen();
+    bool darf() const;
+
+    Element& element_;
+    QWidget* widget_ = nullptr;
+    QWidget* fläche_ = nullptr;
+    QPoint druckpunkt_;
+    bool unten_ = false;
+};
+
+// The key as handlers see it; false for keys that no handler is told of.
+bool Taste_aus(const QKeyEvent& ereignis, Taste& taste);
+
+}  // namespace tonkartei

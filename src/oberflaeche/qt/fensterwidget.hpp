@@ -1,0 +1,69 @@
+// A window on the screen: menu bar on top, below it the ground that the controls lie on.
+#pragma once
+
+#include <QWidget>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "oberflaeche/qt/bauteil.hpp"
+#include "oberflaeche/qt/umfeld.hpp"
+
+namespace tonkartei {
+
+class Fenster;
+class Menüleiste;
+
+class Fensterwidget : public QWidget {
+public:
+    Fensterwidget(Umfeld& umfeld, Fenster& fenster);
+    ~Fensterwidget() override;
+
+    // Notes what changed; it is shown by `abgleichen`, which comes by itself before the next paint.
+    void Fenster_merken();
+    void Element_merken(Element& element, unsigned änderung);
+    void Fokus_merken(Element& element);
+    // Shows all that was noted. True when there was something.
+    bool abgleichen();
+
+    QWidget* Boden_für(const Element& element) const;
+    Bauteil* bauteil(const Element& element) const;
+    Fenster& fenster() const noexcept { return fenster_; }
+
+protected:
+    bool event(QEvent* was) override;
+    void closeEvent(QCloseEvent* was) override;
+    void moveEvent(QMoveEvent* was) override;
+    void resizeEvent(QResizeEvent* was) override;
+    void changeEvent(QEvent* was) override;
+    void keyPressEvent(QKeyEvent* was) override;
+    void mouseMoveEvent(QMouseEvent* was) override;
+    void dragEnterEvent(QDragEnterEvent* was) override;
+    void dropEvent(QDropEvent* was) override;
+    void paintEvent(QPaintEvent* was) override;
+
+private:
+    void vormerken();
+    void Bauteile_machen();
+    void Fenster_zeigen();
+    void Maße_zeigen();
+    void Sichtbarkeit_zeigen();
+    void Boden_legen();
+    void nach_vorn_holen();
+    int Menühöhe() const;
+    bool darf() const { return umfeld_.hört() && umfeld_.erreichbar(fenster_); }
+
+    Umfeld& umfeld_;
+    Fenster& fenster_;
+    QWidget* boden_ = nullptr;
+    std::unique_ptr<Menüleiste> menü_;
+    std::map<const Element*, std::unique_ptr<Bauteil>> bauteile_;
+    std::size_t gesehene_ = 0;
+    std::vector<std::pair<Element*, unsigned>> geänderte_;
+    std::map<Element*, std::size_t> stelle_;
+    Element* fokus_ = nullptr;
+    bool alles_ = true, fenster_geändert_ = false, menü_geändert_ = false, vorgemerkt_ = false, gleicht_ab_ = false;
+    bool gezeigt_ = false;
+};
+
+}  // namespace tonkartei

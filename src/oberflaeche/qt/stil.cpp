@@ -1,0 +1,318 @@
+#include "oberflaeche/qt/stil.hpp"
+
+#include <QApplication>
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyleFactory>
+#include <QStyleOption>
+#include <algorithm>
+#include <cmath>
+
+namespace tonkartei {
+namespace {
+
+bool hat(const QStyleOption& option, QStyle::StateFlag flagge) { return option.state.testFlag(flagge); }
+
+struct Sicherung {
+    QPainter& maler;
+    explicit Sicherung(QPainter& m) : maler(m) {
+        maler.save();
+        maler.setRenderHint(QPainter::Antialiasing);
+    }
+    ~Sicherung() { maler.restore(); }
+    Sicherung(const Sicherung&) = delete;
+    Sicherung& operator=(const Sicherung&) = delete;
+};
+
+void Knopf_malen(const QStyleOption& option, QPainter& maler, bool vorgabe) {
+    const bool aktiv = hat(option, QStyle::State_Enabled);
+    const bool gedrückt = hat(option, QStyle::State_Sunken) || hat(option, QStyle::State_On);
+    const bool darüber = aktiv && hat(option, QStyle::State_MouseOver);
+    const bool fokus = aktiv && hat(option, QStyle::State_HasFocus);
+    QColor füllung = option.palette.color(QPalette::Button);
+    if (!aktiv)
+        füllung = QColor::fromRgb(Ton::Grund);
+    else if (gedrückt)
+        füllung = füllung.rgb() == Ton::Feld ? QColor::fromRgb(Ton::gedrückt) : füllung.darker(115);
+    else if (darüber)
+        füllung = füllung.rgb() == Ton::Feld ? QColor::fromRgb(Ton::Akzent_hell) : füllung.lighter(107);
+    const QRgb linie = !aktiv ? Ton::Linie_zart : fokus || darüber || vorgabe ? Ton::Akzent : Ton::Linie;
+    Tafel_malen(maler, QRectF(option.rect), füllung, QColor::fromRgb(linie));
+    if (fokus) Tafel_malen(maler, QRectF(option.rect).adjusted(1, 1, -1, -1), Qt::transparent, QColor::fromRgb(linie), 3);
+}
+
+void Kästchen_malen(const QStyleOption& option, QPainter& maler, bool rund) {
+    const bool aktiv = hat(option, QStyle::State_Enabled);
+    const bool an = hat(option, QStyle::State_On);
+    const bool darüber = aktiv && (hat(option, QStyle::State_MouseOver) || hat(option, QStyle::State_HasFocus));
+    const double kante = std::min(option.rect.width(), option.rect.height());
+    const QRectF platz(QRectF(option.rect).center() - QPointF(kante / 2, kante / 2), QSizeF(kante, kante));
+    const QColor füllung = QColor::fromRgb(!aktiv ? (an ? Ton::blass : Ton::Grund)
+                                           : hat(option, QStyle::State_Sunken) ? (an ? Ton::Akzent_dunkel : Ton::gedrückt)
+                                           : an ? Ton::Akzent
+                                                : Ton::Feld);
+    const QColor linie = QColor::fromRgb(!aktiv ? (an ? Ton::blass : Ton::Linie_zart) : an || darüber ? Ton::Akzent : 0xff9aa6b3);
+    Tafel_malen(maler, platz, füllung, linie, rund ? kante / 2 : 3);
+    if (!an) return;
+    const Sicherung sicherung(maler);
+    maler.translate(platz.topLeft());
+    maler.scale(kante / 14, kante / 14);
+    if (rund) {
+        maler.setPen(Qt::NoPen);
+        maler.setBrush(Qt::white);
+        maler.drawEllipse(QPointF(7, 7), 2.7, 2.7);
+    } else {
+        maler.setPen(QPen(Qt::white, 1.9, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        maler.drawPolyline(QPolygonF({{3.6, 7.2}, {6, 9.7}, {10.5, 4.4}}));
+    }
+}
+
+// An angle in the middle of the area: 0 points down, 1 left, 2 up, 3 right.
+void Winkel_malen(QPainter& maler, const QRectF& platz, int richtung, const QColor& farbe) {
+    const Sicherung sicherung(maler);
+    maler.setPen(QPen(farbe, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    maler.setBrush(Qt::NoBrush);
+    maler.translate(platz.center());
+    maler.rotate(90 * richtung);
+    maler.drawPolyline(QPolygonF({{-3.2, -1.6}, {0, 1.8}, {3.2, -1.6}}));
+}
+
+QColor Zeichenfarbe(const QStyleOption& option) {
+    return QColor::fromRgb(!hat(option, QStyle::State_Enabled) ? Ton::Linie : 0xff55626f);
+}
+
+void Schieber_malen(const QProxyStyle& stil, const QStyleOptionSlider& option, QPainter& maler, const QWidget* widget) {
+    const bool aktiv = hat(option, QStyle::State_Enabled);
+    const QRectF rinne(stil.subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, widget));
+    const QRectF griff(stil.subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, widget));
+    const Sicherung sicherung(maler);
+    maler.setPen(Qt::NoPen);
+    QRectF bahn, gefüllt;
+    if (option.orientation == Qt::Horizontal) {
+        bahn = QRectF(rinne.left() + 1, rinne.center().y() - 2, rinne.width() - 2, 4);
+        gefüllt = bahn;
+        gefüllt.setRight(griff.center().x());
+    } else {
+        bahn = QRectF(rinne.center().x() - 2, rinne.top() + 1, 4, rinne.height() - 2);
+        gefüllt = bahn;
+        if (option.upsideDown)
+            gefüllt.setTop(griff.center().y());
+        else
+            gefüllt.setBottom(griff.center().y());
+    }
+    maler.setBrush(QColor::fromRgb(Ton::Linie));
+    maler.drawRoundedRect(bahn, 2, 2);
+    maler.setBrush(QColor::fromRgb(aktiv ? Ton::Akzent : Ton::blass));
+    maler.drawRoundedRect(gefüllt, 2, 2);
+    const double halb = std::min(griff.width(), griff.height()) / 2 - 1;
+    const bool betont = aktiv && (hat(option, QStyle::State_HasFocus) || hat(option, QStyle::State_MouseOver) ||
+                                  option.activeSubControls.testFlag(QStyle::SC_SliderHandle));
+    maler.setPen(QPen(QColor::fromRgb(!aktiv ? Ton::Linie : Ton::Akzent), betont ? 2 : 1.3));
+    maler.setBrush(QColor::fromRgb(hat(option, QStyle::State_Sunken) && aktiv ? Ton::gedrückt : Ton::Feld));
+    maler.drawEllipse(griff.center(), halb, halb);
+}
+
+void Bildlauf_malen(const QProxyStyle& stil, const QStyleOptionSlider& option, QPainter& maler, const QWidget* widget) {
+    const bool liegend = option.orientation == Qt::Horizontal;
+    const bool beweglich = option.maximum > option.minimum && hat(option, QStyle::State_Enabled);
+    maler.fillRect(option.rect, QColor(0xee, 0xf1, 0xf4));
+    const auto teil = [&](QStyle::SubControl was) {
+        return QRectF(stil.subControlRect(QStyle::CC_ScrollBar, &option, was, widget));
+    };
+    const QColor zeichen = QColor::fromRgb(beweglich ? 0xff55626f : Ton::Linie);
+    Winkel_malen(maler, teil(QStyle::SC_ScrollBarSubLine), liegend ? 1 : 2, zeichen);
+    Winkel_malen(maler, teil(QStyle::SC_ScrollBarAddLine), liegend ? 3 : 0, zeichen);
+    if (!beweglich) return;
+    const bool griff = option.activeSubControls.testFlag(QStyle::SC_ScrollBarSlider);
+    const QRgb farbe = !griff ? 0xffb9c3cd : hat(option, QStyle::State_Sunken) ? 0xff7d8b99 : 0xff9eabb8;
+    const QRectF schieber = teil(QStyle::SC_ScrollBarSlider).adjusted(liegend ? 0 : 3, liegend ? 3 : 0, liegend ? 0 : -3,
+                                                                      liegend ? -3 : 0);
+    const double rundung = std::min(schieber.width(), schieber.height()) / 2;
+    const Sicherung sicherung(maler);
+    maler.setPen(Qt::NoPen);
+    maler.setBrush(QColor::fromRgb(farbe));
+    maler.drawRoundedRect(schieber, rundung, rundung);
+}
+
+void Reiter_malen(const QStyleOptionTab& option, QPainter& maler) {
+    const bool gewählt = hat(option, QStyle::State_Selected);
+    const bool darüber = hat(option, QStyle::State_Enabled) && hat(option, QStyle::State_MouseOver);
+    const QRectF platz(option.rect);
+    const Sicherung sicherung(maler);
+    if (darüber && !gewählt) {
+        QPainterPath pfad;
+        pfad.addRoundedRect(platz.adjusted(2, 2, -2, 6), 4, 4);
+        maler.setClipRect(platz);
+        maler.fillPath(pfad, QColor::fromRgb(Ton::Akzent_hell));
+    }
+    maler.setRenderHint(QPainter::Antialiasing, false);
+    maler.fillRect(QRectF(platz.left(), platz.bottom() - 1, platz.width(), 1), QColor::fromRgb(Ton::Linie));
+    if (gewählt)
+        maler.fillRect(QRectF(platz.left() + 2, platz.bottom() - 3, platz.width() - 4, 3), QColor::fromRgb(Ton::Akzent));
+    if (hat(option, QStyle::State_HasFocus))
+        Tafel_malen(maler, platz.adjusted(3, 3, -3, -5), Qt::transparent, QColor::fromRgb(Ton::Linie), 3);
+}
+
+void Balken_malen(const QStyleOptionProgressBar& option, QPainter& maler) {
+    const double spanne = option.maximum - option.minimum;
+    if (spanne <= 0 || option.progress <= option.minimum) return;
+    const Sicherung sicherung(maler);
+    QRectF gefüllt = QRectF(option.rect).adjusted(1, 1, -1, -1);
+    QPainterPath form;
+    form.addRoundedRect(gefüllt, 3, 3);
+    gefüllt.setWidth(gefüllt.width() * (option.progress - option.minimum) / spanne);
+    maler.setClipRect(gefüllt);
+    maler.fillPath(form, QColor::fromRgb(Ton::Akzent));
+}
+
+}  // namespace
+
+Stil::Stil() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+void Tafel_malen(QPainter& maler, const QRectF& platz, const QColor& füllung, const QColor& linie, double rundung) {
+    const Sicherung sicherung(maler);
+    maler.setPen(QPen(linie, 1));
+    maler.setBrush(füllung);
+    maler.drawRoundedRect(platz.adjusted(0.5, 0.5, -0.5, -0.5), rundung, rundung);
+}
+
+void Stil::drawPrimitive(PrimitiveElement was, const QStyleOption* option, QPainter* maler, const QWidget* widget) const {
+    switch (was) {
+        case PE_PanelButtonCommand: {
+            const auto* knopf = qstyleoption_cast<const QStyleOptionButton*>(option);
+            Knopf_malen(*option, *maler, knopf != nullptr && knopf->features.testFlag(QStyleOptionButton::DefaultButton));
+            return;
+        }
+        case PE_PanelButtonTool:
+            if (hat(*option, State_Enabled) &&
+                (hat(*option, State_MouseOver) || hat(*option, State_Sunken) || hat(*option, State_On)))
+                Knopf_malen(*option, *maler, false);
+            else
+                Tafel_malen(*maler, QRectF(option->rect), option->palette.color(QPalette::Button),
+                            QColor::fromRgb(Ton::Linie_zart));
+            return;
+        case PE_FrameDefaultButton:
+        case PE_FrameFocusRect: return;  // the frames themselves show the focus
+        case PE_PanelLineEdit: {
+            const bool aktiv = hat(*option, State_Enabled);
+            const bool fokus = aktiv && hat(*option, State_HasFocus);
+            const QColor füllung = aktiv && !hat(*option, State_ReadOnly) ? option->palette.color(QPalette::Base)
+                                                                          : QColor::fromRgb(Ton::Wert);
+            Tafel_malen(*maler, QRectF(option->rect), füllung,
+                        QColor::fromRgb(fokus ? Ton::Akzent : aktiv ? Ton::Linie : Ton::Linie_zart), 3);
+            return;
+        }
+        case PE_FrameLineEdit: return;  // drawn with the panel
+        case PE_Frame:
+        case PE_FrameTabWidget: {
+            const bool fokus = hat(*option, State_HasFocus);
+            Tafel_malen(*maler, QRectF(option->rect), Qt::transparent, QColor::fromRgb(fokus ? Ton::Akzent : Ton::Linie), 2);
+            return;
+        }
+        case PE_IndicatorCheckBox: Kästchen_malen(*option, *maler, false); return;
+        case PE_IndicatorRadioButton: Kästchen_malen(*option, *maler, true); return;
+        default: QProxyStyle::drawPrimitive(was, option, maler, widget);
+    }
+}
+
+void Stil::drawControl(ControlElement was, const QStyleOption* option, QPainter* maler, const QWidget* widget) const {
+    switch (was) {
+        case CE_TabBarTabShape:
+            if (const auto* reiter = qstyleoption_cast<const QStyleOptionTab*>(option)) return Reiter_malen(*reiter, *maler);
+            break;
+        case CE_ProgressBarGroove:
+            Tafel_malen(*maler, QRectF(option->rect), QColor::fromRgb(Ton::Feld), QColor::fromRgb(Ton::Linie));
+            return;
+        case CE_ProgressBarContents:
+            if (const auto* balken = qstyleoption_cast<const QStyleOptionProgressBar*>(option))
+                return Balken_malen(*balken, *maler);
+            break;
+        default: break;
+    }
+    QProxyStyle::drawControl(was, option, maler, widget);
+}
+
+void Stil::drawComplexControl(ComplexControl was, const QStyleOptionComplex* option, QPainter* maler,
+                              const QWidget* widget) const {
+    if (const auto* regler = qstyleoption_cast<const QStyleOptionSlider*>(option)) {
+        if (was == CC_Slider) return Schieber_malen(*this, *regler, *maler, widget);
+        if (was == CC_ScrollBar) return Bildlauf_malen(*this, *regler, *maler, widget);
+    }
+    if (const auto* auswahl = qstyleoption_cast<const QStyleOptionComboBox*>(option); auswahl && was == CC_ComboBox && !auswahl->editable) {
+        QStyleOption rahmen(*auswahl);
+        Knopf_malen(rahmen, *maler, false);
+        Winkel_malen(*maler, QRectF(subControlRect(CC_ComboBox, auswahl, SC_ComboBoxArrow, widget)), 0, Zeichenfarbe(*option));
+        return;
+    }
+    QProxyStyle::drawComplexControl(was, option, maler, widget);
+}
+
+int Stil::pixelMetric(PixelMetric was, const QStyleOption* option, const QWidget* widget) const {
+    switch (was) {
+        case PM_ScrollBarExtent: return 15;
+        case PM_IndicatorWidth:
+        case PM_IndicatorHeight:
+        case PM_ExclusiveIndicatorWidth:
+        case PM_ExclusiveIndicatorHeight: return 14;
+        case PM_TabBarTabHSpace: return 26;
+        case PM_TabBarTabVSpace: return 10;
+        case PM_TabBarTabShiftVertical:
+        case PM_TabBarBaseOverlap: return 0;
+        default: return QProxyStyle::pixelMetric(was, option, widget);
+    }
+}
+
+int Stil::styleHint(StyleHint was, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* zurück) const {
+    switch (was) {
+        case SH_UnderlineShortcut: return 1;
+        case SH_EtchDisabledText:
+        case SH_DitherDisabledText: return 0;
+        case SH_ComboBox_Popup: return 0;
+        case SH_ItemView_ShowDecorationSelected: return 1;
+        // The selection looks the same when another control has the focus: the chosen line stays the chosen one.
+        case SH_ItemView_ChangeHighlightOnFocus: return 0;
+        default: return QProxyStyle::styleHint(was, option, widget, zurück);
+    }
+}
+
+QPalette Farbtafel() {
+    QPalette p;
+    const auto setzen = [&p](QPalette::ColorRole rolle, QRgb farbe) { p.setColor(rolle, QColor::fromRgb(farbe)); };
+    setzen(QPalette::Window, Ton::Grund);
+    setzen(QPalette::WindowText, Ton::Schrift);
+    setzen(QPalette::Base, Ton::Feld);
+    setzen(QPalette::AlternateBase, Ton::Wert);
+    setzen(QPalette::Text, Ton::Schrift);
+    setzen(QPalette::PlaceholderText, Ton::blass);
+    setzen(QPalette::Button, Ton::Feld);
+    setzen(QPalette::ButtonText, Ton::Schrift);
+    setzen(QPalette::BrightText, Ton::Feld);
+    setzen(QPalette::Light, Ton::Feld);
+    setzen(QPalette::Midlight, Ton::Grund);
+    setzen(QPalette::Mid, Ton::Linie);
+    setzen(QPalette::Dark, 0xff9aa6b3);
+    setzen(QPalette::Shadow, 0xff6b7783);
+    setzen(QPalette::Highlight, Ton::Akzent);
+    setzen(QPalette::HighlightedText, Ton::Feld);
+    setzen(QPalette::Link, Ton::Akzent);
+    setzen(QPalette::LinkVisited, Ton::Akzent_dunkel);
+    setzen(QPalette::ToolTipBase, 0xfffffbe8);
+    setzen(QPalette::ToolTipText, Ton::Schrift);
+    for (const auto rolle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        p.setColor(QPalette::Disabled, rolle, QColor::fromRgb(Ton::blass));
+    p.setColor(QPalette::Disabled, QPalette::Base, QColor::fromRgb(Ton::Wert));
+    p.setColor(QPalette::Disabled, QPalette::Highlight, QColor::fromRgb(Ton::Linie));
+    return p;
+}
+
+QFont Schrift(int punkte, bool fett) {
+    QFont schrift = QApplication::font();
+    if (schrift.pixelSize() > 0)
+        schrift.setPixelSize(std::max(1, static_cast<int>(std::lround(schrift.pixelSize() * punkte / 10.0))));
+    else
+        schrift.setPointSizeF(std::max(1.0, schrift.pointSizeF() * punkte / 10.0));
+    schrift.setBold(fett);
+    return schrift;
+}
+
+}  // namespace tonkartei

@@ -1,0 +1,49 @@
+// What all windows of a painter share.
+#pragma once
+
+#include <functional>
+
+#include "oberflaeche/ansicht.hpp"
+
+namespace tonkartei {
+
+class Element;
+class Fenster;
+
+struct Umfeld {
+    explicit Umfeld(Ansicht& a) : ansicht(a) {}
+    Umfeld(const Umfeld&) = delete;
+    Umfeld& operator=(const Umfeld&) = delete;
+
+    Ansicht& ansicht;
+    // Above 0 while widgets follow the model: what they report then is no doing of the user's.
+    int still = 0;
+    // The painter is going; the model's objects may be gone.
+    bool zu_Ende = false;
+    // The drag under way: its source, and where it was dropped.
+    Element* gezogen = nullptr;
+    Element* gezogen_auf = nullptr;
+    // The window last brought to the front on the screen.
+    const Fenster* vorderstes = nullptr;
+
+    // Carries the user's doing to the model, under the guard: no exception crosses a frame of Qt's.
+    void von_Hand(const std::function<void()>& tat) const {
+        if (!hört()) return;
+        ansicht.ausführen(tat);
+    }
+    bool hört() const { return still == 0 && !zu_Ende && !ansicht.endet(); }
+    bool erreichbar(const Fenster& fenster) const;
+};
+
+class Stille {
+public:
+    explicit Stille(Umfeld& umfeld) : umfeld_(umfeld) { ++umfeld_.still; }
+    ~Stille() { --umfeld_.still; }
+    Stille(const Stille&) = delete;
+    Stille& operator=(const Stille&) = delete;
+
+private:
+    Umfeld& umfeld_;
+};
+
+}  // namespace tonkartei
