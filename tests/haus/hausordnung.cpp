@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <optional>
-#include <regex>
 #include <set>
 #include <sstream>
 #include <string_view>
@@ -79,14 +79,16 @@ struct Einschluss {
 };
 
 std::vector<Einschluss> Einschlüsse(const std::string& code) {
-    static const std::regex muster(R"re(^\s*#\s*include\s*(?:<([^>]*)>|"([^"]*)"))re");
     std::vector<Einschluss> ergebnis;
     std::istringstream strom(code);
     std::string zeile;
     for (int nummer = 1; std::getline(strom, zeile); ++nummer) {
-        std::smatch treffer;
-        if (ist_Einschluss(zeile) && std::regex_search(zeile, treffer, muster))
-            ergebnis.push_back({nummer, treffer[1].matched, treffer[1].matched ? treffer[1].str() : treffer[2].str()});
+        if (!ist_Einschluss(zeile)) continue;
+        const std::size_t anfang = zeile.find_first_of("<\"");
+        if (anfang == std::string::npos) continue;
+        const bool spitz = zeile[anfang] == '<';
+        const std::size_t ende = zeile.find(spitz ? '>' : '"', anfang + 1);
+        ergebnis.push_back({nummer, spitz, zeile.substr(anfang + 1, ende - anfang - 1)});
     }
     return ergebnis;
 }
@@ -126,21 +128,28 @@ Fremdes Herkunft(const std::string& kopf) {
 
 const char* Name(Fremdes fremdes) { return fremdes == Qt ? "Qt" : fremdes == mpv ? "libmpv" : "the machine (POSIX)"; }
 
-// Names that come along with headers of the standard library or need no header at all.
-struct Wortregel {
-    Fremdes Was;
-    std::regex Muster;
-};
-const std::vector<Wortregel>& Wortregeln() {
-    static const std::vector<Wortregel> regeln{
-        {Qt, std::regex(R"(\b(Q[A-Z]\w+|Q_[A-Z]+)\b)")},
-        {mpv, std::regex(R"(\bmpv_\w+)")},
-        {POSIX, std::regex(R"(\b(__linux__|__unix__|__APPLE__|_WIN32|_POSIX_\w+|_GNU_SOURCE)\b)")},
-        {POSIX, std::regex(R"(\b(localtime_r|gmtime_r|timegm|setenv|unsetenv|mkstemp|mkdtemp|realpath|popen|pclose|fileno|)"
-                           R"(fdopen|strcasecmp|strncasecmp|fsync|fdatasync|usleep|nanosleep|getpid|getuid|fork|execvp?|)"
-                           R"(posix_\w+|dlopen|pthread_\w+|sigaction|ftruncate|lstat|fstat)\s*\()")},
-    };
-    return regeln;
+// Calls that headers of the standard library bring along or that need no header at all.
+constexpr std::array<std::string_view, 30> Aufrufe{
+    "localtime_r", "gmtime_r",    "timegm", "setenv",    "unsetenv", "mkstemp", "mkdtemp",   "realpath",  "popen", "pclose",
+    "fileno",      "fdopen",      "fsync",  "usleep",    "getpid",   "getuid",  "fdatasync", "ftruncate", "execv", "execvp",
+    "strcasecmp",  "strncasecmp", "dlopen", "nanosleep", "fork",     "lstat",   "fstat",     "sigaction", "mmap",  "ioctl"};
+// Asking for the machine is a way of naming it.
+constexpr std::array<std::string_view, 6> Schalter{"__linux__", "__unix__",        "__APPLE__",
+                                                   "_WIN32",    "_POSIX_C_SOURCE", "_GNU_SOURCE"};
+
+bool im_Wort(char zeichen) {
+    const auto byte = static_cast<unsigned char>(zeichen);
+    return std::isalnum(byte) || zeichen == '_' || byte >= 0x80;
+}
+
+Fremdes Herkunft_des_Wortes(std::string_view wort, bool ist_Aufruf) {
+    const auto steht_in = [&](const auto& wörter) { return std::find(wörter.begin(), wörter.end(), wort) != wörter.end(); };
+    if (wort.size() > 2 && wort[0] == 'Q' && (wort[1] == '_' || std::isupper(static_cast<unsigned char>(wort[1]))))
+        return Qt;
+    if (wort.starts_with("mpv_")) return mpv;
+    if (steht_in(Schalter)) return POSIX;
+    if (ist_Aufruf && (steht_in(Aufrufe) || wort.starts_with("posix_") || wort.starts_with("pthread_"))) return POSIX;
+    return nichts;
 }
 
 void prüfe_Wörter(const std::string& datei, const std::string& code, unsigned darf, std::vector<Verstoß>& verstöße) {
@@ -148,10 +157,15 @@ void prüfe_Wörter(const std::string& datei, const std::string& code, unsigned 
     std::string zeile;
     for (int nummer = 1; std::getline(strom, zeile); ++nummer) {
         if (ist_Einschluss(zeile)) continue;
-        for (const Wortregel& regel : Wortregeln()) {
-            std::smatch treffer;
-            if (!(darf & regel.Was) && std::regex_search(zeile, treffer, regel.Muster))
-                verstöße.push_back({datei, nummer, std::string("names ") + Name(regel.Was) + ": " + treffer[1].str()});
+        for (std::size_t i = 0; i < zeile.size();) {
+            std::size_t ende = i;
+            while (ende < zeile.size() && im_Wort(zeile[ende])) ++ende;
+            const std::size_t danach = zeile.find_first_not_of(' ', ende);
+            const std::string_view wort = std::string_view(zeile).substr(i, ende - i);
+            const Fremdes fremdes = Herkunft_des_Wortes(wort, danach != std::string::npos && zeile[danach] == '(');
+            if (fremdes != nichts && !(darf & fremdes))
+                verstöße.push_back({datei, nummer, std::string("names ") + Name(fremdes) + ": " + std::string(wort)});
+            i = ende + 1;
         }
     }
 }
