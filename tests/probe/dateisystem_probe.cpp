@@ -69,7 +69,7 @@ void Dateisystem_Probe::schreiben(Griff griff, std::uint64_t stelle, std::span<c
 
 void Dateisystem_Probe::umbenennen(const Text& von, const Text& nach) {
     if (störungen_.trifft(Vorgang::umbenennen) || geschützt(von) || geschützt(nach)) throw Dateifehler(75, von);
-    if (echt_.Datei_da(von) && Laufwerk_von(von) != Laufwerk_von(nach)) throw Dateifehler(74, von);
+    if ((echt_.Datei_da(von) || echt_.Ordner_da(von)) && Laufwerk_von(von) != Laufwerk_von(nach)) throw Dateifehler(74, von);
     echt_.umbenennen(von, nach);
 }
 

@@ -1,0 +1,31 @@
+// The commands of the operator, by their first words.
+#pragma once
+
+#include <functional>
+#include <map>
+
+#include "bediener/befehlszeile.hpp"
+#include "oberflaeche/element.hpp"
+
+namespace tonkartei {
+
+class Ansicht_Bediener;
+class Fenster;
+struct Maschine;
+
+using Befehlstafel = std::map<Text, std::function<void(Befehlszeile&)>>;
+// Saves a picture of the window; false when that fails. Empty without a toolkit.
+using Bildspeicher = std::function<bool(Fenster&, const Text&)>;
+
+// What the hand does.
+void Handbefehle_eintragen(Befehlstafel& tafel, Ansicht_Bediener& ansicht);
+// Answers to boxes.
+void Antwortbefehle_eintragen(Befehlstafel& tafel, Ansicht_Bediener& ansicht, Maschine& maschine);
+void Schaubefehle_eintragen(Befehlstafel& tafel, Ansicht_Bediener& ansicht, Maschine& maschine, Bildspeicher bild);
+// Time, chance, and what happens around the program.
+void Szenenbefehle_eintragen(Befehlstafel& tafel, Ansicht_Bediener& ansicht, Maschine& maschine);
+
+// A key by its name: "Return", "Alt+x", or one character.
+Taste Taste_von(const Text& name);
+
+}  // namespace tonkartei
