@@ -1,0 +1,239 @@
+#include "liste/listenbereich.hpp"
+
+#include <algorithm>
+
+#include "kategorien/kategorienbereich.hpp"
+#include "oberflaeche/ansicht.hpp"
+#include "oberflaeche/fenster.hpp"
+
+namespace tonkartei {
+
+Listenbereich::Listenbereich(Fenster& f, Modell& modell, const Einstellungen& einstellungen, Kategorienbereich& kategorien)
+    : Datenbank_Modus(f, "Datenbank_Modus", {"Lieder", "Alben"}),
+      sortieren_Text(f, "sortieren_Text", "sortieren:"),
+      sortieren_Titel(f, "sortieren", "Titel", 1),
+      sortieren_Artist(f, "sortieren", "Artist", 2),
+      Schnellsuche_Text(f, "Schnellsuche_Text", "Schnells&uche:"),
+      Schnellsuche(f, "Schnellsuche"),
+      Liste(f, "Liste"),
+      Nr_Liste(f, "Nr_Liste"),
+      Liste2(f, "Liste2"),
+      Liste_Anzahl_Text(f, "Liste_Anzahl_Text", "Lieder:"),
+      Liste_Anzahl(f, "Liste_Anzahl", "0"),
+      Liste_Größe_Text(f, "Liste_Größe_Text", "MB:"),
+      Liste_Größe(f, "Liste_Größe", "0"),
+      Liste_Dauer_Text(f, "Liste_Dauer_Text", "Dauer:"),
+      Liste_Dauer(f, "Liste_Dauer"),
+      Lied_Rahmen(f, "Lied_Rahmen", "Lied"),
+      Titel_Text(f, "Titel_Text", "Titel:"),
+      Titel(f, "Titel"),
+      Artist_Text(f, "Artist_Text", "Artist:"),
+      Artist(f, "Artist"),
+      Anzahl_Text(f, "Anzahl_Text", "Anzahl:"),
+      Anzahl(f, "Anzahl"),
+      Lied_Größe_Text(f, "Lied_Größe_Text", "kBytes:"),
+      Lied_Größe(f, "Lied_Größe"),
+      Lied_Zeit_Text(f, "Lied_Zeit_Text", "Zeit:"),
+      Lied_Zeit(f, "Lied_Zeit"),
+      Lied_Kategorie_Text(f, "Lied_Kategorie_Text", "&Kategorie:"),
+      Reset_Anzahl(f, "Reset_Anzahl", "&Reset"),
+      fenster_(f),
+      modell_(modell),
+      einstellungen_(einstellungen),
+      kategorien_(kategorien) {
+    sortieren_Titel.tooltip("Zeigt den Titel des Liedes vorne an und sortiert die Liste danach");
+    sortieren_Artist.tooltip("Zeigt den Artist des Liedes vorne an und sortiert die Liste danach");
+    Schnellsuche.tooltip("Lieder in der Liste enthalten diesen Text");
+    Reset_Anzahl.tooltip("ändert, wie oft das Lied gehört wurde");
+    Reset_Anzahl.aktiv(false);
+    Nr_Liste.unsichtbarer_Helfer = true;
+    Liste2.frei = true;
+    Liste2.sichtbar(false);
+    for (Schriftfeld* wert :
+         {&Liste_Anzahl, &Liste_Größe, &Liste_Dauer, &Titel, &Artist, &Anzahl, &Lied_Größe, &Lied_Zeit}) {
+        wert->eingerahmt = true;
+        wert->wie_Daten = true;
+    }
+    for (Schriftfeld* zahl : {&Liste_Anzahl, &Liste_Größe, &Liste_Dauer, &Anzahl, &Lied_Größe, &Lied_Zeit})
+        zahl->ausrichtung = Schriftfeld::Ausrichtung::rechts;
+
+    Datenbank_Modus.Klick.verbinden([this] { Tab_gewechselt(); });
+    sortieren_Titel.Klick.verbinden([this] { Sortierung_wählen(Sortierung::Titel); });
+    sortieren_Artist.Klick.verbinden([this] { Sortierung_wählen(Sortierung::Artist); });
+    Schnellsuche.Geändert.verbinden([this] { Suche_geändert(); });
+    Schnellsuche.Tastendruck.verbinden([this](Taste& taste) { Suchtaste(taste); });
+    Liste.Klick.verbinden([this] { Zeile_gewählt(); });
+    Liste.Doppelklick.verbinden([this] { Zeile_ausführen(); });
+    Liste.Tastendruck.verbinden([this](Taste& taste) {
+        if (taste.art != Taste::Art::Return) return;
+        taste.erledigt = true;
+        Zeile_ausführen();
+    });
+    Reset_Anzahl.Klick.verbinden([this] {
+        if (angezeigtes_Lied_ > 0) Anzahl_ändern(angezeigtes_Lied_);
+    });
+}
+
+Knoten Listenbereich::Listenknoten() {
+    return Spalte({Zeile({Datenbank_Modus, Feder(), sortieren_Text, sortieren_Titel, sortieren_Artist}),
+                   Zeile({Schnellsuche_Text, Knoten(Schnellsuche).dehnen(1)}),
+                   Überlagerung({Knoten(Liste).zeilen(24).zeichen(44), Knoten(Liste2)}).dehnen(1, 1),
+                   Zeile({Liste_Anzahl_Text, Knoten(Liste_Anzahl).zeichen(6).dehnen(1), Liste_Größe_Text,
+                          Knoten(Liste_Größe).zeichen(6).dehnen(1), Liste_Dauer_Text,
+                          Knoten(Liste_Dauer).zeichen(6).dehnen(1)})})
+        .dehnen(1, 1);
+}
+
+Knoten Listenbereich::Liedknoten(Auswahlfeld& Lied_Kategorie) {
+    return Gruppe(
+        Lied_Rahmen,
+        Spalte({Gitter(2, {Titel_Text, Knoten(Titel).zeichen(30).dehnen(1), Artist_Text,
+                           Knoten(Artist).zeichen(30).dehnen(1), Lied_Kategorie_Text, Knoten(Lied_Kategorie).dehnen(1)}),
+                Zeile({Anzahl_Text, Knoten(Anzahl).zeichen(5).dehnen(1), Reset_Anzahl, Lied_Größe_Text,
+                       Knoten(Lied_Größe).zeichen(6).dehnen(1), Lied_Zeit_Text, Knoten(Lied_Zeit).zeichen(5).dehnen(1)})}));
+}
+
+// The titles of an album lie over the lower four fifths of the list.
+void Listenbereich::freie_Lage() {
+    const Bereich& l = Liste.lage();
+    Liste2.lage({l.links, l.oben + l.höhe / 5, l.breite, l.höhe - l.höhe / 5});
+}
+
+void Listenbereich::Sortierung_wählen(Sortierung sortierung) {
+    sortierung_ = sortierung;
+    aktualisiere_Liste();
+}
+
+void Listenbereich::Sicht_zurücksetzen() {
+    sortieren_Artist.wählen();
+    Schnellsuche.text("");
+}
+
+void Listenbereich::aktualisiere_Liste() {
+    if (Datenbank_Modus.wert() == 0) erstelle_Lieder_Liste();
+}
+
+void Listenbereich::erstelle_Lieder_Liste() {
+    const Long gemerkt = Liste.Anzahl() > 0 && Liste.gewählt() >= 0 ? Lied_Nr(Liste.gewählt()) : 0;
+    const auto nummern = gefilterte_Lieder(modell_, sortierung_, Schnellsuche.text(),
+                                           [this](int k) { return kategorien_.zeige_Kategorie(k).wert(); });
+    Nr_Liste_setzen(nummern);
+    if (!nummern.empty()) {
+        erstelle_Liste_von_Nr_Liste();
+        const auto fund = gemerkt > 0 ? std::find(nummern.begin(), nummern.end(), gemerkt) : nummern.end();
+        if (fund != nummern.end()) {
+            // The last line first: the song's line then comes to the top of what is visible.
+            Liste.wähle(Liste.Anzahl() - 1);
+            Liste.wähle(static_cast<int>(fund - nummern.begin()));
+        }
+    } else {
+        Liste.leeren();
+        Liste_Anzahl.beschriftung("0");
+        Liste_Größe.beschriftung("0");
+    }
+    Einzelheiten_leeren();
+}
+
+void Listenbereich::Nr_Liste_setzen(const std::vector<long long>& nummern) {
+    std::vector<Text> zeilen;
+    zeilen.reserve(nummern.size());
+    for (const long long nr : nummern) zeilen.push_back(Zahltext(nr));
+    Nr_Liste.setzen(std::move(zeilen));
+}
+
+void Listenbereich::erstelle_Liste_von_Nr_Liste() {
+    Liste.sichtbar(einstellungen_.bei_Listensuche_sichtbar);
+    Listensumme summe;
+    std::vector<Text> zeilen;
+    zeilen.reserve(Nr_Liste.zeilen().size());
+    for (const Text& nr : Nr_Liste.zeilen()) {
+        const Lied& lied = modell_.Lieder[gerundet(Zahlwert(nr))];
+        zeilen.push_back(Listenzeile(lied, sortierung_));
+        summe.dazu(lied);
+    }
+    Liste.setzen(std::move(zeilen));
+    Liste_Anzahl.beschriftung(Zahltext(Liste.Anzahl()));
+    Liste_Größe.beschriftung(Zahltext(summe.KByte / 1024));
+    Liste_Dauer.beschriftung(Dauer_Text(static_cast<double>(summe.Sekunden)));
+    Liste.sichtbar(true);
+}
+
+// After a rebuild no details are shown, even where the choice was restored, until the next click. The song's time stays.
+void Listenbereich::Einzelheiten_leeren() {
+    angezeigtes_Lied_ = 0;
+    for (Schriftfeld* feld : {&Titel, &Artist, &Anzahl, &Lied_Größe}) feld->beschriftung("");
+    Reset_Anzahl.aktiv(false);
+    kategorien_.Lied_Kategorie.aktiv(false);
+    kategorien_.Farben_zurücksetzen();
+}
+
+Long Listenbereich::Lied_Nr(int Index) const { return gerundet(Zahlwert(Nr_Liste.zeile(Index))); }
+
+Long Listenbereich::gewähltes_Lied() const {
+    return Datenbank_Modus.wert() == 0 && Liste.gewählt() >= 0 ? Lied_Nr(Liste.gewählt()) : 0;
+}
+
+void Listenbereich::Zeile_gewählt() {
+    if (Datenbank_Modus.wert() == 0 && Liste.gewählt() >= 0) zeige_Lied(Lied_Nr(Liste.gewählt()));
+}
+
+void Listenbereich::zeige_Lied(Long Nr) {
+    const Lied& lied = modell_.Lieder[Nr];
+    angezeigtes_Lied_ = Nr;
+    Titel.beschriftung(und_verdoppelt(lied.Titel));
+    Artist.beschriftung(und_verdoppelt(lied.Artist));
+    Anzahl.beschriftung(Zahltext(lied.Anzahl));
+    Lied_Größe.beschriftung(Zahltext(lied.Größe));
+    Lied_Zeit.beschriftung(Minuten_Sekunden(lied.Zeit));
+    Reset_Anzahl.aktiv(true);
+    kategorien_.Lied_Kategorie.aktiv(true);
+    if (lied.Kategorie <= kategorien_.Lied_Kategorie.Anzahl()) kategorien_.Lied_Kategorie.wähle(lied.Kategorie - 1);
+    // Also where the category is the one of the song before: the rebuild has taken the colours away.
+    kategorien_.zeige_Kategorie_Farben();
+}
+
+void Listenbereich::Anzahl_auffrischen(Long Nr) {
+    if (Liste.Anzahl() > 0 && Liste.gewählt() == Nr - 1) Anzahl.beschriftung(Zahltext(modell_.Lieder[Nr].Anzahl));
+}
+
+void Listenbereich::Zeile_ausführen() {
+    const Long nr = gewähltes_Lied();
+    if (nr < 1) return;
+    if (einstellungen_.Liste_Doppelklick >= 2) zur_Playlist(nr);
+    if (einstellungen_.Liste_Doppelklick != 2) Lied_starten(nr);
+}
+
+void Listenbereich::Suche_geändert() {
+    const auto zeichen = Zeichenzahl(Schnellsuche.text());
+    if (zeichen == 0 || zeichen >= einstellungen_.Listensuche_Anzahl_Buchstaben) aktualisiere_Liste();
+}
+
+void Listenbereich::Suchtaste(Taste& taste) {
+    const int letzte = Liste.Anzahl() - 1;
+    switch (taste.art) {
+        case Taste::Art::Auf:
+            if (letzte >= 0) Liste.wähle(Liste.gewählt() >= 0 ? Liste.gewählt() - 1 : letzte);
+            break;
+        case Taste::Art::Ab:
+            if (letzte >= 0) Liste.wähle(Liste.gewählt() < letzte ? Liste.gewählt() + 1 : 0);
+            break;
+        case Taste::Art::Return: Start_gewünscht(); break;
+        case Taste::Art::Escape: Schnellsuche.text(""); break;
+        default: return;
+    }
+    taste.erledigt = true;
+}
+
+void Listenbereich::Tab_gewechselt() {
+    if (Datenbank_Modus.wert() == 1 && !Alben_öffnen()) {
+        Datenbank_Modus.wert(0);  // comes back here and rebuilds
+        return;
+    }
+    aktualisiere_Liste();
+}
+
+void Listenbereich::Schnellsuche_fokussieren() {
+    if (fenster_.zustand() == Fensterzustand::normal) fenster_.ansicht().fokus(Schnellsuche);
+}
+
+}  // namespace tonkartei

@@ -1,0 +1,90 @@
+// The list area of the main window: the view of the collection, the quick search, the totals, the details of the chosen
+// song.
+#pragma once
+
+#include <functional>
+
+#include "datenbank/einstellungen.hpp"
+#include "datenbank/modell.hpp"
+#include "grundlagen/ereignis.hpp"
+#include "liste/lieder_liste.hpp"
+#include "oberflaeche/anordnung.hpp"
+#include "oberflaeche/elemente.hpp"
+#include "oberflaeche/listen.hpp"
+
+namespace tonkartei {
+
+class Kategorienbereich;
+
+class Listenbereich {
+public:
+    Listenbereich(Fenster& fenster, Modell& modell, const Einstellungen& einstellungen, Kategorienbereich& kategorien);
+
+    Reiter Datenbank_Modus;  // 0 songs, 1 albums
+    Schriftfeld sortieren_Text;
+    Optionsfeld sortieren_Titel, sortieren_Artist;  // sortieren(1), sortieren(2)
+    Schriftfeld Schnellsuche_Text;
+    Textfeld Schnellsuche;
+    Listenfeld Liste;
+    Listenfeld Nr_Liste;  // hidden: the number of each line of Liste
+    Listenfeld Liste2;    // titles of the chosen album
+    Schriftfeld Liste_Anzahl_Text, Liste_Anzahl, Liste_Größe_Text, Liste_Größe, Liste_Dauer_Text, Liste_Dauer;
+
+    Rahmen Lied_Rahmen;
+    Schriftfeld Titel_Text, Titel, Artist_Text, Artist, Anzahl_Text, Anzahl, Lied_Größe_Text, Lied_Größe, Lied_Zeit_Text,
+        Lied_Zeit, Lied_Kategorie_Text;
+    Knopf Reset_Anzahl;
+
+    // Rebuilds what the present tab shows.
+    void aktualisiere_Liste();
+    // Fills Liste from Nr_Liste and works out the totals.
+    void erstelle_Liste_von_Nr_Liste();
+    // The numbers for the next erstelle_Liste_von_Nr_Liste.
+    void Nr_Liste_setzen(const std::vector<long long>& nummern);
+    // Song number of a line of Liste; error 9 outside it.
+    Long Lied_Nr(int Index) const;
+    // Number of the song chosen in the present tab; 0 none.
+    Long gewähltes_Lied() const;
+    // Number of the song whose details are shown; 0 none.
+    Long angezeigtes_Lied() const noexcept { return angezeigtes_Lied_; }
+    void zeige_Lied(Long Nr);
+    // A count was raised: the label follows where the chosen line is Nr - 1. That the line is compared with the number, not
+    // with the song on it, is meant: the label is refreshed only where the two happen to agree.
+    void Anzahl_auffrischen(Long Nr);
+    void Schnellsuche_fokussieren();
+    // The start of a new collection: sorted by artist, search emptied; rebuilds in any case.
+    void Sicht_zurücksetzen();
+    Sortierung sortierung() const noexcept { return sortierung_; }
+
+    Knoten Listenknoten();
+    Knoten Liedknoten(Auswahlfeld& Lied_Kategorie);
+    // After the window's layout: the places that the tree does not tell.
+    void freie_Lage();
+
+    Ereignis<Long> Lied_starten;   // double click or Return, by the setting
+    Ereignis<Long> zur_Playlist;   // the same
+    Ereignis<Long> Anzahl_ändern;  // Reset_Anzahl
+    // Return in the search: as the start button, which knows what to do without a song.
+    Ereignis<> Start_gewünscht;
+    // Opens the album view; false: the tab falls back to the songs.
+    std::function<bool()> Alben_öffnen = [] { return false; };
+
+private:
+    void erstelle_Lieder_Liste();
+    void Einzelheiten_leeren();
+    void Sortierung_wählen(Sortierung sortierung);
+    void Suche_geändert();
+    void Suchtaste(Taste& taste);
+    void Tab_gewechselt();
+    void Zeile_gewählt();
+    void Zeile_ausführen();
+
+    Fenster& fenster_;
+    Modell& modell_;
+    const Einstellungen& einstellungen_;
+    Kategorienbereich& kategorien_;
+    Sortierung sortierung_ = Sortierung::Artist;
+    Long angezeigtes_Lied_ = 0;
+};
+
+}  // namespace tonkartei
