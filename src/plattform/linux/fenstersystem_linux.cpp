@@ -58,7 +58,11 @@ bool senden(int fd, const std::string& bytes) {
 Fenstersystem_Linux::Fenstersystem_Linux(std::chrono::milliseconds frist) : frist_(frist) {}
 Fenstersystem_Linux::~Fenstersystem_Linux() = default;
 
-void Fenstersystem_Linux::trennen(Eintrag& eintrag) {
+// A window may have let go of a connection: it is tried again at once. Who talks rubbish, or ends before it has told what
+// it is, waits.
+void Fenstersystem_Linux::trennen(Eintrag& eintrag, bool Unsinn) {
+    if (eintrag.angemeldet && !Unsinn) eintrag.Nächster_Versuch = {};
+    if (Unsinn) eintrag.Nächster_Versuch = Uhr::now() + Pause_nach_Fehlschlag;
     eintrag.Verbindung.schließen();
     eintrag.angemeldet = eintrag.hängt = false;
 }
@@ -162,9 +166,7 @@ bool Fenstersystem_Linux::abholen(Hwnd griff, Eintrag& eintrag) {
         const bool brauchbar = antwort && (eintrag.angemeldet || (antwort->Ergebnis == griff && !bytes->empty() &&
                                                                   bytes->size() <= protokoll::Höchstlänge_Klasse));
         if (!brauchbar) {
-            // A window that was one may have let go of a connection; it is tried again at once. A stranger waits.
-            if (eintrag.angemeldet && ende) eintrag.Nächster_Versuch = {};
-            trennen(eintrag);
+            trennen(eintrag, !ende);
             return false;
         }
         eintrag.hängt = false;
@@ -173,7 +175,7 @@ bool Fenstersystem_Linux::abholen(Hwnd griff, Eintrag& eintrag) {
             eintrag.Klasse = Text(*bytes);
         }
     }
-    trennen(eintrag);  // an endless talker
+    trennen(eintrag, true);  // an endless talker
     return false;
 }
 
@@ -193,7 +195,7 @@ std::optional<Fenstersystem_Linux::Rückgabe> Fenstersystem_Linux::fragen(Hwnd f
     if (!eintrag) return std::nullopt;
     anfrage.Folge = ++folge_;
     if (!senden(eintrag->Verbindung.fd(), protokoll::gepackt(anfrage, anhang))) {
-        if (errno != EAGAIN) trennen(*eintrag);
+        if (errno != EAGAIN) trennen(*eintrag, false);
         return std::nullopt;
     }
     return Antwort_abwarten(*eintrag, anfrage.Folge);
@@ -205,9 +207,10 @@ std::optional<Fenstersystem_Linux::Rückgabe> Fenstersystem_Linux::Antwort_abwar
     for (int i = 0; i < Höchstzahl_Reste && warten(eintrag.Verbindung.fd(), bis);) {
         auto bytes = empfangen(eintrag.Verbindung.fd(), puffer);
         if (!bytes) continue;
+        const bool ende = bytes->empty();
         const auto antwort = protokoll::entpackt<Antwort>(*bytes);
         if (!antwort) {
-            trennen(eintrag);
+            trennen(eintrag, !ende);
             return std::nullopt;
         }
         eintrag.hängt = false;

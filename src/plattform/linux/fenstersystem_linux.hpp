@@ -73,7 +73,7 @@ private:
     void Anmeldungen_abwarten();
     // Takes what has arrived. False when the other end is gone or talks rubbish; the connection is closed then.
     bool abholen(Hwnd griff, Eintrag& eintrag);
-    static void trennen(Eintrag& eintrag);
+    static void trennen(Eintrag& eintrag, bool Unsinn);
     Eintrag* Fenster_zu(Hwnd fenster);
     std::optional<Rückgabe> fragen(Hwnd fenster, protokoll::Anfrage anfrage, std::string_view anhang = {});
     std::optional<Rückgabe> Antwort_abwarten(Eintrag& eintrag, std::uint32_t folge);

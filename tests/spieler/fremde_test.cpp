@@ -1,0 +1,280 @@
+// Strangers on the desktop: processes that connect and do not speak as a program does, sockets that do not answer as a
+// window does. Neither side may be disturbed.
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+
+#include <algorithm>
+#include <atomic>
+#include <memory>
+#include <random>
+
+#include "plattform/linux/schreibtisch.hpp"
+#include "spieler/buehne.hpp"
+#include "spieler/fenster.hpp"
+
+namespace tonkartei::spieler {
+namespace {
+
+using protokoll::Anfrage;
+using protokoll::Antwort;
+using protokoll::Art;
+
+template <class Werk>
+double Millisekunden(Werk werk) {
+    const auto anfang = std::chrono::steady_clock::now();
+    werk();
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - anfang).count();
+}
+
+class Fremde : public Bühne {
+protected:
+    Deskriptor verbinden(Hwnd fenster) {
+        Deskriptor s(::socket(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0));
+        const Deskriptor ordner = schreibtisch::öffnen(false);
+        const auto adresse = schreibtisch::Adresse(ordner, std::to_string(fenster));
+        EXPECT_EQ(0, ::connect(s.fd(), reinterpret_cast<const sockaddr*>(&adresse), sizeof(adresse)));
+        return s;
+    }
+    // A socket on the desktop that is not a player's.
+    Deskriptor Attrappe(Hwnd fenster, int art = SOCK_SEQPACKET) {
+        Deskriptor s(::socket(AF_UNIX, art | SOCK_CLOEXEC, 0));
+        const Deskriptor ordner = schreibtisch::öffnen(true);
+        const auto adresse = schreibtisch::Adresse(ordner, std::to_string(fenster));
+        EXPECT_EQ(0, ::bind(s.fd(), reinterpret_cast<const sockaddr*>(&adresse), sizeof(adresse)));
+        EXPECT_EQ(0, ::listen(s.fd(), 8));
+        return s;
+    }
+    static void senden(const Deskriptor& s, std::string_view bytes) {
+        (void)!::send(s.fd(), bytes.data(), bytes.size(), MSG_NOSIGNAL | MSG_DONTWAIT);
+    }
+    // True when the other end closes within some seconds.
+    static bool beendet(const Deskriptor& s) {
+        pollfd p{s.fd(), POLLIN, 0};
+        char puffer[8192];
+        while (::poll(&p, 1, 4000) > 0)
+            if (::recv(s.fd(), puffer, sizeof(puffer), MSG_DONTWAIT) <= 0) return true;
+        return false;
+    }
+};
+
+TEST_F(Fremde, UnsinnStörtDenSpielerNicht) {
+    const Hwnd f = Spieler_mit({Lied("a.wav")});
+    ASSERT_TRUE(läuft(f));
+    Anfrage gruß, fremd, unbekannt, nachricht;
+    fremd.Kennung = 7;
+    unbekannt.Art = static_cast<Art>(99);
+    nachricht.Art = Art::Nachricht;
+    const std::string gegrüßt = protokoll::gepackt(gruß);
+    const std::vector<std::vector<std::string>> Reden{
+        {"x"},
+        {std::string(sizeof(Anfrage), 'x')},
+        {std::string(200'000, 'x')},
+        {protokoll::gepackt(fremd)},
+        {protokoll::gepackt(nachricht)},  // without having greeted
+        {gegrüßt, gegrüßt.substr(0, 20)},
+        {gegrüßt, protokoll::gepackt(unbekannt)},
+        {gegrüßt, std::string(100'000, '\0')},
+    };
+    for (std::size_t i = 0; i < Reden.size(); ++i) {
+        const Deskriptor s = verbinden(f);
+        for (const auto& paket : Reden[i]) senden(s, paket);
+        EXPECT_TRUE(beendet(s)) << "talk " << i;
+        EXPECT_EQ(1, Status(f)) << "talk " << i;
+    }
+    // Files that are none, in a packet that is one: what cannot be a path is not taken.
+    Anfrage dateien;
+    dateien.Art = Art::Dateien_anhängen;
+    const Deskriptor s = verbinden(f);
+    senden(s, gegrüßt);
+    senden(s, protokoll::gepackt(dateien, std::string("http://x/y.mp3\0\0relativ\0/ohne Ende", 34)));
+    EXPECT_EQ(1, Status(f));
+}
+
+TEST_F(Fremde, ZufälligePaketeTötenDenSpielerNicht) {
+    const pid_t pid = starten({"/CLASS=Tonkartei", Lied("a.wav")});
+    const Hwnd f = Fenster_von("Tonkartei");
+    std::mt19937 generator(4711);
+    const auto zufall = [&] { return static_cast<std::uint32_t>(generator()); };
+    for (int i = 0; i < 60; ++i) {
+        const Deskriptor s = verbinden(f);
+        senden(s, protokoll::gepackt(Anfrage{}));
+        for (int j = 0; j < 20; ++j) {
+            Anfrage anfrage;
+            anfrage.Art = static_cast<Art>(zufall() % 9 + 1);
+            anfrage.Nachricht = zufall() % 2 ? WM_USER : zufall() % 2 ? WM_COMMAND : zufall();
+            if (anfrage.Nachricht == WM_CLOSE) anfrage.Nachricht = 0;
+            constexpr std::array<std::int64_t, 5> Fragen{104, 105, 106, 122, -1};
+            anfrage.l = Fragen[zufall() % Fragen.size()];
+            anfrage.w = zufall() % 3 ? static_cast<std::int32_t>(zufall()) : 40045;
+            for (auto& wert : anfrage.Werte) wert = static_cast<std::int32_t>(zufall());
+            std::string anhang(zufall() % 50, '\0');
+            for (auto& zeichen : anhang) zeichen = "/a.\0\xFF"[zufall() % 5];
+            senden(s, protokoll::gepackt(anfrage, anhang));
+        }
+    }
+    EXPECT_EQ(f, System.FindWindowA("Tonkartei"));
+    EXPECT_EQ(0, ::waitpid(pid, nullptr, WNOHANG));
+    EXPECT_TRUE(System.Zustand(f).has_value());
+}
+
+TEST_F(Fremde, StummeUndVieleStörenDenSpielerNicht) {
+    const Hwnd f = Spieler_mit({Lied("a.wav")});
+    std::vector<Deskriptor> stumme;
+    for (int i = 0; i < 150; ++i) {
+        stumme.push_back(verbinden(f));
+        if (i % 10 == 0) {
+            EXPECT_EQ(1, Status(f)) << i;
+        }
+    }
+    EXPECT_EQ(f, System.FindWindowA("Tonkartei"));
+    EXPECT_TRUE(beendet(stumme.back())) << "who does not greet is not kept";
+
+    // Greets and asks without ever taking an answer, with full speed.
+    const Deskriptor taub = verbinden(f);
+    senden(taub, protokoll::gepackt(Anfrage{}));
+    Anfrage frage;
+    frage.Art = Art::Auskunft;
+    for (int i = 0; i < 5000; ++i) senden(taub, protokoll::gepackt(frage));
+    EXPECT_EQ(1, Status(f));
+}
+
+TEST_F(Fremde, WasKeinFensterIstStörtDenBlickNicht) {
+    const Hwnd f = Spieler_mit();
+    const std::string ordner = Fensterordner();
+    std::filesystem::create_directory(ordner + "9001");
+    std::ofstream(ordner + "9002") << "x";
+    std::filesystem::create_symlink(ordner + std::to_string(f), ordner + "9003");
+    { const Deskriptor tot = Attrappe(9004); }
+    const Deskriptor strom = Attrappe(9005, SOCK_STREAM);
+    const Deskriptor stumm = Attrappe(9006);
+    const Deskriptor ohne_Ziffern = Attrappe(9007);
+    std::filesystem::rename(ordner + "9007", ordner + "9007x");
+
+    EXPECT_GT(2000, Millisekunden([&] { EXPECT_EQ(std::vector{f}, alle_Fenster()); }));
+    EXPECT_FALSE(std::filesystem::exists(ordner + "9004")) << "dead, swept away";
+    for (const auto* name : {"9001", "9002", "9003", "9005", "9006", "9007x"})
+        EXPECT_TRUE(std::filesystem::exists(std::filesystem::symlink_status(ordner + name)))
+            << name << ": not ours to delete";
+    EXPECT_GT(100, Millisekunden([&] { EXPECT_EQ(std::vector{f}, alle_Fenster()); }))
+        << "who was mute is not waited for again";
+    EXPECT_EQ(0, System.SendMessageA(9006, WM_USER, 0, 104));
+    EXPECT_EQ(0, Status(f));
+}
+
+// Listening sockets that answer the greeting with each of these; only the last one is a window.
+TEST_F(Fremde, FalscheKöpfeSindKeineFenster) {
+    Antwort kopf;
+    const auto mit = [&](Hwnd griff, std::string_view klasse) {
+        kopf.Ergebnis = griff;
+        return protokoll::gepackt(kopf, klasse);
+    };
+    Antwort fremd;
+    fremd.Kennung = 1;
+    fremd.Ergebnis = 9003;
+    const std::vector<std::string> Köpfe{
+        "x",
+        std::string(sizeof(Antwort), '\xFF'),
+        mit(9001, "Tonkartei").substr(0, 16),
+        protokoll::gepackt(fremd, "Tonkartei"),
+        mit(1, "Tonkartei"),
+        mit(9005, ""),
+        mit(9006, std::string(256, 'k')),
+        mit(9007, std::string(60'000, 'k')),
+        "",
+        mit(9009, "Tonkartei"),
+    };
+    std::vector<Deskriptor> attrappen;
+    for (std::size_t i = 0; i < Köpfe.size(); ++i) attrappen.push_back(Attrappe(static_cast<Hwnd>(9000 + i)));
+    std::atomic<bool> ende = false;
+    std::thread antworter([&] {
+        std::vector<std::pair<Deskriptor, std::size_t>> offen;
+        while (!ende) {
+            for (std::size_t i = 0; i < Köpfe.size(); ++i) {
+                pollfd p{attrappen[i].fd(), POLLIN, 0};
+                if (::poll(&p, 1, 1) <= 0) continue;
+                Deskriptor s(::accept(attrappen[i].fd(), nullptr, nullptr));
+                if (!Köpfe[i].empty()) senden(s, Köpfe[i]);
+                if (i + 1 == Köpfe.size()) offen.emplace_back(std::move(s), i);
+            }
+            // The last one answers its first question with rubbish.
+            for (auto& [s, i] : offen) {
+                char puffer[256];
+                const auto n = ::recv(s.fd(), puffer, sizeof(puffer), MSG_DONTWAIT);
+                Anfrage anfrage;
+                if (n == sizeof(anfrage)) std::memcpy(&anfrage, puffer, sizeof(anfrage));
+                if (n > 0 && anfrage.Art != Art::Gruß) senden(s, "unfug");
+            }
+        }
+    });
+    EXPECT_EQ(9009, System.FindWindowA("Tonkartei"));
+    EXPECT_EQ(std::vector<Hwnd>{9009}, alle_Fenster());
+    EXPECT_EQ(0, System.SendMessageA(9009, WM_USER, 0, 104));
+    EXPECT_TRUE(alle_Fenster().empty()) << "a window that talks rubbish was none";
+    ende = true;
+    antworter.join();
+}
+
+TEST_F(Fremde, HängenderSpielerKostetNurDieFrist) {
+    const pid_t pid = starten({"/CLASS=Tonkartei", Lied("a.wav")});
+    const Hwnd f = Fenster_von("Tonkartei");
+    ASSERT_EQ(1, Status(f));
+    ::kill(pid, SIGSTOP);
+    EXPECT_GT(1000, Millisekunden([&] { EXPECT_EQ(0, Status(f)); }));
+    EXPECT_GT(150, Millisekunden([&] { EXPECT_EQ(0, Status(f)); })) << "known to hang";
+    EXPECT_EQ(f, System.FindWindowA("Tonkartei")) << "a window that hangs is still a window";
+    Fenstersystem_Linux neues;
+    EXPECT_EQ(0, neues.FindWindowA("Tonkartei")) << "it has not said yet what it is";
+    ::kill(pid, SIGCONT);
+    EXPECT_TRUE(warte([&] { return Status(f) == 1; }));
+    for (int i = 0; i < 50; ++i) ASSERT_EQ(1, Status(f)) << "no answer is taken for that of another question";
+    EXPECT_TRUE(warte([&] { return neues.FindWindowA("Tonkartei") == f; }));
+}
+
+TEST_F(Fremde, FremderOrdnerIstKeinSchreibtisch) {
+    const Hwnd f = Spieler_mit();
+    ::chmod(Fensterordner().c_str(), 0755);
+    EXPECT_EQ(0, System.FindWindowA("Tonkartei"));
+    EXPECT_EQ(1, Ende(starten({"/CLASS=Tonkartei"})));
+    ::chmod(Fensterordner().c_str(), 0700);
+    EXPECT_EQ(f, System.FindWindowA("Tonkartei"));
+}
+
+// Fifty windows, served by one thread.
+TEST_F(Fremde, VieleFensterSindSchnellDurchgesehen) {
+    struct Nichts final : Fensterprozedur {
+        std::int32_t Nachricht(std::uint32_t, std::int32_t w, std::int64_t) override { return w; }
+        void Dateien(const std::vector<Text>&, bool) override {}
+        Auskunft Auskunft_geben() const override { return {}; }
+        void geschlossen() override {}
+    } nichts;
+    std::vector<std::unique_ptr<Fenster>> fenster;
+    for (int i = 0; i < 50; ++i) fenster.push_back(std::make_unique<Fenster>("Klasse" + std::to_string(i), nichts));
+    std::atomic<bool> ende = false;
+    std::thread diener([&] {
+        std::vector<pollfd> liste;
+        while (!ende) {
+            liste.clear();
+            for (const auto& f : fenster) f->anmelden(liste);
+            if (::poll(liste.data(), liste.size(), 5) <= 0) continue;
+            for (const auto& f : fenster) f->bedienen(liste);
+        }
+    });
+    EXPECT_EQ(50U, alle_Fenster().size());
+    std::vector<double> zeiten;
+    for (int i = 0; i < 50; ++i) {
+        zeiten.push_back(Millisekunden([&] {
+            for (const Hwnd f : alle_Fenster()) EXPECT_FALSE(System.GetClassNameA(f).empty());
+        }));
+    }
+    std::ranges::nth_element(zeiten, zeiten.begin() + 25);
+    RecordProperty("Millisekunden_je_Blick", std::to_string(zeiten[25]));
+    EXPECT_GT(5, zeiten[25]);
+    EXPECT_EQ(7, System.SendMessageA(fenster.back()->Griff(), WM_USER, 7, 0));
+    ende = true;
+    diener.join();
+}
+
+}  // namespace
+}  // namespace tonkartei::spieler

@@ -1,0 +1,172 @@
+// Every message that the program sends, to a real player over a real socket.
+#include "spieler/buehne.hpp"
+
+namespace tonkartei::spieler {
+namespace {
+
+class Nachrichten : public Bühne {};
+
+TEST_F(Nachrichten, OhneDateiGestoppt) {
+    const Hwnd f = Spieler_mit();
+    ASSERT_NE(0, f);
+    EXPECT_EQ("Tonkartei", System.GetClassNameA(f));
+    EXPECT_EQ(0, Status(f));
+    EXPECT_EQ(-1, Position(f));
+    EXPECT_EQ(-1, Länge(f));
+    for (const int code : {40045, 40046, 40047, 40144, 40148, 1}) Befehl(f, code);
+    springen(f, 5000);
+    EXPECT_EQ(0, Status(f));
+    EXPECT_EQ(-1, Position(f));
+}
+
+TEST_F(Nachrichten, WiedergabePauseStopp) {
+    const Hwnd f = Spieler_mit({Lied("a.wav")});
+    EXPECT_EQ(1, Status(f)) << "taken is playing, sound or not";
+    ASSERT_TRUE(läuft(f));
+    EXPECT_EQ(30, Länge(f));
+
+    Befehl(f, 40046);
+    EXPECT_EQ(3, Status(f));
+    std::this_thread::sleep_for(100ms);
+    const auto stand = Position(f);
+    std::this_thread::sleep_for(200ms);
+    EXPECT_NEAR(stand, Position(f), 30);
+    Befehl(f, 40046);
+    EXPECT_EQ(1, Status(f));
+    EXPECT_TRUE(warte([&] { return Position(f) > stand; }));
+
+    Befehl(f, 40046);
+    Befehl(f, 40045);
+    EXPECT_EQ(1, Status(f)) << "play resumes a pause";
+    EXPECT_GE(Position(f), stand);
+
+    springen(f, 20000);
+    Befehl(f, 40045);
+    EXPECT_LT(Position(f), 2000) << "play on a playing song begins anew";
+
+    Befehl(f, 40047);
+    EXPECT_EQ(0, Status(f));
+    EXPECT_EQ(-1, Position(f));
+    Befehl(f, 40046);
+    EXPECT_EQ(0, Status(f)) << "pause does nothing while stopped";
+    Befehl(f, 40045);
+    EXPECT_EQ(1, Status(f));
+    EXPECT_TRUE(läuft(f)) << "play starts the current song again";
+}
+
+TEST_F(Nachrichten, GestoppteDateiIstFrei) {
+    const std::string lied = Lied("a.wav");
+    const pid_t pid = starten({"/CLASS=Tonkartei", lied});
+    const Hwnd f = Fenster_von("Tonkartei");
+    ASSERT_TRUE(läuft(f));
+    const auto offen = [&] {
+        for (const auto& fd : std::filesystem::directory_iterator("/proc/" + std::to_string(pid) + "/fd")) {
+            std::error_code egal;
+            if (std::filesystem::read_symlink(fd.path(), egal) == lied) return true;
+        }
+        return false;
+    };
+    EXPECT_TRUE(offen());
+    Befehl(f, 40047);
+    EXPECT_TRUE(warte([&] { return !offen(); }, 900ms));
+}
+
+TEST_F(Nachrichten, Springen) {
+    const Hwnd f = Spieler_mit({Lied("a.wav")});
+    springen(f, 12000);
+    EXPECT_GE(Position(f), 12000) << "asked before the song is open: the target";
+    ASSERT_TRUE(warte([&] { return Position(f) > 12000; }));
+    EXPECT_LT(Position(f), 13500);
+
+    struct Fall {
+        int Code;
+        std::int32_t von, nach;
+    };
+    for (const Fall& fall : {Fall{40148, 12000, 17000}, Fall{40144, 12000, 7000}, Fall{40144, 3000, 0}}) {
+        Befehl(f, 40046);
+        springen(f, fall.von);
+        Befehl(f, fall.Code);
+        EXPECT_EQ(fall.nach, Position(f)) << "under way: the target";
+        std::this_thread::sleep_for(150ms);
+        EXPECT_NEAR(fall.nach, Position(f), 60);
+        Befehl(f, 40045);
+    }
+    for (int i = 0; i < 3; ++i) Befehl(f, 40148);
+    EXPECT_GE(Position(f), 15000) << "steps add up while they are under way";
+    springen(f, -7);
+    EXPECT_LT(Position(f), 1000);
+    springen(f, 2'000'000'000);
+    EXPECT_TRUE(warte([&] { return Status(f) == 0; })) << "beyond the end the song ends";
+    EXPECT_EQ(-1, Länge(f));
+}
+
+TEST_F(Nachrichten, EndeDesLiedesStoppt) {
+    const Hwnd f = Spieler_mit({Lied("kurz.wav", 0.3)});
+    EXPECT_TRUE(warte([&] { return Status(f) == 0; }));
+    EXPECT_EQ(-1, Position(f));
+    Befehl(f, 40045);
+    EXPECT_EQ(1, Status(f));
+}
+
+TEST_F(Nachrichten, LautstärkeBleibtJeKlasse) {
+    const Hwnd a = Spieler_mit();
+    EXPECT_EQ(255, System.Zustand(a)->Lautstärke);
+    for (const auto& [gesendet, gilt] : {std::pair{300, 255}, {-5, 0}, {191, 191}}) {
+        System.SendMessageA(a, WM_USER, gesendet, 122);
+        EXPECT_EQ(gilt, System.Zustand(a)->Lautstärke);
+    }
+    System.SendMessageA(a, WM_CLOSE, 0, 0);
+    EXPECT_EQ(191, System.Zustand(Spieler_mit())->Lautstärke);
+    starten({"/CLASS=../Tonkartei"});
+    EXPECT_EQ(255, System.Zustand(Fenster_von("../Tonkartei"))->Lautstärke);
+}
+
+TEST_F(Nachrichten, SchließenHeißtWeg) {
+    const pid_t pid = starten({"/CLASS=Tonkartei", Lied("a.wav")});
+    const Hwnd f = Fenster_von("Tonkartei");
+    Fenstersystem_Linux anderes;
+    ASSERT_EQ(f, anderes.FindWindowA("Tonkartei"));
+    std::int32_t null = 0;
+    System.SendMessageA(f, WM_CLOSE, 0, reinterpret_cast<std::intptr_t>(&null));
+    EXPECT_EQ(0, System.FindWindowA("Tonkartei"));
+    EXPECT_EQ(0, anderes.SendMessageA(f, WM_USER, 0, 104));
+    EXPECT_FALSE(std::filesystem::exists(Fensterordner() + std::to_string(f)));
+    EXPECT_EQ(0, Ende(pid));
+}
+
+TEST_F(Nachrichten, SignalEndetOrdentlich) {
+    const pid_t pid = starten({"/CLASS=Tonkartei", Lied("a.wav")});
+    const Hwnd f = Fenster_von("Tonkartei");
+    System.SendMessageA(f, WM_USER, 77, 122);
+    ::kill(pid, SIGTERM);
+    EXPECT_EQ(0, Ende(pid));
+    EXPECT_FALSE(std::filesystem::exists(Fensterordner() + std::to_string(f)));
+    EXPECT_EQ(77, System.Zustand(Spieler_mit())->Lautstärke);
+}
+
+TEST_F(Nachrichten, FensterrufeBleibenBeimFenster) {
+    const Hwnd f = Spieler_mit();
+    EXPECT_TRUE(System.Zustand(f)->sichtbar);
+    EXPECT_TRUE(System.SetWindowPos(f, HWND_NOTOPMOST, 9, 9, 9, 9, SWP_HIDEWINDOW | SWP_NOMOVE | SWP_NOSIZE));
+    EXPECT_FALSE(System.Zustand(f)->sichtbar);
+    EXPECT_EQ(f, System.FindWindowA("Tonkartei")) << "hidden is not gone";
+    System.SetWindowPos(f, HWND_NOTOPMOST, 0, 0, 0, 0, SWP_SHOWWINDOW | SWP_NOMOVE | SWP_NOSIZE);
+    EXPECT_TRUE(System.Zustand(f)->sichtbar);
+
+    Rechteck r;
+    System.SetWindowPos(f, HWND_NOTOPMOST, 10, 20, 300, 200, 0);
+    ASSERT_TRUE(System.GetWindowRect(f, r));
+    EXPECT_EQ((std::array{10, 20, 310, 220}), (std::array{r.links, r.oben, r.rechts, r.unten}));
+    System.SetWindowPos(f, HWND_NOTOPMOST, 2147483647, 0, 2147483647, -4, 0);
+    ASSERT_TRUE(System.GetWindowRect(f, r));
+    EXPECT_EQ((std::array{2147483647, 0, 2147483647, 0}), (std::array{r.links, r.oben, r.rechts, r.unten}));
+
+    EXPECT_EQ(System.GetDesktopWindow(), System.SetParent(f, 4711));
+    EXPECT_EQ(4711, System.SetParent(f, 0));
+    EXPECT_EQ(0, System.SetWindowLongA(f, -16, 5));
+    EXPECT_EQ(5, System.SetWindowLongA(f, -16, 6));
+    EXPECT_EQ(0, System.SetWindowLongA(f, -20, 1));
+}
+
+}  // namespace
+}  // namespace tonkartei::spieler

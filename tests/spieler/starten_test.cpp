@@ -1,0 +1,163 @@
+// Starting: classes, handing over, further windows, races, lists.
+#include <array>
+
+#include "spieler/argumente.hpp"
+#include "spieler/buehne.hpp"
+#include "spieler/liste_m3u.hpp"
+
+namespace tonkartei::spieler {
+namespace {
+
+class Starten : public Bühne {};
+
+TEST_F(Starten, GibtAnDenSpielerDerKlasseWeiter) {
+    const std::string a = Lied("a.wav"), b = Lied("b mit Blank.wav");
+    const Hwnd f = Spieler_mit({a});
+    EXPECT_EQ(a, Datei(f));
+    Befehl(f, 40046);
+    EXPECT_EQ(0, Ende(starten({"/CLASS=\"Tonkartei\"", b})));
+    EXPECT_EQ(b, Datei(f)) << "replaced";
+    EXPECT_EQ(1, Status(f)) << "and playing, paused before or not";
+    EXPECT_EQ(0, Ende(starten({"/CLASS=Tonkartei"})));
+    EXPECT_EQ(b, Datei(f)) << "without a file nothing changes";
+    EXPECT_EQ(1U, alle_Fenster().size());
+}
+
+TEST_F(Starten, ZweiKlassenZugleich) {
+    const std::string a = Lied("a.wav"), b = Lied("b.wav");
+    const Hwnd eins = Spieler_mit({a});
+    starten({"/CLASS=Tonkartei", "/NEW", "/CLASS=\"TonkarteiWA1\"", b});
+    const Hwnd zwei = Fenster_von("TonkarteiWA1");
+    ASSERT_NE(0, zwei);
+    EXPECT_EQ((std::vector{eins, zwei}), alle_Fenster()) << "order of appearance";
+    EXPECT_EQ(a, Datei(eins));
+    EXPECT_EQ(b, Datei(zwei));
+    Befehl(zwei, 40046);
+    System.SendMessageA(zwei, WM_USER, 10, 122);
+    EXPECT_EQ(1, Status(eins));
+    EXPECT_EQ(3, Status(zwei));
+    EXPECT_EQ(255, System.Zustand(eins)->Lautstärke);
+    System.SendMessageA(eins, WM_CLOSE, 0, 0);
+    EXPECT_EQ(std::vector{zwei}, alle_Fenster());
+}
+
+TEST_F(Starten, NeuGibtEinWeiteresFenster) {
+    const Hwnd eins = Spieler_mit();
+    starten({"/CLASS=Tonkartei", "/NEW"});
+    ASSERT_TRUE(warte([&] { return alle_Fenster().size() == 2; }));
+    EXPECT_EQ(eins, System.FindWindowA("Tonkartei")) << "the first in window order";
+    // What appears later stands later, also when one before it has gone.
+    const Hwnd zwei = alle_Fenster()[1];
+    System.SendMessageA(zwei, WM_CLOSE, 0, 0);
+    starten({"/CLASS=Tonkartei", "/NEW"});
+    ASSERT_TRUE(warte([&] { return alle_Fenster().size() == 2; }));
+    EXPECT_GT(alle_Fenster()[1], zwei) << "handles do not come twice";
+}
+
+TEST_F(Starten, VonVielenGleichzeitigenBleibtEiner) {
+    std::vector<pid_t> pids;
+    for (int i = 0; i < 6; ++i) pids.push_back(starten({"/CLASS=Tonkartei", Lied("l" + std::to_string(i) + ".wav")}));
+    const Hwnd f = Fenster_von("Tonkartei");
+    ASSERT_NE(0, f);
+    int beendet = 0;
+    EXPECT_TRUE(warte([&] {
+        std::erase_if(pids, [&](pid_t pid) {
+            const bool weg = ::waitpid(pid, nullptr, WNOHANG) == pid;
+            beendet += weg;
+            return weg;
+        });
+        return beendet == 5;
+    }));
+    EXPECT_EQ(std::vector{f}, alle_Fenster());
+    EXPECT_EQ(1, Status(f));
+}
+
+TEST_F(Starten, GetöteterIstBeimNächstenBlickWeg) {
+    const pid_t pid = starten({"/CLASS=Tonkartei", Lied("a.wav")});
+    const Hwnd f = Fenster_von("Tonkartei");
+    ASSERT_EQ(1, Status(f));
+    ::kill(pid, SIGKILL);
+    EXPECT_EQ(-2, Ende(pid));
+    EXPECT_EQ(0, Status(f));
+    EXPECT_EQ(0, System.FindWindowA("Tonkartei"));
+    EXPECT_FALSE(std::filesystem::exists(Fensterordner() + std::to_string(f))) << "swept away";
+    EXPECT_NE(0, Spieler_mit());
+}
+
+TEST_F(Starten, SpieltListenOhneDasUnspielbare) {
+    const std::string kurz = Lied("kurz.wav", 0.2);
+    const std::string lang = Lied("l\xE4nger.wav");  // bytes of a name, whatever they mean
+    Ordner.datei("kein Lied.mp3", std::string(3000, 'x'));
+    Ordner.ordner("ordner.mp3");
+    ::mkfifo(Ordner.pfad("röhre.mp3").c_str(), 0600);
+    const std::string liste = Ordner.datei("l.M3U",
+                                           "#EXTM3U\r\n\r\nfehlt.mp3\r\nkein Lied.mp3\nordner.mp3\nröhre.mp3\r\n"
+                                           "#EXTINF:3,Kurz\r\nkurz.wav\r\nhttp://127.0.0.1:9/x.mp3\n" +
+                                               lang + "\nfehlt auch.mp3");
+    const Hwnd f = Spieler_mit({liste});
+    EXPECT_EQ(1, Status(f));
+    ASSERT_TRUE(warte([&] { return Datei(f) == kurz; }));
+    ASSERT_TRUE(warte([&] { return Datei(f) == lang; }));
+    EXPECT_EQ(1, Status(f)) << "playing until the end of the list";
+    ASSERT_TRUE(läuft(f));
+    springen(f, 29800);
+    EXPECT_TRUE(warte([&] { return Status(f) == 0; }));
+}
+
+TEST_F(Starten, NichtsSpielbaresIstGestoppt) {
+    const Hwnd f = Spieler_mit({Ordner.pfad("fehlt.mp3"), Ordner.datei("leer.mp3"), Ordner.pfad("fehlt.m3u")});
+    EXPECT_TRUE(warte([&] { return Status(f) == 0; }));
+    EXPECT_EQ(-1, Länge(f));
+}
+
+TEST_F(Starten, VieleDateienWerdenGanzÜbergeben) {
+    const Hwnd f = Spieler_mit();
+    const std::string letztes = Lied("letztes.wav");
+    std::vector<std::string> worte{"/CLASS=Tonkartei"};
+    for (int i = 0; i < 3000; ++i) worte.push_back(Ordner.pfad("es-fehlt-" + std::to_string(i) + ".mp3"));
+    worte.push_back(letztes);
+    EXPECT_EQ(0, Ende(starten(worte)));
+    Befehl(f, 40045);
+    EXPECT_TRUE(warte([&] { return Datei(f) == letztes; }));
+}
+
+TEST(SpielerArgumente, InJederReihenfolge) {
+    struct Fall {
+        std::vector<Text> Worte;
+        Text Klasse;
+        bool neu;
+        std::vector<Text> Dateien;
+    };
+    const std::array Fälle{
+        Fall{{}, "Winamp v1.x", false, {}},
+        Fall{{"/CLASS=\"A\"", "/NEW", "/CLASS=\"B C\"", "\"/m/x y.mp3\""}, "B C", true, {"/m/x y.mp3"}},
+        Fall{{"a.mp3", "/m/b.m3u", "/CLASS=A"}, "A", false, {"/hier/a.mp3", "/m/b.m3u"}},
+        Fall{{"/CLASS=", "/CLASS=\"\"", "", "\"\"", "/NEWS"}, "Winamp v1.x", false, {"/NEWS"}},
+        Fall{{"/CLASS=" + Text(300, 'k')}, Text(255, 'k'), false, {}},
+    };
+    for (const Fall& fall : Fälle) {
+        const Argumente a = lies_Argumente(fall.Worte, "/hier");
+        EXPECT_EQ(fall.Klasse, a.Klasse);
+        EXPECT_EQ(fall.neu, a.neu);
+        EXPECT_EQ(fall.Dateien, a.Dateien);
+    }
+}
+
+TEST(SpielerListe, ZeilenZuPfaden) {
+    struct Fall {
+        std::string_view Inhalt;
+        std::vector<Text> Pfade;
+    };
+    const std::array Fälle{
+        Fall{"", {}},
+        Fall{"\n\r\n \t\r\n#x\n", {}},
+        Fall{"a.mp3", {"/o/a.mp3"}},
+        Fall{"/x/a.mp3\r\nb c.mp3\n", {"/x/a.mp3", "/o/b c.mp3"}},
+        Fall{"\xEF\xBB\xBF#EXTM3U\n\xFF\xE4.mp3\n", {"/o/\xFF\xE4.mp3"}},
+        Fall{" a.mp3 \n\rb\n", {"/o/ a.mp3 ", "/o/\rb"}},
+    };
+    for (const Fall& fall : Fälle) EXPECT_EQ(fall.Pfade, lies_Liste(fall.Inhalt, "/o/")) << fall.Inhalt;
+}
+
+}  // namespace
+}  // namespace tonkartei::spieler
