@@ -1,0 +1,61 @@
+#include "lieder/lieder_eintragen.hpp"
+
+#include "oberflaeche/ansicht.hpp"
+
+namespace tonkartei {
+
+void Lieder_eintragen::ausführen(Long A, Übernahmeart modus, Begleitung begleitung) {
+    if (A < 1) return;
+    const Byte gemeinsame = gemeinsame_Kategorie(A, modus);
+    for (Long i = 1; i <= A; ++i) {
+        const Long nr = ++modell_.Anzahl_Lieder;
+        try {
+            eintragen(nr, gemeinsame);
+            if (begleitung.Album_Eintrag) begleitung.Album_Eintrag(i, nr);
+            if (begleitung.Playlist_Zeile) begleitung.Playlist_Zeile(nr);
+        } catch (const Laufzeitfehler&) {
+            // The list file gets the blame whatever has failed, and is given up.
+            wahl_.ansicht().informieren("Playlist erstellen", "Es ist ein Fehler beim erstellen der Playlist aufgetreten!");
+            begleitung.Playlist_Zeile = nullptr;
+        }
+    }
+    if (Liste_neu_aufbauen) Liste_neu_aufbauen();
+}
+
+Byte Lieder_eintragen::gemeinsame_Kategorie(Long A, Übernahmeart modus) {
+    Ansicht& ansicht = wahl_.ansicht();
+    const Text rest = Text(" in die Datenbank ") + (modus == Übernahmeart::kopieren ? "kopiert." : "bewegt.");
+    if (A == 1) {
+        ansicht.informieren("Lied hinzufügen", "Es wurde 1 neues Lied" + rest);
+        return 0;
+    }
+    if (!ansicht.fragen("Lieder hinzufügen", "Es wurden " + Zahltext(A) + " neue Lieder" + rest +
+                                                 "\r\rHaben alle diese Lieder die gleiche Kategorie?"))
+        return 0;
+    return wahl_.wählen("Alle neuen Lieder", {}, {});
+}
+
+void Lieder_eintragen::eintragen(Long Nr, Byte Kategorie) {
+    Lied& lied = modell_.Lieder[Nr];
+    const Text datei = modell_.Lied_Pfad(Nr);
+    lied.Anzahl = 0;
+    // The song is counted already: a failure below, or the end of the program while its category is asked for, must leave a
+    // record that holds together.
+    lied.Kategorie = Kategorie == 0 ? Byte{1} : Kategorie;
+    lied.Zeit = 0;
+    try {
+        Lied_Daten daten = mp3_.Lied_Daten_lesen(datei);
+        lied.Titel = std::move(daten.Titel);
+        lied.Artist = std::move(daten.Artist);
+        lied.Größe = daten.Größe;
+        lied.Zeit = daten.Zeit;
+    } catch (const Laufzeitfehler&) {
+        // Only the time fails; names and size are there and the song keeps them.
+        mp3_.Lied_Tag_lesen(datei, lied.Titel, lied.Artist);
+        lied.Größe = mp3_.Lied_Größe_lesen(datei);
+        throw;
+    }
+    if (Kategorie == 0) lied.Kategorie = wahl_.wählen(lied.Titel, lied.Artist, datei);
+}
+
+}  // namespace tonkartei
