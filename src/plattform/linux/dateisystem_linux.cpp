@@ -114,7 +114,6 @@ Dateisystem::Griff Dateisystem_Linux::öffnen(const Text& pfad, Dateimodus modus
     if (platz == offene_.end()) platz = offene_.emplace(platz);
     platz->fd = fd.hergeben();
     platz->schreibend = modus != Dateimodus::lesen;
-    platz->Name_sichern = neu;
     platz->gerät = datei.st_dev;
     platz->nummer = datei.st_ino;
     platz->länge = static_cast<std::uint64_t>(datei.st_size);
@@ -168,7 +167,7 @@ std::uint64_t Dateisystem_Linux::Länge(Griff griff) {
 void Dateisystem_Linux::sichern(Griff griff) {
     const Offen& offen = Offen_von(griff);
     if (ungestört([&] { return ::fsync(offen.fd); }) != 0) werfen(errno, offen.pfad);
-    if (offen.Name_sichern && !Ordner_sichern(Ordner_von(voll(offen.pfad)))) werfen(errno, offen.pfad);
+    if (!Ordner_sichern(Ordner_von(voll(offen.pfad)))) werfen(errno, offen.pfad);
 }
 
 void Dateisystem_Linux::schließen(Griff griff) {

@@ -25,7 +25,7 @@ public:
     void schreiben(Griff griff, std::uint64_t stelle, std::span<const char> bytes) override;
     // Of a file open for reading, as it was when it was opened.
     std::uint64_t Länge(Griff griff) override;
-    // Of a file opened for writing the name, too.
+    // The name in its folder, too.
     void sichern(Griff griff) override;
     void schließen(Griff griff) override;
 
@@ -54,7 +54,6 @@ private:
     struct Offen {
         int fd = -1;
         bool schreibend = false;
-        bool Name_sichern = false;
         dev_t gerät = 0;
         ino_t nummer = 0;
         std::uint64_t länge = 0;

@@ -1,0 +1,140 @@
+#include "plattform/linux/rechner_linux.hpp"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/time.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <optional>
+
+#include "plattform/linux/xdg.hpp"
+#include "testordner.hpp"
+
+namespace tonkartei {
+namespace {
+
+// A variable of the environment, back to what it was afterwards.
+class Umgebung {
+public:
+    Umgebung(const char* name, const std::string& wert) : name_(name) {
+        if (const char* alt = std::getenv(name)) alt_ = alt;
+        ::setenv(name, wert.c_str(), 1);
+    }
+    ~Umgebung() {
+        if (alt_)
+            ::setenv(name_, alt_->c_str(), 1);
+        else
+            ::unsetenv(name_);
+    }
+    Umgebung(const Umgebung&) = delete;
+    Umgebung& operator=(const Umgebung&) = delete;
+
+private:
+    const char* name_;
+    std::optional<std::string> alt_;
+};
+
+TEST(Rechner, SchläftGanzTrotzSignalen) {
+    struct sigaction still {};
+    still.sa_handler = [](int) {};
+    struct sigaction vorher {};
+    ::sigaction(SIGALRM, &still, &vorher);
+    const itimerval alle_7_ms{{0, 7000}, {0, 7000}};
+    ::setitimer(ITIMER_REAL, &alle_7_ms, nullptr);
+    const auto start = std::chrono::steady_clock::now();
+    Rechner_Linux().Sleep(120);
+    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(120));
+    const itimerval aus{};
+    ::setitimer(ITIMER_REAL, &aus, nullptr);
+    ::sigaction(SIGALRM, &vorher, nullptr);
+}
+
+TEST(Rechner, ZweiteInstanz) {
+    const Testordner ordner;
+    {
+        Rechner_Linux erste(ordner.pfad());
+        EXPECT_FALSE(erste.andere_Instanz_läuft());
+        EXPECT_FALSE(erste.andere_Instanz_läuft());
+        Rechner_Linux zweite(ordner.pfad());
+        EXPECT_TRUE(zweite.andere_Instanz_läuft());
+        // A started process does not hold the lock on: exec closes it.
+        if (::fork() == 0) {
+            ::execl("/bin/sleep", "sleep", "1", static_cast<char*>(nullptr));
+            ::_exit(1);
+        }
+        ::usleep(200'000);
+    }
+    EXPECT_FALSE(Rechner_Linux(ordner.pfad()).andere_Instanz_läuft());
+    EXPECT_FALSE(Rechner_Linux(ordner.pfad("fehlt")).andere_Instanz_läuft());
+    ::wait(nullptr);
+}
+
+TEST(Rechner, ZufallBleibtUnterEinsUndWechseltMitDerSaat) {
+    Rechner_Linux rechner;
+    double summe = 0;
+    for (int i = 0; i < 10000; ++i) {
+        const double zahl = rechner.Zufallszahl();
+        ASSERT_GE(zahl, 0);
+        ASSERT_LT(zahl, 1);
+        summe += zahl;
+    }
+    EXPECT_NEAR(summe / 10000, 0.5, 0.03);
+    rechner.Zufall_säen();
+    const double eins = rechner.Zufallszahl();
+    rechner.Zufall_säen();
+    EXPECT_NE(eins, rechner.Zufallszahl());
+}
+
+TEST(Rechner, TempVerzeichnis) {
+    const Testordner ordner;
+    const Umgebung temp("TEMP", ordner.pfad("fehlt"));
+    const Umgebung tmp("TMP", ordner.ordner("tmp").substr(0, ordner.pfad("tmp").size()));
+    EXPECT_EQ(Rechner_Linux().Temp_Verzeichnis(), ordner.pfad("tmp/"));
+    const Umgebung wieder("TEMP", ordner.pfad());
+    EXPECT_EQ(Rechner_Linux().Temp_Verzeichnis(), ordner.pfad());
+}
+
+TEST(Rechner, VerknüpfungZumSpieler) {
+    const Testordner ordner;
+    const Text ziel = ordner.datei("spieler");
+    const Text verweis = ordner.pfad("data/winamp/WinAmp.Exe");
+    EXPECT_TRUE(WinAmp_Verknüpfung_anlegen(ordner.pfad("data/winamp/"), "/alt/verschwunden"));
+    EXPECT_TRUE(WinAmp_Verknüpfung_anlegen(ordner.pfad("data/winamp/"), ziel));
+    EXPECT_TRUE(WinAmp_Verknüpfung_anlegen(ordner.pfad("data/winamp/"), ziel));
+    EXPECT_EQ(std::filesystem::read_symlink(verweis).string(), ziel);
+    std::filesystem::remove(verweis);
+    ordner.datei("data/winamp/WinAmp.Exe", "echt");
+    EXPECT_FALSE(WinAmp_Verknüpfung_anlegen(ordner.pfad("data/winamp/"), ziel));
+    EXPECT_EQ(ordner.inhalt("data/winamp/WinAmp.Exe"), "echt");
+}
+
+TEST(Xdg, Laufzeitordner) {
+    const Testordner ordner;
+    const Umgebung temp("TMPDIR", ordner.ordner("temp"));
+    {
+        const Umgebung laufzeit("XDG_RUNTIME_DIR", ordner.ordner("run"));
+        EXPECT_EQ(Laufzeitordner(), ordner.pfad("run/tonkartei/"));
+        struct stat da {};
+        ::chmod(ordner.pfad("run/tonkartei").c_str(), 0755);
+        EXPECT_EQ(Laufzeitordner(), ordner.pfad("run/tonkartei/"));
+        ::stat(ordner.pfad("run/tonkartei").c_str(), &da);
+        EXPECT_EQ(da.st_mode & 0777U, 0700U);
+    }
+    const Umgebung keine("XDG_RUNTIME_DIR", "relativ/zählt/nicht");
+    const Text name = "temp/tonkartei-" + std::to_string(::geteuid());
+    std::filesystem::create_directory_symlink(ordner.ordner("falle"), ordner.pfad(name));
+    const Text fremd = Laufzeitordner() + "x";
+    EXPECT_NE(::mkdir(fremd.c_str(), 0700), 0) << "a link is not taken for the private folder";
+    std::filesystem::remove(ordner.pfad(name));
+    EXPECT_EQ(Laufzeitordner(), ordner.pfad(name) + "/");
+    struct stat da {};
+    ::stat(ordner.pfad(name).c_str(), &da);
+    EXPECT_EQ(da.st_mode & 0777U, 0700U);
+}
+
+}  // namespace
+}  // namespace tonkartei
