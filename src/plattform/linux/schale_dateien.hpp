@@ -1,0 +1,47 @@
+// The shell's file operation, made of the calls of Dateisystem alone.
+#pragma once
+
+#include <functional>
+
+#include "plattform/dateisystem.hpp"
+#include "plattform/linux/papierkorb.hpp"
+#include "plattform/shell.hpp"
+
+namespace tonkartei {
+
+enum class Shell_Antwort { Ja, Nein, Abbrechen };
+// Asks the user, with the three answers as buttons.
+using Shell_Frage = std::function<Shell_Antwort(const Text& Titel, const Text& Frage)>;
+
+// One call of SHFileOperationA. The result is 0, or the system error's Windows number of the first file that failed, with
+// which the work ends. "Nein" passes a file over, "Abbrechen" ends the work; both count as aborted by the user.
+class Shell_Dateivorgang {
+public:
+    Shell_Dateivorgang(Dateisystem& dateien, Papierkorb& papierkorb, const Shell_Frage& frage, const Shell_Vorgang& vorgang);
+
+    Shell_Ergebnis ausführen();
+
+private:
+    bool hat(std::uint16_t flag) const { return (vorgang_.Flags & flag) != 0; }
+    bool da(const Text& pfad) { return dateien_.Datei_da(pfad) || dateien_.Ordner_da(pfad); }
+    bool ja(const Text& titel, const Text& text);
+
+    void löschen();
+    void umbenennen();
+    void übertragen();
+    void Zielordner_anlegen(const Text& ordner);
+    void einen_übertragen(const Text& von, Text nach);
+    void Datei_übertragen(const Text& von, const Text& nach, bool ersetzen);
+    void Ordner_übertragen(const Text& von, const Text& nach, int tiefe);
+    void Ordner_entfernen(const Text& ordner, int tiefe);
+    void ersetzend_umbenennen(const Text& von, const Text& nach);
+    Text freier_Name(const Text& ziel);
+
+    Dateisystem& dateien_;
+    Papierkorb& papierkorb_;
+    const Shell_Frage& frage_;
+    const Shell_Vorgang& vorgang_;
+    bool übergangen_ = false;
+};
+
+}  // namespace tonkartei
