@@ -1,19 +1,19 @@
 #include "mp3/bits.hpp"
 
+#include <algorithm>
+
 #include "grundlagen/fehler.hpp"
 
 namespace tonkartei {
 
 Text Bytes_zu_Bits(std::array<Byte, 4>& bytes) {
-    Text bits;
-    bits.reserve(32);
+    std::array<char, 32> bits;
+    std::size_t stelle = 0;
     for (const Byte byte : bytes)
-        for (int bit = 7; bit >= 0; --bit) {
-            const bool gesetzt = ((byte >> bit) & 1) != 0;
-            if (gesetzt || !bits.empty()) bits.push_back(gesetzt ? '1' : '0');
-        }
+        for (int bit = 7; bit >= 0; --bit) bits[stelle++] = ((byte >> bit) & 1) != 0 ? '1' : '0';
     bytes.fill(0);
-    return bits;
+    const std::string_view alle(bits.data(), bits.size());
+    return Text(alle.substr(std::min(alle.find('1'), alle.size())));
 }
 
 Long Bits_zu_Zahl(std::string_view bits) {

@@ -20,23 +20,18 @@ constexpr std::size_t Xing_Abstand = 36;  // its place in a stereo frame of MPEG
 constexpr std::size_t Xing_Frames_Abstand = 44;
 
 // The start of a file, as far as a frame at the last possible position reaches. Bytes behind the end of the file are zero.
+// Most frames stand near the start, so a small piece is read first and the rest only when the search comes that far.
 class Dateianfang {
 public:
-    explicit Dateianfang(Offene_Datei& datei) {
-        const std::size_t gelesen = datei.lesen(0, bytes_);
-        std::fill(bytes_.begin() + static_cast<std::ptrdiff_t>(gelesen), bytes_.end(), '\0');
-    }
+    explicit Dateianfang(Offene_Datei& datei) : datei_(datei) { lesen_bis(erstes_Stück); }
 
     // Position of the first pair FF FA or FF FB, 0 when there is none. No more of a header is tested, so it need not be one.
-    std::size_t Frame_suchen() const {
-        const char* const ende = bytes_.data() + letzte_Suchstelle;
-        for (const char* p = bytes_.data(); p < ende; ++p) {
-            p = static_cast<const char*>(std::memchr(p, 0xFF, static_cast<std::size_t>(ende - p)));
-            if (p == nullptr) return 0;
-            const auto nächstes = static_cast<Byte>(p[1]);
-            if (nächstes == 0xFA || nächstes == 0xFB) return static_cast<std::size_t>(p - bytes_.data()) + 1;
-        }
-        return 0;
+    // All that belongs to a frame found here has been read.
+    std::size_t Frame_suchen() {
+        const std::size_t p = suchen(1, erstes_Stück - Framekopf_Länge);
+        if (p > 0) return p;
+        lesen_bis(bytes_.size());
+        return suchen(erstes_Stück - Framekopf_Länge + 1, letzte_Suchstelle);
     }
 
     std::array<Byte, 4> vier_Bytes(std::size_t stelle) const {
@@ -46,7 +41,29 @@ public:
     }
 
 private:
-    std::array<char, letzte_Suchstelle + Xing_Frames_Abstand + 3> bytes_;
+    static constexpr std::size_t Framekopf_Länge = Xing_Frames_Abstand + 3;  // what is looked at behind a frame's position
+    static constexpr std::size_t erstes_Stück = 512;
+
+    void lesen_bis(std::size_t ende) {
+        const std::span<char> ziel(bytes_.data() + gelesen_, ende - gelesen_);
+        const std::size_t anzahl = datei_.lesen(gelesen_, ziel);
+        std::fill(ziel.begin() + static_cast<std::ptrdiff_t>(anzahl), ziel.end(), '\0');
+        gelesen_ = ende;
+    }
+    std::size_t suchen(std::size_t von, std::size_t bis) const {
+        const char* const ende = bytes_.data() + bis;
+        for (const char* p = bytes_.data() + von - 1; p < ende; ++p) {
+            p = static_cast<const char*>(std::memchr(p, 0xFF, static_cast<std::size_t>(ende - p)));
+            if (p == nullptr) return 0;
+            const auto nächstes = static_cast<Byte>(p[1]);
+            if (nächstes == 0xFA || nächstes == 0xFB) return static_cast<std::size_t>(p - bytes_.data()) + 1;
+        }
+        return 0;
+    }
+
+    Offene_Datei& datei_;
+    std::size_t gelesen_ = 0;
+    std::array<char, letzte_Suchstelle + Framekopf_Länge> bytes_;
 };
 
 // The bits `von` to `bis` of a header text as a number; an empty text reads as if all were 0.
@@ -74,7 +91,7 @@ Text MP3_TagHead::Frame_Kopf_lesen_aus(Offene_Datei& datei) {
     VBR = false;
     try {
         if (datei.Länge() <= größte_Länge_ohne_Suche) return {};
-        const Dateianfang anfang(datei);
+        Dateianfang anfang(datei);
         const std::size_t p = anfang.Frame_suchen();
         if (p == 0) return {};
         if (anfang.vier_Bytes(p + Xing_Abstand) == std::array<Byte, 4>{'X', 'i', 'n', 'g'}) {

@@ -23,9 +23,7 @@ bool MP3_TagHead::Datei_lesbar(const Text& pfad) {
 
 void MP3_TagHead::Lied_Tag_lesen(const Text& Datei, Text& Titel, Text& Artist) {
     MP3_Datei = Datei;
-    const bool gelesen = Tag_lesen();
-    Titel = gelesen ? Tag_Titel : Text(Titel_ohne_Tag);
-    Artist = gelesen ? Tag_Artist : Text(Artist_ohne_Tag);
+    benennen(Tag_lesen(), Titel, Artist);
 }
 
 Zeit MP3_TagHead::Lied_Zeit_lesen(const Text& Datei) {
@@ -43,18 +41,16 @@ Long MP3_TagHead::Lied_Größe_lesen(const Text& Datei) {
 
 Lied_Daten MP3_TagHead::Lied_Daten_lesen(const Text& Datei) {
     MP3_Datei = Datei;
-    Lied_Daten daten{Text(Titel_ohne_Tag), Text(Artist_ohne_Tag), 0, 0};
+    Lied_Daten daten;
     std::optional<Offene_Datei> datei;
     try {
         datei.emplace(dateien_, Datei, Dateimodus::lesen);
     } catch (const Dateifehler&) {
+        benennen(false, daten.Titel, daten.Artist);
         daten.Größe = Lied_Größe_lesen(Datei);  // a file that may not be opened still has a length
         return daten;
     }
-    if (Tag_lesen_aus(*datei)) {
-        daten.Titel = Tag_Titel;
-        daten.Artist = Tag_Artist;
-    }
+    benennen(Tag_lesen_aus(*datei), daten.Titel, daten.Artist);
     try {
         daten.Größe = in_KByte(static_cast<double>(datei->Länge()));
     } catch (const Dateifehler&) {
@@ -62,6 +58,11 @@ Lied_Daten MP3_TagHead::Lied_Daten_lesen(const Text& Datei) {
     }
     daten.Zeit = Zeit_nach(MP3_Info_lesen_aus(*datei));
     return daten;
+}
+
+void MP3_TagHead::benennen(bool mit_Tag, Text& Titel, Text& Artist) const {
+    Titel = mit_Tag ? std::string_view(Tag_Titel) : Titel_ohne_Tag;
+    Artist = mit_Tag ? std::string_view(Tag_Artist) : Artist_ohne_Tag;
 }
 
 Zeit MP3_TagHead::Zeit_nach(bool analysiert) const { return analysiert ? Zeit_aus(0, Dauer_Minuten, Dauer_Sekunden) : 0; }

@@ -86,6 +86,7 @@ private:
     bool Tag_lesen_aus(Offene_Datei& datei);
     Text Frame_Kopf_lesen_aus(Offene_Datei& datei);
     bool MP3_Info_lesen_aus(Offene_Datei& datei);
+    void benennen(bool mit_Tag, Text& Titel, Text& Artist) const;
     Zeit Zeit_nach(bool analysiert) const;
 
     Dateisystem& dateien_;

@@ -37,16 +37,22 @@ constexpr std::array<Tag_Feld, 5> Felder = {{{&MP3_TagHead::Tag_Titel, 0, 30},
 constexpr std::size_t Genre_Stelle = 124;
 
 // Zeros are holes, not ends: what stands behind them joins up. A song is one line in the info file, so line breaks go too.
-Text aus_Feld(std::string_view bytes) {
+void aus_Feld(std::string_view bytes, Text& ergebnis) {
     std::array<char, 30> rest;
-    const auto ende = std::remove_copy_if(bytes.begin(), bytes.end(), rest.begin(), [](char zeichen) {
-        return zeichen == '\0' || zeichen == '\r' || zeichen == '\n';
-    });
-    std::string_view text(rest.data(), static_cast<std::size_t>(ende - rest.begin()));
-    const std::size_t anfang = text.find_first_not_of(' ');
-    if (anfang == std::string_view::npos) return {};
+    std::size_t länge = 0;
+    unsigned alle_Bits = 0;
+    for (const char zeichen : bytes) {
+        if (zeichen == '\0' || zeichen == '\r' || zeichen == '\n') continue;
+        rest[länge++] = zeichen;
+        alle_Bits |= static_cast<unsigned char>(zeichen);
+    }
+    std::string_view text(rest.data(), länge);
+    const std::size_t anfang = std::min(text.find_first_not_of(' '), länge);
     text = text.substr(anfang, text.find_last_not_of(' ') - anfang + 1);
-    return aus_1252(text);
+    if (alle_Bits < 0x80)
+        ergebnis.assign(text);  // the page and UTF-8 agree; the memory of the last song serves again
+    else
+        ergebnis = aus_1252(text);
 }
 
 }  // namespace
@@ -71,7 +77,7 @@ bool MP3_TagHead::Tag_lesen_aus(Offene_Datei& datei) {
     const std::string_view bytes(block.data(), block.size());
     if (!bytes.starts_with(Marke)) return false;
     const std::string_view satz = bytes.substr(Marke.size());
-    for (const Tag_Feld& feld : Felder) this->*feld.Wert = aus_Feld(satz.substr(feld.Stelle, feld.Breite));
+    for (const Tag_Feld& feld : Felder) aus_Feld(satz.substr(feld.Stelle, feld.Breite), this->*feld.Wert);
     Tag_Genre = static_cast<Byte>(satz[Genre_Stelle]);
     return true;
 }

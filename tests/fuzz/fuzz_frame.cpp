@@ -88,6 +88,7 @@ std::vector<std::string> Fuzz_Saat() {
         nichts + Lied_Bytes(600, 1, 0xFFFB9064),
         nichts + Lied_Bytes(256, 250, 0xFFFA1064),
         viel + Lied_Bytes(6000, 5000, 0xFFFB9064),
+        nichts + Xing_Lied_Bytes(6000, 5000, 0xFFFB9064, 3000),
         nichts + Xing_Lied_Bytes(400, 20, 0xFFFB9064, 3000) + Tag_Bytes{}.Block(),
         viel + Xing_Lied_Bytes(400, 1, 0xFFFB9C64, 70'000),
         nichts + Xing_Lied_Bytes(300, 1, 0xFFFB9064, 0x80000000),
