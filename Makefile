@@ -9,6 +9,8 @@ KERNE   := $(shell nproc 2>/dev/null || echo 2)
 
 .PHONY: help run test tour bench format install paket bediener bauen
 .NOTPARALLEL:
+# "make -C folder bediener" must end with the path too.
+MAKEFLAGS += --no-print-directory
 
 help:
 	@echo 'make run       install what is missing, build, start Tonkartei (the tour where there is no display)'
@@ -28,10 +30,10 @@ bauen:
 
 run:
 	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then \
-	    $(MAKE) --no-print-directory bauen && exec $(RELEASE)/bin/tonkartei; \
+	    $(MAKE) bauen && exec $(RELEASE)/bin/tonkartei; \
 	else \
 	    echo 'No display here (DISPLAY and WAYLAND_DISPLAY are empty): playing the tour instead.'; \
-	    exec $(MAKE) --no-print-directory tour; \
+	    exec $(MAKE) tour; \
 	fi
 
 test:
@@ -41,7 +43,8 @@ test:
 	@ctest --preset release -j $(KERNE)
 	@cmake --preset sanitizer
 	@cmake --build --preset sanitizer
-	@ctest --preset sanitizer -j $(KERNE)
+	@ctest --preset sanitizer -j $(KERNE) -LE fuzz
+	@ctest --preset sanitizer -j $(KERNE) -L fuzz
 
 tour: bediener
 	@bash skripte/tour.sh
