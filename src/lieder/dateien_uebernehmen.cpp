@@ -9,7 +9,7 @@ namespace {
 
 Text Datum_Zeit(const Zeitpunkt& zeit) { return "Datum/Zeit: " + langes_Datum(zeit) + " " + lange_Uhrzeit(zeit); }
 
-Text Titel_Artist(const Text& titel, const Text& artist) { return "Titel: " + titel + "\rArtist: " + artist; }
+Text Titel_Artist(const Text& titel, const Text& artist) { return "Titel: " + titel + Text(CR) + "Artist: " + artist; }
 
 }  // namespace
 
@@ -49,13 +49,14 @@ bool Dateien_übernehmen::übernehmen(const Lied_Fund& lied, Übernahmeart modus
             modell_.Lieder[Nr].Kategorie = lied.Quell_Kategorie;
             return true;
         }
-        const Text getan = modus == Übernahmeart::kopieren ? "kopieren" : "bewegen";
-        ansicht.informieren("Lied hinzufügen", "Es ist ein Fehler beim " + getan + " der Datei\r\r" + anzeigbar(lied.Pfad) +
-                                                   "\r\raufgetreten!");
+        modell_.Meldung = Text("Es ist ein Fehler beim ") + (modus == Übernahmeart::kopieren ? "kopieren" : "bewegen") +
+                          " der Datei" + Text(CRCR) + anzeigbar(lied.Pfad) + Text(CRCR) + "aufgetreten!";
+        ansicht.informieren("Lied hinzufügen", modell_.Meldung);
         Rest_entfernen(lied.Pfad, ziel);
     } catch (const Laufzeitfehler&) {
-        ansicht.informieren("Lieder hinzufügen", "Es ist ein Fehler beim hinzufügen des Liedes " +
-                                                     in_Anführungszeichen(anzeigbar(lied.Pfad)) + " aufgetreten!");
+        modell_.Meldung =
+            "Es ist ein Fehler beim hinzufügen des Liedes " + in_Anführungszeichen(anzeigbar(lied.Pfad)) + " aufgetreten!";
+        ansicht.informieren("Lieder hinzufügen", modell_.Meldung);
         try {
             if (!angefangen.empty()) Rest_entfernen(lied.Pfad, angefangen);
         } catch (const Laufzeitfehler&) {
@@ -73,12 +74,12 @@ bool Dateien_übernehmen::trotz_Doppelter(const Text& pfad, Long KByte, const Do
         Text titel, artist;
         mp3_.Lied_Tag_lesen(pfad, titel, artist);
         const Lied& da = modell_.Lieder[n];
-        const Text frage =
-            "Die folgende Datei ist eventuell schon einmal in der Datenbank vorhanden:\r\rDateiname: " + anzeigbar(pfad) +
-            "\r" + Datum_Zeit(*zeit) + "\r" + Titel_Artist(titel, artist) +
-            "\r\rBereits vorhandenes Lied in der Datenbank:\r\r" + Datum_Zeit(*zeit) + "\r" +
-            Titel_Artist(da.Titel, da.Artist) + "\r\rSoll dieses Lied trotzdem hinzugefügt werden?";
-        if (!fortschritt_.ansicht().fragen("Lied hinzufügen", frage)) return false;
+        modell_.Meldung = "Die folgende Datei ist eventuell schon einmal in der Datenbank vorhanden:" + Text(CRCR) +
+                          "Dateiname: " + anzeigbar(pfad) + Text(CR) + Datum_Zeit(*zeit) + Text(CR) +
+                          Titel_Artist(titel, artist) + Text(CRCR) +
+                          "Bereits vorhandenes Lied in der Datenbank:" + Text(CRCR) + Datum_Zeit(*zeit) + Text(CR) +
+                          Titel_Artist(da.Titel, da.Artist) + Text(CRCR) + "Soll dieses Lied trotzdem hinzugefügt werden?";
+        if (!fortschritt_.ansicht().fragen("Lied hinzufügen", modell_.Meldung)) return false;
     }
     return true;
 }

@@ -29,19 +29,17 @@ std::uint64_t Lieder_Übernahme::freie_KByte() const {
 
 bool Lieder_Übernahme::bestätigt(const Übernahme_Auftrag& auftrag) const {
     // The window does not offer moving for that source; should it ever, nobody loses the other collection unasked.
-    if (auftrag.Quelle == Quelle_Datenbank && auftrag.Modus == Übernahmeart::bewegen &&
-        !ansicht_.fragen("Lieder bewegen",
-                         "Wollen sie die Lieder wirklich aus der anderen Datenbank bewegen?\r\r"
-                         "Sie stehen in der anderen Datenbank dann nicht mehr zur verfügung!"))
-        return false;
-
+    if (auftrag.Quelle == Quelle_Datenbank && auftrag.Modus == Übernahmeart::bewegen) {
+        modell_.Meldung = "Wollen sie die Lieder wirklich aus der anderen Datenbank bewegen?" + Text(CRCR) +
+                          "Sie stehen in der anderen Datenbank dann nicht mehr zur verfügung!";
+        if (!ansicht_.fragen("Lieder bewegen", modell_.Meldung)) return false;
+    }
     const auto frei = static_cast<double>(freie_KByte());
-    return auftrag.KByte < frei ||
-           ansicht_.fragen("Lieder hinzufügen",
-                           "Die Größe der Lieder (" + MByte_Text(auftrag.KByte) +
-                               " MB), die sie hinzufügen möchten, ist größer als der freie Speicherplatz auf "
-                               "dem Ziel-Laufwerk (" +
-                               MByte_Text(frei) + " MB).\r\rWollen sie wirklich fortfahren?");
+    if (auftrag.KByte < frei) return true;
+    modell_.Meldung = "Die Größe der Lieder (" + MByte_Text(auftrag.KByte) +
+                      " MB), die sie hinzufügen möchten, ist größer als der freie Speicherplatz auf dem Ziel-Laufwerk (" +
+                      MByte_Text(frei) + " MB)." + Text(CRCR) + "Wollen sie wirklich fortfahren?";
+    return ansicht_.fragen("Lieder hinzufügen", modell_.Meldung);
 }
 
 void Lieder_Übernahme::vor_Größe_warnen() const {
@@ -50,10 +48,10 @@ void Lieder_Übernahme::vor_Größe_warnen() const {
     const Long MByte = gerundet(KByte / 1024.0);
     const Long grenze = modell_.Backup_Warnungs_Grenze;
     if (grenze == 0 || MByte < grenze) return;
-    ansicht_.informieren("Backup-Warnung",
-                         "Achtung!\r\rDie Größe der Datenbank hat die Backup-Warnungs-Grenze überschritten!\r\r"
-                         "aktuelle Größe der Datenbank: " +
-                             Zahltext(MByte) + " MB\rBackup-Warnungs-Grenze: " + Zahltext(grenze) + " MB");
+    modell_.Meldung = "Achtung!" + Text(CRCR) + "Die Größe der Datenbank hat die Backup-Warnungs-Grenze überschritten!" +
+                      Text(CRCR) + "aktuelle Größe der Datenbank: " + Zahltext(MByte) + " MB" + Text(CR) +
+                      "Backup-Warnungs-Grenze: " + Zahltext(grenze) + " MB";
+    ansicht_.informieren("Backup-Warnung", modell_.Meldung);
 }
 
 }  // namespace tonkartei
