@@ -9,7 +9,6 @@ KERNE   := $(shell nproc 2>/dev/null || echo 2)
 
 .PHONY: help run test tour bench format install paket bediener bauen
 .NOTPARALLEL:
-# "make -C folder bediener" must end with the path too.
 MAKEFLAGS += --no-print-directory
 
 help:
