@@ -21,8 +21,8 @@ bool WinAmp_Starter::starte_WinAmp(const Text& Parameter) {
         try {
             programm_.starten(Parameter);
         } catch (const Dateifehler& fehler) {
-            const Text& pfad = fehler.Pfad().empty() ? programm_.Pfad() : fehler.Pfad();
-            ansicht_.informieren(Programmtitel, fehler.Beschreibung() + Text(CRCR) + anzeigbar(pfad));
+            // The program's path, not the failure's own: that may be the whole command text.
+            ansicht_.informieren(Programmtitel, fehler.Beschreibung() + Text(CRCR) + anzeigbar(programm_.Pfad()));
             return false;
         }
         Takt();

@@ -1,0 +1,256 @@
+// The machine and the user as the playing side's tests want them: windows, processes and pauses write into one record, so
+// that the order across them shows; files are real, in a scratch folder; the clock moves by pauses and by hand only.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "datenbank/einstellungen.hpp"
+#include "datenbank/modell.hpp"
+#include "grundlagen/fehler.hpp"
+#include "oberflaeche/ansicht.hpp"
+#include "plattform/kanaele.hpp"
+#include "plattform/linux/dateisystem_linux.hpp"
+#include "plattform/plattform.hpp"
+#include "testordner.hpp"
+#include "wiedergabe/wiedergabe.hpp"
+
+namespace tonkartei {
+
+using Aufzeichnung = std::vector<Text>;
+
+class Ansicht_Bühne : public Ansicht {
+public:
+    Aufzeichnung Meldungen;       // "title|text"
+    std::deque<Text> Antworten;   // to input boxes and folder choices; cancelled when there is none
+    Text gefragt;                 // "title|text|preset" of the last input box or folder choice
+    int Ereignisrunden = 0;       // how often events were let run
+    std::function<void()> Runde;  // what happens meanwhile
+
+    Antwort melden(const Meldungsfeld& feld) override {
+        Meldungen.push_back(feld.titel + "|" + feld.text);
+        return feld.vorgabe;
+    }
+    Text eingeben(const Text& text, const Text& titel, const Text& vorgabe) override {
+        gefragt = titel + "|" + text + "|" + vorgabe;
+        return nächste();
+    }
+    Text Verzeichnis_wählen(const Text& titel) override {
+        gefragt = titel;
+        return nächste();
+    }
+    void Ereignisse_laufen_lassen() override {
+        ++Ereignisrunden;
+        if (Runde) Runde();
+    }
+
+    Text Datei_wählen(const Dateiwahl&) override { return {}; }
+    std::optional<Farbe> Farbe_wählen(Farbe) override { return std::nullopt; }
+    void Fenster_geändert(Fenster&) override {}
+    void Element_geändert(Element&, unsigned) override {}
+    void Fenster_malen(Fenster&) override {}
+    void modal_laufen(Fenster&) override {}
+    void Menü_zeigen(Menüpunkt&) override {}
+    void Zwischenablage_setzen(const Text&) override {}
+    int Textbreite(const Text&, int) const override { return 0; }
+    int Texthöhe(int) const override { return 0; }
+    Größe Wunschgröße(const Element&) const override { return {}; }
+    Größe Bildschirm() const override { return {}; }
+    Bereich Rahmenrand(const Element&) const override { return {}; }
+    int Zeilenhöhe(int) const override { return 0; }
+    void warten_bis(Fenster&, const std::function<bool()>&) override {}
+    void Zeitgeber_gestellt(Zeitgeber&) override {}
+    void Zeitgeber_entfernt(Zeitgeber&) override {}
+    [[noreturn]] void an_Laufzeitfehler_enden(const Laufzeitfehler& fehler) override { throw fehler; }
+
+private:
+    Text nächste() {
+        if (Antworten.empty()) return {};
+        Text antwort = Antworten.front();
+        Antworten.pop_front();
+        return antwort;
+    }
+};
+
+class Fenster_Bühne : public Fenstersystem {
+public:
+    struct Eintrag {
+        Hwnd Griff = 0, Elter = Schreibtisch;
+        Text Klasse;
+        std::int32_t Status = 1;  // as answered
+    };
+    static constexpr Hwnd Schreibtisch = 1;
+    static constexpr std::int32_t Position = 61500, Länge = 200;
+
+    explicit Fenster_Bühne(Aufzeichnung& aufzeichnung) : aufzeichnung_(aufzeichnung) {}
+    std::vector<Eintrag> Fenster;  // in window order
+
+    std::int32_t SendMessageA(Hwnd fenster, std::uint32_t nachricht, std::int32_t w, std::int64_t l) override {
+        if (nachricht == WM_CLOSE) {
+            aufzeichnung_.push_back("schließen " + Zahltext(fenster));
+            std::erase_if(Fenster, [&](const Eintrag& e) { return e.Griff == fenster; });
+            return 0;
+        }
+        const bool frage = nachricht == WM_USER && (l == 104 || l == 105);
+        if (!frage)
+            aufzeichnung_.push_back("senden " + Zahltext(fenster) + " " + Zahltext(nachricht) + " " + Zahltext(w) + " " +
+                                    Zahltext(l));
+        const Eintrag* eintrag = suchen(fenster);
+        if (eintrag == nullptr || !frage) return 0;
+        if (l == 104) return eintrag->Status;
+        return w == 0 ? Position : Länge;
+    }
+    Hwnd FindWindowA(const Text& klasse) override {
+        for (const Eintrag& e : Fenster)
+            if (e.Elter == Schreibtisch && e.Klasse == klasse) return e.Griff;
+        return 0;
+    }
+    Hwnd GetWindow(Hwnd fenster, std::uint32_t art) override {
+        const Eintrag* selbst = suchen(fenster);
+        const Hwnd elter = art == GW_CHILD ? fenster : selbst == nullptr ? -1 : selbst->Elter;
+        bool vorbei = art == GW_CHILD;
+        for (const Eintrag& e : Fenster) {
+            if (vorbei && e.Elter == elter) return e.Griff;
+            if (e.Griff == fenster) vorbei = true;
+        }
+        return 0;
+    }
+    Text GetClassNameA(Hwnd fenster) override {
+        const Eintrag* eintrag = suchen(fenster);
+        return eintrag == nullptr ? Text{} : eintrag->Klasse;
+    }
+    Hwnd GetDesktopWindow() override { return Schreibtisch; }
+    bool SetWindowPos(Hwnd fenster, Hwnd davor, int x, int y, int breite, int höhe, std::uint32_t flags) override {
+        aufzeichnung_.push_back("lage " + Zahltext(fenster) + " " + Zahltext(davor) + " " + Zahltext(x | y | breite | höhe) +
+                                " " + Zahltext(flags));
+        return true;
+    }
+    bool GetWindowRect(Hwnd, Rechteck&) override { return false; }
+    Hwnd SetParent(Hwnd, Hwnd) override { return 0; }
+    std::int32_t SetWindowLongA(Hwnd, int, std::int32_t) override { return 0; }
+
+    Eintrag* suchen(Hwnd fenster) {
+        for (Eintrag& e : Fenster)
+            if (e.Griff == fenster) return &e;
+        return nullptr;
+    }
+
+private:
+    Aufzeichnung& aufzeichnung_;
+};
+
+class Shell_Bühne : public Shell {
+public:
+    explicit Shell_Bühne(Aufzeichnung& aufzeichnung) : aufzeichnung_(aufzeichnung) {}
+    bool scheitert = false;
+    std::function<void()> nach_dem_Start;
+
+    Shell_Ergebnis SHFileOperationA(const Shell_Vorgang&) override { return {}; }
+    void starten(const Text& befehl, int fensterstil) override {
+        if (scheitert) throw Dateifehler(70, befehl);
+        aufzeichnung_.push_back("starten " + Zahltext(fensterstil) + " " + befehl);
+        if (nach_dem_Start) nach_dem_Start();
+    }
+
+private:
+    Aufzeichnung& aufzeichnung_;
+};
+
+class Rechner_Bühne : public Rechner {
+public:
+    explicit Rechner_Bühne(Aufzeichnung& aufzeichnung) : aufzeichnung_(aufzeichnung) {}
+    long long Uhr_ms = 12LL * 3600 * 1000;  // since midnight of the first day
+
+    void stellen(int stunde, int minute, int sekunde) { Uhr_ms = ((stunde * 60LL + minute) * 60 + sekunde) * 1000; }
+
+    Text GetComputerNameA() override { return "RECHNER"; }
+    Text GetUserNameA() override { return "BENUTZER"; }
+    Text Temp_Verzeichnis() override { return {}; }
+    Zeitpunkt jetzt() override {
+        const auto sekunde = static_cast<int>(Uhr_ms / 1000 % 86400);
+        return {2026, 1, 15, sekunde / 3600, sekunde / 60 % 60, sekunde % 60};
+    }
+    void Sleep(int ms) override {
+        aufzeichnung_.push_back("warten " + Zahltext(ms));
+        Uhr_ms += ms;
+    }
+    bool andere_Instanz_läuft() override { return false; }
+    double Zufallszahl() override { return 0; }
+    void Zufall_säen() override {}
+    Text WinAmp_Vorgabe() override { return {}; }
+
+private:
+    Aufzeichnung& aufzeichnung_;
+};
+
+class Registrierung_Bühne : public Registrierung {
+public:
+    long RegOpenKeyExA(Schlüssel, const Text&, std::uint32_t, Schlüssel&) override { return ERROR_FILE_NOT_FOUND; }
+    long RegCreateKeyExA(Schlüssel, const Text&, Schlüssel&) override { return ERROR_FILE_NOT_FOUND; }
+    long RegQueryValueExA(Schlüssel, const Text&, std::uint32_t&, std::uint32_t&, std::vector<char>*) override {
+        return ERROR_FILE_NOT_FOUND;
+    }
+    long RegSetValueExA(Schlüssel, const Text&, std::uint32_t, const std::vector<char>&) override { return ERROR_SUCCESS; }
+    long RegFlushKey(Schlüssel) override { return ERROR_SUCCESS; }
+    long RegCloseKey(Schlüssel) override { return ERROR_SUCCESS; }
+    long RegDeleteKeyA(Schlüssel, const Text&) override { return ERROR_SUCCESS; }
+};
+
+// A disk on which one kind of work can be made to fail.
+class Dateisystem_Bühne : public Dateisystem_Linux {
+public:
+    bool schreiben_scheitert = false, umbenennen_scheitert = false;
+
+    void schreiben(Griff griff, std::uint64_t stelle, std::span<const char> bytes) override {
+        if (schreiben_scheitert) throw Dateifehler(61);
+        Dateisystem_Linux::schreiben(griff, stelle, bytes);
+    }
+    void umbenennen(const Text& von, const Text& nach) override {
+        if (umbenennen_scheitert) throw Dateifehler(75, von);
+        Dateisystem_Linux::umbenennen(von, nach);
+    }
+};
+
+// All of it, with a player's program in the folder and a collection of a few songs.
+struct Bühne {
+    static constexpr Hwnd Spielerfenster = 7;
+
+    Aufzeichnung Protokoll;
+    Testordner Ordner;
+    Ansicht_Bühne Ansicht;
+    Fenster_Bühne Fenster{Protokoll};
+    Shell_Bühne Shell{Protokoll};
+    Rechner_Bühne Rechner{Protokoll};
+    Registrierung_Bühne Registrierung;
+    Dateisystem_Bühne Dateien;
+    Kanäle Kanäle_{Dateien};
+    tonkartei::Modell Modell;
+    tonkartei::Einstellungen Einstellungen;
+    Wiedergabe Spiel{Modell, Einstellungen, Plattform{Dateien, Registrierung, Fenster, Shell, Rechner}, Kanäle_, Ansicht};
+
+    Bühne() {
+        Ordner.datei("WinAmp.Exe");
+        Einstellungen.WinAmp_Verzeichnis = Ordner.pfad();
+        Modell.Datenbank_Verzeichnis = Ordner.pfad();
+        Dateien.aktuellen_Ordner_setzen(Ordner.pfad());
+        Modell.Anzahl_Lieder = 5;
+        for (int nr = 1; nr <= Modell.Anzahl_Lieder; ++nr) Ordner.datei(Lied_Dateiname(nr), "x");
+    }
+    // A player of the program's class appears; the program sees it at its next look.
+    void Spieler_erscheint(std::int32_t status = 1) {
+        Fenster.Fenster.push_back({Spielerfenster, Fenster_Bühne::Schreibtisch, WinAmp_Klasse, status});
+    }
+    // A player that the program has seen.
+    void Spieler_läuft(std::int32_t status = 1) {
+        Spieler_erscheint(status);
+        Spiel.Spieler.nachsehen();
+    }
+    Aufzeichnung nehmen() { return std::exchange(Protokoll, {}); }
+};
+
+inline const Text versteckt_7 = "lage 7 -2 0 131";
+inline const Text gezeigt_7 = "lage 7 -2 0 67";
+
+}  // namespace tonkartei
