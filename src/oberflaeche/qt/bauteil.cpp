@@ -26,7 +26,7 @@ namespace tonkartei {
 Bauteil::Bauteil(Umfeld& umfeld, Fensterwidget& fenster, Element& element)
     : umfeld_(umfeld), fenster_(fenster), element_(element) {}
 
-Bauteil::~Bauteil() = default;
+Bauteil::~Bauteil() { delete widget_; }
 
 void Bauteil::aufnehmen(QWidget* widget, QWidget* fläche) {
     widget_ = widget;
@@ -96,7 +96,7 @@ bool Bauteil::eventFilter(QObject* wer, QEvent* was) {
         case QEvent::KeyPress: return wer == widget_ && Taste_gedrückt(static_cast<QKeyEvent&>(*was));
         case QEvent::Shortcut: return !umfeld_.erreichbar(element_.fenster());
         case QEvent::FocusIn:
-            if (wer == widget_ && umfeld_.hört()) umfeld_.ansicht.von_Hand_Fokus(&element_);
+            if (wer == widget_ && umfeld_.hört()) Fokus_bekommen(static_cast<QFocusEvent&>(*was).reason());
             return false;
         case QEvent::DragEnter:
         case QEvent::DragMove:
@@ -117,41 +117,43 @@ bool Bauteil::Maus(QMouseEvent& ereignis) {
         return true;
     }
     const int x = Twips(stelle.x()), y = Twips(stelle.y());
+    // Lists are worked by the model alone; so a press on them leaves nothing half done in the widget.
+    const bool schluckt = stumm || fläche_ != widget_;
     switch (ereignis.type()) {
         case QEvent::MouseButtonPress:
-            if (ereignis.button() == Qt::RightButton) return Zeile_an(ereignis.position().toPoint()) >= 0 || stumm;
-            if (!links) return stumm;
-            druckpunkt_ = stelle;
-            unten_ = true;
-            umfeld_.von_Hand([&] { Hand::drücken(element_, x, y); });
-            return gedrückt(ereignis.position().toPoint()) || stumm;
+            if (links) {
+                druckpunkt_ = stelle;
+                unten_ = true;
+                umfeld_.von_Hand([&] { Hand::drücken(element_, x, y); });
+                gedrückt(ereignis.position().toPoint());
+            }
+            return schluckt;
         case QEvent::MouseButtonDblClick:
-            if (!links) return stumm;
-            // The second press of a quick pair: a button that lies under it is pressed once more.
-            if (klickt_selbst()) umfeld_.von_Hand([&] { Hand::drücken(element_, x, y); });
-            unten_ = klickt_selbst();
-            umfeld_.von_Hand([&] { Hand::doppelklicken(element_, x, y); });
-            return fläche_ != widget_ || stumm;
+            if (links) {
+                // The second press of a quick pair: to a button it is a press like any other.
+                if (klickt_selbst()) umfeld_.von_Hand([&] { Hand::drücken(element_, x, y); });
+                unten_ = false;
+                umfeld_.von_Hand([&] { Hand::doppelklicken(element_, x, y); });
+            }
+            return schluckt;
         case QEvent::MouseMove:
             umfeld_.von_Hand([this] { Hand::Maus_bewegen(element_); });
-            if (unten_ && (ereignis.buttons() & Qt::LeftButton) != 0 &&
+            if (unten_ && ereignis.buttons().testFlag(Qt::LeftButton) &&
                 (stelle - druckpunkt_).manhattanLength() >= QApplication::startDragDistance())
                 ziehen();
-            return stumm;
+            return schluckt;
         case QEvent::MouseButtonRelease:
             if (ereignis.button() == Qt::RightButton) {
                 const int zeile = Zeile_an(ereignis.position().toPoint());
                 umfeld_.von_Hand([&] { Hand::rechtsklicken(element_, zeile); });
-                return stumm || zeile >= 0;
-            }
-            if (links) {
+            } else if (links) {
                 const bool war_unten = unten_;
                 unten_ = false;
                 umfeld_.von_Hand([&] { Hand::loslassen(element_, x, y); });
                 if (war_unten && !klickt_selbst() && widget_->rect().contains(stelle))
                     umfeld_.von_Hand([this] { element_.von_Hand_klicken(); });
             }
-            return stumm;
+            return schluckt;
         default: return false;
     }
 }
@@ -174,7 +176,6 @@ void Bauteil::ziehen() {
     Element* ziel = umfeld_.gezogen_auf;
     umfeld_.gezogen = nullptr;
     umfeld_.gezogen_auf = nullptr;
-    umfeld_.von_Hand([this] { element_.Losgelassen(0, 0); });
     if (ziel != nullptr) umfeld_.von_Hand([&] { ziel->Abgelegt(element_); });
 }
 
@@ -194,6 +195,16 @@ bool Bauteil::Ablage(QEvent& ereignis) {
             umfeld_.von_Hand([&] { Hand::Dateien_ablegen(element_, pfade); });
         });
     return true;
+}
+
+void Bauteil::Fokus_bekommen(int grund) {
+    Element* bisher = umfeld_.ansicht.fokus();
+    // A window that comes up keeps the control that the model chose in it, whatever Qt thinks first.
+    if (grund == Qt::ActiveWindowFocusReason && bisher != nullptr && bisher != &element_ &&
+        &bisher->fenster() == &element_.fenster() && bisher->nimmt_Fokus())
+        fenster_.Fokus_merken(*bisher);
+    else
+        umfeld_.ansicht.von_Hand_Fokus(&element_);
 }
 
 bool Bauteil::Taste_gedrückt(QKeyEvent& ereignis) {

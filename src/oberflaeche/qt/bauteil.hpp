@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QPoint>
+#include <QPointer>
 #include <memory>
 
 #include "oberflaeche/element.hpp"
@@ -35,7 +36,8 @@ public:
     bool eventFilter(QObject* wer, QEvent* was) override;
 
 protected:
-    // Takes over the widget. Mouse and keys are watched on it, and on `fläche` if the mouse acts on another widget inside it.
+    // Takes over the widget. Mouse and keys are watched on it, and on `fläche` if the mouse acts on another widget inside
+    // it.
     void aufnehmen(QWidget* widget, QWidget* fläche = nullptr);
     virtual void Aussehen_zeigen();
     virtual void Lage_zeigen();
@@ -45,8 +47,8 @@ protected:
     virtual int Zeile_an(QPoint) const { return -1; }
     // The widget tells clicks by itself.
     virtual bool klickt_selbst() const { return false; }
-    // A left press in a list; true when the widget shall not see it.
-    virtual bool gedrückt(QPoint) { return false; }
+    // The left button went down there.
+    virtual void gedrückt(QPoint) {}
     void Farben_zeigen();
 
     Umfeld& umfeld_;
@@ -55,13 +57,14 @@ protected:
 private:
     bool Maus(QMouseEvent& ereignis);
     bool Taste_gedrückt(QKeyEvent& ereignis);
+    void Fokus_bekommen(int grund);
     bool Ablage(QEvent& ereignis);
     void ziehen();
     bool darf() const;
 
     Element& element_;
-    QWidget* widget_ = nullptr;
-    QWidget* fläche_ = nullptr;
+    QPointer<QWidget> widget_;
+    QPointer<QWidget> fläche_;
     QPoint druckpunkt_;
     bool unten_ = false;
 };

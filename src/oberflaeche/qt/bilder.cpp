@@ -62,8 +62,8 @@ void Karteikasten(QPainter& maler) {
     maler.setBrush(QColor(0x1f3a5f));
     Notenkopf(maler, 104, 133);
     Notenkopf(maler, 152, 125);
-    maler.drawPolygon(QPolygonF({{110.5, 130}, {110.5, 85}, {164.5, 76}, {164.5, 122}, {158.5, 122}, {158.5, 92}, {116.5, 99},
-                                 {116.5, 130}}));
+    maler.drawPolygon(QPolygonF(
+        {{110.5, 130}, {110.5, 85}, {164.5, 76}, {164.5, 122}, {158.5, 122}, {158.5, 92}, {116.5, 99}, {116.5, 130}}));
 
     maler.setPen(QPen(QColor(0x6b4018), 4));
     maler.setBrush(Verlauf(150, 234, QColor(0xc98f4e), QColor(0x9a5f28)));
@@ -122,24 +122,42 @@ const std::map<Text, Zeichner>& Piktogramme() {
              Dreieck(m, 11.5, 2.5, 11.5, 6.5, 14, 4.5);
              Dreieck(m, 11.5, 9.5, 11.5, 13.5, 14, 11.5);
          }},
-        {"liste", [](QPainter& m) { Linien(m, {{3, 4, 13, 4}, {3, 8, 13, 8}, {3, 12, 13, 12}}); }},
-        {"plus", [](QPainter& m) { Linien(m, {{8, 3, 8, 13}, {3, 8, 13, 8}}); }},
+        {"liste",
+         [](QPainter& m) {
+             Linien(m, {{3, 4, 13, 4}, {3, 8, 13, 8}, {3, 12, 13, 12}});
+         }},
+        {"plus",
+         [](QPainter& m) {
+             Linien(m, {{8, 3, 8, 13}, {3, 8, 13, 8}});
+         }},
         {"kopieren",
          [](QPainter& m) {
              m.setBrush(Qt::NoBrush);
              m.drawRect(QRectF(2.5, 2.5, 7.5, 8.5));
              Linien(m, {{6, 13.5, 13.5, 13.5}, {13.5, 13.5, 13.5, 5}});
          }},
-        {"löschen", [](QPainter& m) { Linien(m, {{4, 4, 12, 12}, {12, 4, 4, 12}}); }},
+        {"löschen",
+         [](QPainter& m) {
+             Linien(m, {{4, 4, 12, 12}, {12, 4, 4, 12}});
+         }},
         {"suchen",
          [](QPainter& m) {
              m.setBrush(Qt::NoBrush);
              m.drawEllipse(QPointF(7, 7), 4, 4);
              Linien(m, {{10, 10, 13.5, 13.5}});
          }},
-        {"auf", [](QPainter& m) { Linien(m, {{3.5, 10, 8, 5.5}, {8, 5.5, 12.5, 10}}); }},
-        {"ab", [](QPainter& m) { Linien(m, {{3.5, 6, 8, 10.5}, {8, 10.5, 12.5, 6}}); }},
-        {"pfeil", [](QPainter& m) { Linien(m, {{6, 3.5, 10.5, 8}, {10.5, 8, 6, 12.5}}); }},
+        {"auf",
+         [](QPainter& m) {
+             Linien(m, {{3.5, 10, 8, 5.5}, {8, 5.5, 12.5, 10}});
+         }},
+        {"ab",
+         [](QPainter& m) {
+             Linien(m, {{3.5, 6, 8, 10.5}, {8, 10.5, 12.5, 6}});
+         }},
+        {"pfeil",
+         [](QPainter& m) {
+             Linien(m, {{6, 3.5, 10.5, 8}, {10.5, 8, 6, 12.5}});
+         }},
     };
     return alle;
 }

@@ -4,7 +4,6 @@
 #include <QWidget>
 #include <map>
 #include <memory>
-#include <vector>
 
 #include "oberflaeche/qt/bauteil.hpp"
 #include "oberflaeche/qt/umfeld.hpp"
@@ -49,7 +48,6 @@ private:
     void Maße_zeigen();
     void Sichtbarkeit_zeigen();
     void Boden_legen();
-    void nach_vorn_holen();
     int Menühöhe() const;
     bool darf() const { return umfeld_.hört() && umfeld_.erreichbar(fenster_); }
 
@@ -59,11 +57,11 @@ private:
     std::unique_ptr<Menüleiste> menü_;
     std::map<const Element*, std::unique_ptr<Bauteil>> bauteile_;
     std::size_t gesehene_ = 0;
-    std::vector<std::pair<Element*, unsigned>> geänderte_;
-    std::map<Element*, std::size_t> stelle_;
+    std::map<Element*, unsigned> geänderte_;
     Element* fokus_ = nullptr;
     bool alles_ = true, fenster_geändert_ = false, menü_geändert_ = false, vorgemerkt_ = false, gleicht_ab_ = false;
     bool gezeigt_ = false;
+    Qt::WindowFlags flaggen_;
 };
 
 }  // namespace tonkartei

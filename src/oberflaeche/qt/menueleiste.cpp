@@ -39,6 +39,8 @@ void füllen(Ziel& ziel, const Einträge& einträge);
 template <class Ziel>
 void anpassen(Ziel& ziel, const Einträge& einträge) {
     if (!gleiche_Gestalt(ziel.actions(), einträge)) {
+        for (QAction* aktion : ziel.actions())
+            if (QMenu* unter = aktion->menu()) unter->deleteLater();
         ziel.clear();
         füllen(ziel, einträge);
     }
@@ -80,8 +82,7 @@ void füllen(Ziel& ziel, const Einträge& einträge) {
 // Blocked windows keep their menus shut.
 class Sperre : public QObject {
 public:
-    Sperre(Umfeld& umfeld, const Fenster& fenster, QObject* eltern)
-        : QObject(eltern), umfeld_(umfeld), fenster_(fenster) {}
+    Sperre(Umfeld& umfeld, const Fenster& fenster, QObject* eltern) : QObject(eltern), umfeld_(umfeld), fenster_(fenster) {}
     bool eventFilter(QObject*, QEvent* was) override {
         if (umfeld_.zu_Ende) return false;
         switch (was->type()) {

@@ -9,7 +9,8 @@ namespace tonkartei {
 
 class Qt_Umgebung {
 public:
-    // Whether a window system can be reached; asked before the first Qt_Umgebung is made, which ends the process without one.
+    // Whether a window system can be reached; asked before the first Qt_Umgebung is made, which ends the process without
+    // one.
     static bool Bildschirm_da();
 
     // Takes Qt's own arguments (such as -platform offscreen) out; what is left are the program's.

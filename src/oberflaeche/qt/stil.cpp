@@ -47,11 +47,13 @@ void Kästchen_malen(const QStyleOption& option, QPainter& maler, bool rund) {
     const bool darüber = aktiv && (hat(option, QStyle::State_MouseOver) || hat(option, QStyle::State_HasFocus));
     const double kante = std::min(option.rect.width(), option.rect.height());
     const QRectF platz(QRectF(option.rect).center() - QPointF(kante / 2, kante / 2), QSizeF(kante, kante));
-    const QColor füllung = QColor::fromRgb(!aktiv ? (an ? Ton::blass : Ton::Grund)
+    const QColor füllung = QColor::fromRgb(!aktiv                              ? (an ? Ton::blass : Ton::Grund)
                                            : hat(option, QStyle::State_Sunken) ? (an ? Ton::Akzent_dunkel : Ton::gedrückt)
-                                           : an ? Ton::Akzent
-                                                : Ton::Feld);
-    const QColor linie = QColor::fromRgb(!aktiv ? (an ? Ton::blass : Ton::Linie_zart) : an || darüber ? Ton::Akzent : 0xff9aa6b3);
+                                           : an                                ? Ton::Akzent
+                                                                               : Ton::Feld);
+    const QColor linie = QColor::fromRgb(!aktiv          ? (an ? Ton::blass : Ton::Linie_zart)
+                                         : an || darüber ? Ton::Akzent
+                                                         : 0xff9aa6b3);
     Tafel_malen(maler, platz, füllung, linie, rund ? kante / 2 : 3);
     if (!an) return;
     const Sicherung sicherung(maler);
@@ -125,8 +127,8 @@ void Bildlauf_malen(const QProxyStyle& stil, const QStyleOptionSlider& option, Q
     if (!beweglich) return;
     const bool griff = option.activeSubControls.testFlag(QStyle::SC_ScrollBarSlider);
     const QRgb farbe = !griff ? 0xffb9c3cd : hat(option, QStyle::State_Sunken) ? 0xff7d8b99 : 0xff9eabb8;
-    const QRectF schieber = teil(QStyle::SC_ScrollBarSlider).adjusted(liegend ? 0 : 3, liegend ? 3 : 0, liegend ? 0 : -3,
-                                                                      liegend ? -3 : 0);
+    const QRectF schieber =
+        teil(QStyle::SC_ScrollBarSlider).adjusted(liegend ? 0 : 3, liegend ? 3 : 0, liegend ? 0 : -3, liegend ? -3 : 0);
     const double rundung = std::min(schieber.width(), schieber.height()) / 2;
     const Sicherung sicherung(maler);
     maler.setPen(Qt::NoPen);
@@ -196,10 +198,13 @@ void Stil::drawPrimitive(PrimitiveElement was, const QStyleOption* option, QPain
         case PE_PanelLineEdit: {
             const bool aktiv = hat(*option, State_Enabled);
             const bool fokus = aktiv && hat(*option, State_HasFocus);
-            const QColor füllung = aktiv && !hat(*option, State_ReadOnly) ? option->palette.color(QPalette::Base)
-                                                                          : QColor::fromRgb(Ton::Wert);
+            const QColor füllung =
+                aktiv && !hat(*option, State_ReadOnly) ? option->palette.color(QPalette::Base) : QColor::fromRgb(Ton::Wert);
             Tafel_malen(*maler, QRectF(option->rect), füllung,
-                        QColor::fromRgb(fokus ? Ton::Akzent : aktiv ? Ton::Linie : Ton::Linie_zart), 3);
+                        QColor::fromRgb(fokus   ? Ton::Akzent
+                                        : aktiv ? Ton::Linie
+                                                : Ton::Linie_zart),
+                        3);
             return;
         }
         case PE_FrameLineEdit: return;  // drawn with the panel
@@ -238,10 +243,12 @@ void Stil::drawComplexControl(ComplexControl was, const QStyleOptionComplex* opt
         if (was == CC_Slider) return Schieber_malen(*this, *regler, *maler, widget);
         if (was == CC_ScrollBar) return Bildlauf_malen(*this, *regler, *maler, widget);
     }
-    if (const auto* auswahl = qstyleoption_cast<const QStyleOptionComboBox*>(option); auswahl && was == CC_ComboBox && !auswahl->editable) {
+    if (const auto* auswahl = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+        auswahl && was == CC_ComboBox && !auswahl->editable) {
         QStyleOption rahmen(*auswahl);
         Knopf_malen(rahmen, *maler, false);
-        Winkel_malen(*maler, QRectF(subControlRect(CC_ComboBox, auswahl, SC_ComboBoxArrow, widget)), 0, Zeichenfarbe(*option));
+        Winkel_malen(*maler, QRectF(subControlRect(CC_ComboBox, auswahl, SC_ComboBoxArrow, widget)), 0,
+                     Zeichenfarbe(*option));
         return;
     }
     QProxyStyle::drawComplexControl(was, option, maler, widget);

@@ -20,7 +20,8 @@ inline constexpr QRgb Grund = 0xfff3f5f8, Feld = 0xffffffff, Schrift = 0xff1d273
 class Stil : public QProxyStyle {
 public:
     Stil();
-    void drawPrimitive(PrimitiveElement was, const QStyleOption* option, QPainter* maler, const QWidget* widget) const override;
+    void drawPrimitive(PrimitiveElement was, const QStyleOption* option, QPainter* maler,
+                       const QWidget* widget) const override;
     void drawControl(ControlElement was, const QStyleOption* option, QPainter* maler, const QWidget* widget) const override;
     void drawComplexControl(ComplexControl was, const QStyleOptionComplex* option, QPainter* maler,
                             const QWidget* widget) const override;

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <functional>
+#include <map>
+#include <memory>
 
 #include "oberflaeche/ansicht.hpp"
 
@@ -9,9 +11,11 @@ namespace tonkartei {
 
 class Element;
 class Fenster;
+class Fensterwidget;
 
 struct Umfeld {
-    explicit Umfeld(Ansicht& a) : ansicht(a) {}
+    explicit Umfeld(Ansicht& a);
+    ~Umfeld();
     Umfeld(const Umfeld&) = delete;
     Umfeld& operator=(const Umfeld&) = delete;
 
@@ -32,7 +36,11 @@ struct Umfeld {
         ansicht.ausführen(tat);
     }
     bool hört() const { return still == 0 && !zu_Ende && !ansicht.endet(); }
+    // A hand may work its controls: it is enabled, and no modal window blocks it.
     bool erreichbar(const Fenster& fenster) const;
+    Fensterwidget* widget(const Fenster& fenster) const;
+
+    std::map<const Fenster*, std::unique_ptr<Fensterwidget>> fenster;
 };
 
 class Stille {

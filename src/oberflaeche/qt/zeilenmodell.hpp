@@ -11,7 +11,8 @@ class Zeilenmodell : public QAbstractListModel {
 public:
     explicit Zeilenmodell(const Zeilenelement& element);
 
-    // Takes notice of other lines. Between a change and this call Qt still counts the old ones; lines that are gone read empty.
+    // Takes notice of other lines. Between a change and this call Qt still counts the old ones; lines that are gone read
+    // empty.
     void erneuern();
     void Zeilenhöhe(int pixel) { zeilenhöhe_ = pixel; }
 

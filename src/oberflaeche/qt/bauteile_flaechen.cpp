@@ -1,0 +1,128 @@
+// What is looked at: labels, frames, pictures, progress bars.
+#include <QProgressBar>
+#include <algorithm>
+
+#include "oberflaeche/elemente.hpp"
+#include "oberflaeche/fenster.hpp"
+#include "oberflaeche/qt/bauteile.hpp"
+#include "oberflaeche/qt/fensterwidget.hpp"
+#include "oberflaeche/qt/umrechnung.hpp"
+#include "oberflaeche/qt/widgets.hpp"
+
+namespace tonkartei {
+namespace {
+
+class Schrift_Bauteil : public Bauteil {
+public:
+    Schrift_Bauteil(Umfeld& umfeld, Fensterwidget& fenster, Schriftfeld& feld)
+        : Bauteil(umfeld, fenster, feld), bild_(new Schriftbild) {
+        bild_->eingerahmt = feld.eingerahmt;
+        bild_->setWordWrap(feld.umbrechen);
+        aufnehmen(bild_);
+    }
+
+private:
+    void Aussehen_zeigen() override {
+        Bauteil::Aussehen_zeigen();
+        const auto& feld = static_cast<const Schriftfeld&>(element());
+        const auto waagrecht = feld.ausrichtung == Schriftfeld::Ausrichtung::links   ? Qt::AlignLeft
+                               : feld.ausrichtung == Schriftfeld::Ausrichtung::Mitte ? Qt::AlignHCenter
+                                                                                     : Qt::AlignRight;
+        bild_->setAlignment(waagrecht | Qt::AlignVCenter);
+        bild_->füllung = feld.hintergrund() == Farbe_Standard ? QColor() : Qt_Farbe(feld.hintergrund());
+        if (feld.Klick.hat_Hörer() || feld.Doppelklick.hat_Hörer()) bild_->setCursor(Qt::PointingHandCursor);
+        QString text = Anzeigeabsätze(feld.beschriftung());
+        const bool zugriff = !feld.wie_Daten && text.contains(QLatin1Char('&'));
+        if (zugriff) bild_->setBuddy(Nachbar());
+        if (feld.wie_Daten) text.replace(QLatin1String("&&"), QLatin1String("&"));
+        bild_->zeigen(text, zugriff);
+    }
+
+    // The access key of a label leads to the next control that takes the focus.
+    QWidget* Nachbar() const {
+        const auto& alle = element().fenster().elemente();
+        auto i = std::find(alle.begin(), alle.end(), &element());
+        for (; i != alle.end(); ++i) {
+            const Bauteil* teil = fenster_.bauteil(**i);
+            if (teil != nullptr && teil->widget() != nullptr && teil->widget()->focusPolicy() != Qt::NoFocus)
+                return teil->widget();
+        }
+        return nullptr;
+    }
+
+    Schriftbild* bild_;
+};
+
+class Rahmen_Bauteil : public Bauteil {
+public:
+    Rahmen_Bauteil(Umfeld& umfeld, Fensterwidget& fenster, Rahmen& rahmen)
+        : Bauteil(umfeld, fenster, rahmen), bild_(new Rahmenbild) {
+        bild_->deckend = rahmen.deckend;
+        aufnehmen(bild_);
+    }
+
+private:
+    void Aussehen_zeigen() override {
+        Bauteil::Aussehen_zeigen();
+        bild_->füllung = element().hintergrund() == Farbe_Standard ? QColor() : Qt_Farbe(element().hintergrund());
+        bild_->setTitle(Anzeigetext(element().beschriftung()));
+        bild_->update();
+    }
+    void Lage_zeigen() override {
+        Bauteil::Lage_zeigen();
+        if (bild_->deckend) bild_->raise();
+    }
+
+    Rahmenbild* bild_;
+};
+
+class Flächen_Bauteil : public Bauteil {
+public:
+    Flächen_Bauteil(Umfeld& umfeld, Fensterwidget& fenster, Bildfläche& fläche)
+        : Bauteil(umfeld, fenster, fläche), bild_(new Bildwidget(fläche.Bild)) {
+        aufnehmen(bild_);
+    }
+
+private:
+    void Aussehen_zeigen() override {
+        Bauteil::Aussehen_zeigen();
+        bild_->Name(static_cast<const Bildfläche&>(element()).Bild);
+    }
+
+    Bildwidget* bild_;
+};
+
+class Balken_Bauteil : public Bauteil {
+public:
+    Balken_Bauteil(Umfeld& umfeld, Fensterwidget& fenster, Balken& balken)
+        : Bauteil(umfeld, fenster, balken), bild_(new QProgressBar) {
+        bild_->setRange(0, 100);
+        bild_->setTextVisible(false);
+        aufnehmen(bild_);
+    }
+
+private:
+    void Wert_zeigen() override { bild_->setValue(static_cast<const Balken&>(element()).wert()); }
+
+    QProgressBar* bild_;
+};
+
+}  // namespace
+
+Bauteil_Zeiger Schrift_machen(Umfeld& umfeld, Fensterwidget& fenster, Element& element) {
+    return std::make_unique<Schrift_Bauteil>(umfeld, fenster, static_cast<Schriftfeld&>(element));
+}
+
+Bauteil_Zeiger Rahmen_machen(Umfeld& umfeld, Fensterwidget& fenster, Element& element) {
+    return std::make_unique<Rahmen_Bauteil>(umfeld, fenster, static_cast<Rahmen&>(element));
+}
+
+Bauteil_Zeiger Fläche_machen(Umfeld& umfeld, Fensterwidget& fenster, Element& element) {
+    return std::make_unique<Flächen_Bauteil>(umfeld, fenster, static_cast<Bildfläche&>(element));
+}
+
+Bauteil_Zeiger Balken_machen(Umfeld& umfeld, Fensterwidget& fenster, Element& element) {
+    return std::make_unique<Balken_Bauteil>(umfeld, fenster, static_cast<Balken&>(element));
+}
+
+}  // namespace tonkartei

@@ -1,0 +1,104 @@
+// Push buttons, check boxes, option buttons.
+#include <QAbstractButton>
+#include <QPushButton>
+#include <QToolButton>
+
+#include "oberflaeche/elemente.hpp"
+#include "oberflaeche/fenster.hpp"
+#include "oberflaeche/qt/bauteile.hpp"
+#include "oberflaeche/qt/bilder.hpp"
+#include "oberflaeche/qt/fensterwidget.hpp"
+#include "oberflaeche/qt/stil.hpp"
+#include "oberflaeche/qt/umrechnung.hpp"
+#include "oberflaeche/qt/widgets.hpp"
+
+namespace tonkartei {
+namespace {
+
+class Knopfartiges : public Bauteil {
+public:
+    Knopfartiges(Umfeld& umfeld, Fensterwidget& fenster, Element& element, QAbstractButton* knopf)
+        : Bauteil(umfeld, fenster, element), knopf_(knopf) {
+        aufnehmen(knopf);
+        QObject::connect(knopf, &QAbstractButton::clicked, this, [this] {
+            // Space and access keys come this way too; a blocked window does not hear them.
+            if (!this->element().bedienbar() || !umfeld_.erreichbar(this->element().fenster())) return;
+            umfeld_.von_Hand([this] { this->element().von_Hand_klicken(); });
+        });
+    }
+
+protected:
+    bool klickt_selbst() const override { return true; }
+    void Aussehen_zeigen() override {
+        Bauteil::Aussehen_zeigen();
+        const QString text = Anzeigetext(element().beschriftung());
+        if (knopf_->text() != text) knopf_->setText(text);
+    }
+    QAbstractButton* knopf_;
+};
+
+class Knopf_Bauteil : public Knopfartiges {
+public:
+    Knopf_Bauteil(Umfeld& umfeld, Fensterwidget& fenster, Knopf& knopf)
+        : Knopfartiges(umfeld, fenster, knopf, Widget(knopf)) {}
+
+private:
+    static QAbstractButton* Widget(const Knopf& knopf) {
+        if (!knopf.klein) return new QPushButton;
+        auto* w = new QToolButton;
+        w->setFocusPolicy(Qt::StrongFocus);
+        return w;
+    }
+    void Aussehen_zeigen() override {
+        Knopfartiges::Aussehen_zeigen();
+        const auto& knopf = static_cast<const Knopf&>(element());
+        if (auto* w = qobject_cast<QPushButton*>(knopf_)) w->setDefault(knopf.fenster().Vorgabeknopf == &knopf);
+        const QColor farbe = knopf.farbe() == Farbe_Standard ? QColor::fromRgb(Ton::Schrift) : Qt_Farbe(knopf.farbe());
+        if (bild_ == knopf.Bild && bildfarbe_ == farbe) return;
+        bild_ = knopf.Bild;
+        bildfarbe_ = farbe;
+        const QIcon bild = bild_.empty() ? QIcon() : Bildsymbol(bild_, farbe, QColor::fromRgb(Ton::Linie));
+        knopf_->setIcon(bild);
+        knopf_->setIconSize(QSize(16, 16));
+        if (!bild.isNull()) knopf_->setText(QString());
+    }
+
+    Text bild_;
+    QColor bildfarbe_;
+};
+
+class Kasten_Bauteil : public Knopfartiges {
+public:
+    Kasten_Bauteil(Umfeld& umfeld, Fensterwidget& fenster, Kasten& kasten)
+        : Knopfartiges(umfeld, fenster, kasten, new Kastenbild) {}
+
+private:
+    void Wert_zeigen() override { knopf_->setChecked(static_cast<const Kasten&>(element()).wert()); }
+};
+
+class Options_Bauteil : public Knopfartiges {
+public:
+    Options_Bauteil(Umfeld& umfeld, Fensterwidget& fenster, Optionsfeld& feld)
+        : Knopfartiges(umfeld, fenster, feld, new Optionsbild) {
+        knopf_->setAutoExclusive(false);
+    }
+
+private:
+    void Wert_zeigen() override { knopf_->setChecked(static_cast<const Optionsfeld&>(element()).wert()); }
+};
+
+}  // namespace
+
+Bauteil_Zeiger Knopf_machen(Umfeld& umfeld, Fensterwidget& fenster, Element& element) {
+    return std::make_unique<Knopf_Bauteil>(umfeld, fenster, static_cast<Knopf&>(element));
+}
+
+Bauteil_Zeiger Kasten_machen(Umfeld& umfeld, Fensterwidget& fenster, Element& element) {
+    return std::make_unique<Kasten_Bauteil>(umfeld, fenster, static_cast<Kasten&>(element));
+}
+
+Bauteil_Zeiger Option_machen(Umfeld& umfeld, Fensterwidget& fenster, Element& element) {
+    return std::make_unique<Options_Bauteil>(umfeld, fenster, static_cast<Optionsfeld&>(element));
+}
+
+}  // namespace tonkartei

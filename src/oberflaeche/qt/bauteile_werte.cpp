@@ -1,0 +1,81 @@
+// Text fields, sliders and scroll bars.
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QSlider>
+#include <algorithm>
+
+#include "oberflaeche/elemente.hpp"
+#include "oberflaeche/hand.hpp"
+#include "oberflaeche/qt/bauteile.hpp"
+#include "oberflaeche/qt/fensterwidget.hpp"
+#include "oberflaeche/qt/umrechnung.hpp"
+
+namespace tonkartei {
+namespace {
+
+class Eingabe_Bauteil : public Bauteil {
+public:
+    Eingabe_Bauteil(Umfeld& umfeld, Fensterwidget& fenster, Textfeld& feld)
+        : Bauteil(umfeld, fenster, feld), zeile_(new QLineEdit) {
+        aufnehmen(zeile_);
+        if (feld.Rechtsklick.hat_Hörer()) zeile_->setContextMenuPolicy(Qt::NoContextMenu);
+        QObject::connect(zeile_, &QLineEdit::textEdited, this, [this](const QString& neu) {
+            umfeld_.von_Hand([&] { static_cast<Textfeld&>(element()).text(aus_Qt(neu)); });
+        });
+    }
+
+private:
+    void Aussehen_zeigen() override {
+        Bauteil::Aussehen_zeigen();
+        zeile_->setReadOnly(static_cast<const Textfeld&>(element()).nur_lesen);
+    }
+    void Wert_zeigen() override {
+        // The caret stays where it is while the user types.
+        const QString text = Anzeigetext(static_cast<const Textfeld&>(element()).text());
+        if (zeile_->text() != text) zeile_->setText(text);
+    }
+
+    QLineEdit* zeile_;
+};
+
+class Regler_Bauteil : public Bauteil {
+public:
+    Regler_Bauteil(Umfeld& umfeld, Fensterwidget& fenster, Regler& regler)
+        : Bauteil(umfeld, fenster, regler), schieber_(Widget(regler)) {
+        aufnehmen(schieber_);
+        schieber_->setContextMenuPolicy(Qt::NoContextMenu);
+        QObject::connect(schieber_, &QAbstractSlider::valueChanged, this,
+                         [this](int neu) { umfeld_.von_Hand([&] { Hand::schieben(element(), neu); }); });
+    }
+
+private:
+    static QAbstractSlider* Widget(const Regler& regler) {
+        const auto richtung = regler.senkrecht ? Qt::Vertical : Qt::Horizontal;
+        if (regler.form() == Regler::Form::Schieber) return new QSlider(richtung);
+        auto* w = new QScrollBar(richtung);
+        w->setFocusPolicy(Qt::StrongFocus);
+        return w;
+    }
+    void Wert_zeigen() override {
+        const auto& regler = static_cast<const Regler&>(element());
+        schieber_->setRange(regler.min(), regler.max());
+        schieber_->setPageStep(std::max(1, (regler.max() - regler.min()) / 10));
+        schieber_->setValue(regler.wert());
+    }
+    // Its value is its own doing; only press and release are watched.
+    bool klickt_selbst() const override { return true; }
+
+    QAbstractSlider* schieber_;
+};
+
+}  // namespace
+
+Bauteil_Zeiger Eingabe_machen(Umfeld& umfeld, Fensterwidget& fenster, Element& element) {
+    return std::make_unique<Eingabe_Bauteil>(umfeld, fenster, static_cast<Textfeld&>(element));
+}
+
+Bauteil_Zeiger Regler_machen(Umfeld& umfeld, Fensterwidget& fenster, Element& element) {
+    return std::make_unique<Regler_Bauteil>(umfeld, fenster, static_cast<Regler&>(element));
+}
+
+}  // namespace tonkartei

@@ -1,0 +1,335 @@
+#include "oberflaeche/qt/fensterwidget.hpp"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QPainter>
+#include <QSystemTrayIcon>
+#include <QTimer>
+#include <QWindow>
+#include <algorithm>
+#include <set>
+
+#include "oberflaeche/fenster.hpp"
+#include "oberflaeche/hand.hpp"
+#include "oberflaeche/qt/ablage.hpp"
+#include "oberflaeche/qt/menueleiste.hpp"
+#include "oberflaeche/qt/stil.hpp"
+#include "oberflaeche/qt/umrechnung.hpp"
+
+namespace tonkartei {
+namespace {
+
+constexpr unsigned alles = Änderung_Aussehen | Änderung_Lage | Änderung_Wert | Änderung_Zeilen;
+
+// The posted call to show what was noted.
+QEvent::Type Abgleich() {
+    static const int art = QEvent::registerEventType();
+    return static_cast<QEvent::Type>(art);
+}
+
+Qt::WindowFlags Flaggen(const Fenster& fenster) {
+    Qt::WindowFlags f = Qt::Window;
+    if (fenster.ohne_Rand) return f | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint;
+    f |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+         Qt::WindowCloseButtonHint;
+    if (fenster.größenveränderlich) f |= Qt::WindowMaximizeButtonHint;
+    if (fenster.immer_oben()) f |= Qt::WindowStaysOnTopHint;
+    return f;
+}
+
+// Up, so that nothing is cut off.
+int aufgerundet(int twips) { return (twips + Twips_je_Pixel - 1) / Twips_je_Pixel; }
+
+}  // namespace
+
+Fensterwidget::Fensterwidget(Umfeld& umfeld, Fenster& fenster)
+    : umfeld_(umfeld), fenster_(fenster), boden_(new QWidget(this)), flaggen_(Flaggen(fenster)) {
+    setWindowFlags(flaggen_);
+    setObjectName(Anzeigetext(fenster.Name()));
+    setAcceptDrops(true);
+    setMouseTracking(true);
+    boden_->setMouseTracking(true);
+    if (const Menü* menü = fenster.menü()) {
+        menü_ = std::make_unique<Menüleiste>(umfeld, *menü, this);
+        menü_geändert_ = true;
+    }
+}
+
+Fensterwidget::~Fensterwidget() = default;
+
+void Fensterwidget::vormerken() {
+    if (vorgemerkt_) return;
+    vorgemerkt_ = true;
+    QCoreApplication::postEvent(this, new QEvent(Abgleich()), Qt::HighEventPriority);
+}
+
+void Fensterwidget::Fenster_merken() {
+    fenster_geändert_ = true;
+    // It may be loaded again, with its start values, before anything is shown.
+    if (!fenster_.geladen()) alles_ = true;
+    vormerken();
+}
+
+void Fensterwidget::Element_merken(Element& element, unsigned änderung) {
+    if (element.art() == Elementart::Menü)
+        menü_geändert_ = true;
+    else
+        geänderte_[&element] |= änderung;
+    vormerken();
+}
+
+void Fensterwidget::Fokus_merken(Element& element) {
+    fokus_ = &element;
+    vormerken();
+}
+
+QWidget* Fensterwidget::Boden_für(const Element& element) const {
+    const Bauteil* rahmen = element.rahmen() == nullptr ? nullptr : bauteil(*element.rahmen());
+    return rahmen == nullptr ? boden_ : rahmen->Inneres();
+}
+
+Bauteil* Fensterwidget::bauteil(const Element& element) const {
+    const auto eintrag = bauteile_.find(&element);
+    return eintrag == bauteile_.end() ? nullptr : eintrag->second.get();
+}
+
+void Fensterwidget::Bauteile_machen() {
+    const auto& elemente = fenster_.elemente();
+    if (gesehene_ == elemente.size()) return;
+    gesehene_ = elemente.size();
+    const std::set<const Element*> da(elemente.begin(), elemente.end());
+    std::erase_if(bauteile_, [&](const auto& eintrag) { return da.count(eintrag.first) == 0; });
+    std::erase_if(geänderte_, [&](const auto& eintrag) { return da.count(eintrag.first) == 0; });
+    for (Element* element : elemente) {
+        if (bauteile_.count(element) != 0) continue;
+        if (auto teil = Bauteil::machen(umfeld_, *this, *element)) {
+            bauteile_.emplace(element, std::move(teil));
+            geänderte_[element] = alles;
+        }
+    }
+}
+
+bool Fensterwidget::abgleichen() {
+    if (gleicht_ab_ || umfeld_.zu_Ende) return false;
+    vorgemerkt_ = false;
+    const Stille stille(umfeld_);
+    if (!fenster_.geladen()) {
+        geänderte_.clear();
+        fokus_ = nullptr;
+        alles_ = true;
+        Sichtbarkeit_zeigen();
+        return false;
+    }
+    gleicht_ab_ = true;
+    bool etwas = fenster_geändert_ || menü_geändert_ || alles_ || !geänderte_.empty();
+    Bauteile_machen();
+    if (menü_ && (menü_geändert_ || alles_)) menü_->zeigen();
+    menü_geändert_ = false;
+    bool neu_gereiht = false;
+    if (alles_) {
+        // In the order of their making, which is the order of stacking and of the tab key.
+        for (Element* element : fenster_.elemente())
+            if (Bauteil* teil = bauteil(*element)) teil->zeigen(alles);
+        geänderte_.clear();
+        neu_gereiht = fenster_geändert_ = true;
+        alles_ = false;
+    }
+    // A list may answer with where it really scrolled to: a second round finds that unchanged.
+    for (int runde = 0; runde < 3 && !geänderte_.empty(); ++runde) {
+        const auto jetzt = std::move(geänderte_);
+        geänderte_.clear();
+        for (const auto& [element, änderung] : jetzt)
+            if (Bauteil* teil = bauteil(*element)) teil->zeigen(änderung);
+    }
+    if (neu_gereiht) {
+        QWidget* vorheriges = nullptr;
+        for (Element* element : fenster_.elemente()) {
+            const Bauteil* teil = bauteil(*element);
+            if (teil == nullptr || teil->widget() == nullptr || teil->widget()->focusPolicy() == Qt::NoFocus) continue;
+            if (vorheriges != nullptr) setTabOrder(vorheriges, teil->widget());
+            vorheriges = teil->widget();
+        }
+    }
+    if (fenster_geändert_) {
+        fenster_geändert_ = false;
+        Fenster_zeigen();
+    }
+    if (fokus_ != nullptr && isVisible()) {
+        const Bauteil* teil = bauteil(*fokus_);
+        fokus_ = nullptr;
+        if (teil != nullptr && teil->widget() != nullptr) {
+            teil->widget()->setFocus(Qt::OtherFocusReason);
+            if (!isActiveWindow() && QGuiApplication::applicationState() == Qt::ApplicationActive) activateWindow();
+        }
+    }
+    gleicht_ab_ = false;
+    return etwas;
+}
+
+void Fensterwidget::Fenster_zeigen() {
+    const QString titel = Anzeigetext(fenster_.titel());
+    if (windowTitle() != titel) setWindowTitle(titel);
+    if (const Qt::WindowFlags flaggen = Flaggen(fenster_); flaggen != flaggen_) {
+        flaggen_ = flaggen;
+        setWindowFlags(flaggen);  // hides it; shown again below
+    }
+    Maße_zeigen();
+    Sichtbarkeit_zeigen();
+}
+
+void Fensterwidget::Maße_zeigen() {
+    const Bereich& lage = fenster_.lage();
+    const QSize größe(Pixel(lage.breite), Pixel(lage.höhe) + Menühöhe());
+    if (fenster_.größenveränderlich) {
+        const Größe mindest = fenster_.Mindestgröße();
+        setMinimumSize(aufgerundet(mindest.breite), aufgerundet(mindest.höhe) + Menühöhe());
+        setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        if (!isMaximized() && !isFullScreen()) resize(größe);
+    } else {
+        setFixedSize(größe);
+    }
+    const QPoint stelle(Pixel(lage.links), Pixel(lage.oben));
+    if (pos() != stelle || !testAttribute(Qt::WA_Moved)) move(stelle);
+    Boden_legen();
+}
+
+void Fensterwidget::Sichtbarkeit_zeigen() {
+    const bool minimiert = fenster_.zustand() == Fensterzustand::minimiert;
+    // Without a tray nothing could bring it back: it stays in the task bar.
+    const bool bleibt = gezeigt_ && fenster_.geladen() && minimiert && !QSystemTrayIcon::isSystemTrayAvailable();
+    if (!fenster_.sichtbar() && !bleibt) {
+        gezeigt_ = false;
+        if (umfeld_.vorderstes == &fenster_) umfeld_.vorderstes = nullptr;
+        hide();
+        return;
+    }
+    const Qt::WindowModality art = fenster_.modal() ? Qt::ApplicationModal : Qt::NonModal;
+    if (windowModality() != art) {
+        hide();
+        setWindowModality(art);
+    }
+    if (minimiert != isMinimized()) setWindowState(windowState() ^ Qt::WindowMinimized);
+    const bool neu = !isVisible();
+    if (neu) {
+        // Above the window that is in front, and not blocked by the modal one that it belongs to.
+        const Fenster* modal = umfeld_.ansicht.modales_Fenster();
+        const Fenster* unter = modal != &fenster_ ? modal : umfeld_.vorderstes;
+        Fensterwidget* eltern = unter == nullptr || unter == &fenster_ ? nullptr : umfeld_.widget(*unter);
+        winId();
+        windowHandle()->setTransientParent(eltern == nullptr || !eltern->isVisible() ? nullptr : eltern->windowHandle());
+        show();
+    }
+    gezeigt_ = true;
+    const auto& reihe = umfeld_.ansicht.fenster();
+    const bool vorn = !reihe.empty() && reihe.front() == &fenster_;
+    if (vorn && (neu || umfeld_.vorderstes != &fenster_) && !minimiert) {
+        umfeld_.vorderstes = &fenster_;
+        raise();
+        activateWindow();
+    }
+}
+
+int Fensterwidget::Menühöhe() const {
+    if (!menü_) return 0;
+    const int höhe = menü_->leiste()->heightForWidth(std::max(1, Pixel(fenster_.lage().breite)));
+    return höhe > 0 ? höhe : menü_->leiste()->sizeHint().height();
+}
+
+void Fensterwidget::Boden_legen() {
+    const int oben = Menühöhe();
+    if (menü_) menü_->leiste()->setGeometry(0, 0, width(), oben);
+    boden_->setGeometry(0, oben, width(), std::max(0, height() - oben));
+}
+
+bool Fensterwidget::event(QEvent* was) {
+    if (umfeld_.zu_Ende) return QWidget::event(was);
+    if (was->type() == Abgleich()) {
+        abgleichen();
+        return true;
+    }
+    // What the model has changed meanwhile is on the widgets before they are painted or worked.
+    if (was->type() == QEvent::UpdateRequest && vorgemerkt_) abgleichen();
+    if (was->type() == QEvent::WindowActivate && umfeld_.hört()) {
+        umfeld_.vorderstes = &fenster_;
+        if (fenster_.sichtbar() && umfeld_.ansicht.fenster().front() != &fenster_)
+            umfeld_.ansicht.Fenster_nach_vorn(fenster_);
+    }
+    return QWidget::event(was);
+}
+
+void Fensterwidget::closeEvent(QCloseEvent* was) {
+    was->ignore();
+    if (darf()) umfeld_.von_Hand([this] { fenster_.schließen(Schließgrund::Hand); });
+}
+
+void Fensterwidget::moveEvent(QMoveEvent* was) {
+    QWidget::moveEvent(was);
+    // A place that the model has set meanwhile wins; so does the one it keeps while minimised.
+    if (!umfeld_.hört() || fenster_geändert_ || !isVisible() || isMinimized()) return;
+    const QPoint bisher(Pixel(fenster_.lage().links), Pixel(fenster_.lage().oben));
+    if (pos() != bisher) umfeld_.von_Hand([this] { fenster_.von_Hand_bewegt(Twips(pos().x()), Twips(pos().y())); });
+}
+
+void Fensterwidget::resizeEvent(QResizeEvent* was) {
+    QWidget::resizeEvent(was);
+    Boden_legen();
+    if (!umfeld_.hört() || fenster_geändert_ || !isVisible() || isMinimized()) return;
+    const QSize innen = boden_->size();
+    const QSize bisher(Pixel(fenster_.lage().breite), Pixel(fenster_.lage().höhe));
+    if (innen != bisher) umfeld_.von_Hand([&] { fenster_.von_Hand_bemessen(Twips(innen.width()), Twips(innen.height())); });
+}
+
+void Fensterwidget::changeEvent(QEvent* was) {
+    QWidget::changeEvent(was);
+    if (was->type() != QEvent::WindowStateChange || !umfeld_.hört() || fenster_geändert_ || !gezeigt_) return;
+    const auto zustand = isMinimized() ? Fensterzustand::minimiert : Fensterzustand::normal;
+    if (zustand == fenster_.zustand()) return;
+    umfeld_.von_Hand([this, zustand] {
+        fenster_.von_Hand_Zustand(zustand);
+        // It was hidden, to the model, and had only stayed for want of a tray.
+        if (zustand == Fensterzustand::normal && fenster_.geladen() && !fenster_.sichtbar()) fenster_.zeigen();
+    });
+}
+
+void Fensterwidget::keyPressEvent(QKeyEvent* was) {
+    Taste taste;
+    Element* knopf = nullptr;
+    if (darf() && Taste_aus(*was, taste)) {
+        if (taste.art == Taste::Art::Return) knopf = fenster_.Vorgabeknopf;
+        if (taste.art == Taste::Art::Escape) knopf = fenster_.Abbruchknopf;
+    }
+    if (knopf != nullptr && knopf->bedienbar())
+        umfeld_.von_Hand([knopf] { Hand::klicken(*knopf); });
+    else
+        QWidget::keyPressEvent(was);
+}
+
+void Fensterwidget::mouseMoveEvent(QMouseEvent*) {
+    if (darf()) umfeld_.von_Hand([this] { fenster_.Mausbewegung(); });
+}
+
+void Fensterwidget::dragEnterEvent(QDragEnterEvent* was) {
+    if (darf() && umfeld_.gezogen == nullptr && fenster_.Dateien_abgelegt.hat_Hörer() && hat_Pfade(*was->mimeData()))
+        was->acceptProposedAction();
+}
+
+void Fensterwidget::dropEvent(QDropEvent* was) {
+    if (!darf() || umfeld_.gezogen != nullptr || !fenster_.Dateien_abgelegt.hat_Hörer()) return;
+    was->acceptProposedAction();
+    QTimer::singleShot(0, this, [this, pfade = Pfade_aus(*was->mimeData())] {
+        umfeld_.von_Hand([&] { fenster_.Dateien_abgelegt(pfade); });
+    });
+}
+
+void Fensterwidget::paintEvent(QPaintEvent*) {
+    if (!fenster_.ohne_Rand) return;
+    QPainter maler(this);
+    maler.setPen(QColor::fromRgb(Ton::Linie));
+    maler.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+}  // namespace tonkartei

@@ -1,0 +1,93 @@
+#include "oberflaeche/qt/widgets.hpp"
+
+#include <QPainter>
+#include <QStyle>
+#include <algorithm>
+
+#include "oberflaeche/qt/bilder.hpp"
+#include "oberflaeche/qt/stil.hpp"
+
+namespace tonkartei {
+namespace {
+
+constexpr int modeste_Breite = 360;  // of texts that wrap
+
+}  // namespace
+
+Schriftbild::Schriftbild(QWidget* eltern) : QLabel(eltern) { setTextFormat(Qt::PlainText); }
+
+void Schriftbild::zeigen(const QString& text, bool zugriff) {
+    zugriff_ = zugriff;
+    if (this->text() != text) setText(text);
+    update();
+}
+
+QMargins Schriftbild::ränder() const { return eingerahmt ? QMargins(6, 3, 6, 3) : QMargins(0, 1, 0, 1); }
+
+QSize Schriftbild::sizeHint() const {
+    int flaggen = Qt::AlignLeft | (zugriff_ ? Qt::TextShowMnemonic : 0);
+    const QFontMetrics maße(font());
+    QRect platz = maße.boundingRect(QRect(0, 0, 1 << 20, 1 << 20), flaggen, text());
+    if (wordWrap() && platz.width() > modeste_Breite)
+        platz = maße.boundingRect(QRect(0, 0, modeste_Breite, 1 << 20), flaggen | Qt::TextWordWrap, text());
+    const int höhe = std::max(platz.height(), maße.height());
+    return QSize(platz.width() + 1, höhe).grownBy(ränder());
+}
+
+void Schriftbild::paintEvent(QPaintEvent*) {
+    QPainter maler(this);
+    if (eingerahmt)
+        Tafel_malen(maler, QRectF(rect()), füllung.isValid() ? füllung : QColor::fromRgb(Ton::Wert),
+                    QColor::fromRgb(Ton::Linie_zart), 3);
+    else if (füllung.isValid())
+        maler.fillRect(rect(), füllung);
+    const QRect platz = rect().marginsRemoved(ränder());
+    int flaggen = static_cast<int>(alignment());
+    if (zugriff_) flaggen |= Qt::TextShowMnemonic;
+    QString zeile = text();
+    if (wordWrap())
+        flaggen |= Qt::TextWordWrap;
+    else if (!zeile.contains(QLatin1Char('\n')))
+        zeile = fontMetrics().elidedText(zeile, Qt::ElideRight, platz.width(), flaggen);
+    style()->drawItemText(&maler, platz, flaggen, palette(), isEnabled(), zeile, foregroundRole());
+}
+
+Rahmenbild::Rahmenbild(QWidget* eltern) : QGroupBox(eltern) {}
+
+QMargins Rahmenbild::ränder(bool mit_Titel, bool deckend, int titelhöhe) {
+    if (mit_Titel) return QMargins(10, titelhöhe + 12, 10, 10);
+    return deckend ? QMargins(6, 6, 6, 6) : QMargins(0, 0, 0, 0);
+}
+
+void Rahmenbild::paintEvent(QPaintEvent*) {
+    QPainter maler(this);
+    const bool mit_Titel = !title().isEmpty();
+    if (!mit_Titel && !deckend) {
+        if (füllung.isValid()) maler.fillRect(rect(), füllung);
+        return;
+    }
+    const QColor grund = füllung.isValid() ? füllung : QColor::fromRgb(mit_Titel ? Ton::Wert : Ton::Grund);
+    QRect tafel = rect();
+    if (mit_Titel) {
+        const int höhe = fontMetrics().height();
+        tafel.setTop(höhe + 4);
+        style()->drawItemText(&maler, QRect(2, 0, width() - 4, höhe + 2),
+                              Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, palette(), isEnabled(), title(),
+                              QPalette::WindowText);
+    }
+    if (deckend) maler.fillRect(rect(), palette().color(QPalette::Window));
+    Tafel_malen(maler, QRectF(tafel), grund, QColor::fromRgb(mit_Titel ? Ton::Linie_zart : Ton::Linie), mit_Titel ? 5 : 3);
+}
+
+void Bildwidget::Name(const Text& name) {
+    if (name_ == name) return;
+    name_ = name;
+    update();
+}
+
+void Bildwidget::paintEvent(QPaintEvent*) {
+    QPainter maler(this);
+    Bild_malen(maler, QRectF(rect()), name_, palette().color(QPalette::WindowText));
+}
+
+}  // namespace tonkartei

@@ -1,0 +1,81 @@
+// The few widgets that Qt does not have as they are needed here. The measures use them as well, so that what is measured is
+// what is shown.
+#pragma once
+
+#include <QCheckBox>
+#include <QColor>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMargins>
+#include <QRadioButton>
+
+#include "grundlagen/text.hpp"
+
+namespace tonkartei {
+
+// Boxes and option buttons that never change by themselves: the model says what is chosen.
+class Kastenbild : public QCheckBox {
+public:
+    using QCheckBox::QCheckBox;
+
+protected:
+    void nextCheckState() override {}
+};
+
+class Optionsbild : public QRadioButton {
+public:
+    using QRadioButton::QRadioButton;
+
+protected:
+    void nextCheckState() override {}
+};
+
+// Label: plain text, cut with an ellipsis where it does not fit, in a frame for values.
+class Schriftbild : public QLabel {
+public:
+    explicit Schriftbild(QWidget* eltern = nullptr);
+
+    // With `zugriff` a "&" marks the access key of the buddy.
+    void zeigen(const QString& text, bool zugriff);
+    bool eingerahmt = false;
+    QColor füllung;  // invalid: none
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent* was) override;
+
+private:
+    QMargins ränder() const;
+    bool zugriff_ = false;
+};
+
+// Frame with a title; without one nothing is drawn, unless it is opaque.
+class Rahmenbild : public QGroupBox {
+public:
+    explicit Rahmenbild(QWidget* eltern = nullptr);
+    bool deckend = false;
+    QColor füllung;
+
+    // What the border takes from the inside.
+    static QMargins ränder(bool mit_Titel, bool deckend, int titelhöhe);
+
+protected:
+    void paintEvent(QPaintEvent* was) override;
+};
+
+// A picture of the program, as large as fits.
+class Bildwidget : public QWidget {
+public:
+    explicit Bildwidget(Text name, QWidget* eltern = nullptr) : QWidget(eltern), name_(std::move(name)) {}
+    void Name(const Text& name);
+
+protected:
+    void paintEvent(QPaintEvent* was) override;
+
+private:
+    Text name_;
+};
+
+}  // namespace tonkartei
