@@ -1,4 +1,7 @@
 // Starting: classes, handing over, further windows, races, lists.
+#include <netinet/in.h>
+#include <sys/socket.h>
+
 #include <array>
 
 #include "spieler/argumente.hpp"
@@ -102,6 +105,30 @@ TEST_F(Starten, SpieltListenOhneDasUnspielbare) {
     ASSERT_TRUE(läuft(f));
     springen(f, 29800);
     EXPECT_TRUE(warte([&] { return Status(f) == 0; }));
+}
+
+// Files that lead on to a network address, in the forms that players follow gladly.
+TEST_F(Starten, NurDateienWerdenGeöffnet) {
+    const Deskriptor lauscher(::socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
+    sockaddr_in adresse{};
+    adresse.sin_family = AF_INET;
+    adresse.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t größe = sizeof(adresse);
+    ASSERT_EQ(0, ::bind(lauscher.fd(), reinterpret_cast<const sockaddr*>(&adresse), größe));
+    ASSERT_EQ(0, ::listen(lauscher.fd(), 8));
+    ASSERT_EQ(0, ::getsockname(lauscher.fd(), reinterpret_cast<sockaddr*>(&adresse), &größe));
+    const std::string url = "http://127.0.0.1:" + std::to_string(ntohs(adresse.sin_port)) + "/x.mp3";
+    const Hwnd f = Spieler_mit({
+        Ordner.datei("1.mp3", "#EXTM3U\n#EXT-X-TARGETDURATION:9\n#EXTINF:9,\n" + url + "\n#EXT-X-ENDLIST\n"),
+        Ordner.datei("2.mp3", "# mpv EDL v0\n" + url + "\n"),
+        Ordner.datei("3.pls", "[playlist]\nFile1=" + url + "\n"),
+        Ordner.datei("4.m3u", url + "\n"),
+        Ordner.datei("5.mp3", "ffconcat version 1.0\nfile '" + url + "'\n"),
+        url,
+    });
+    ASSERT_NE(0, f);
+    EXPECT_TRUE(warte([&] { return Status(f) == 0; }));
+    EXPECT_EQ(-1, ::accept(lauscher.fd(), nullptr, nullptr)) << "somebody called";
 }
 
 TEST_F(Starten, NichtsSpielbaresIstGestoppt) {
