@@ -14,7 +14,7 @@ Wiedergabe::Wiedergabe(Modell& modell, Einstellungen& einstellungen, const Platt
       Takt(ansicht, Spieler),
       Zählung(modell, einstellungen, Starter, plattform.Rechner),
       ABR(modell, plattform.Dateisystem, kanäle),
-      Optionen(einstellungen, ansicht, Spieler, Programm) {
+      Optionen(modell, einstellungen, ansicht, Spieler, Programm) {
     Starter.Takt.verbinden([this] { Takt.Timer_Timer(); });
 }
 
