@@ -1,0 +1,334 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QListView>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScrollBar>
+#include <QTimer>
+#include <cstdlib>
+#include <filesystem>
+
+#include "oberflaeche/hand.hpp"
+#include "oberflaeche/qt/ansicht_qt.hpp"
+#include "oberflaeche/qt/fenstermaler_qt.hpp"
+#include "oberflaeche/qt/kaesten.hpp"
+#include "oberflaeche/qt/qt_umgebung.hpp"
+#include "oberflaeche/zeitgeber.hpp"
+#include "oberflaeche_qt/hilfen.hpp"
+#include "oberflaeche_qt/schaufenster.hpp"
+
+namespace tonkartei {
+namespace {
+
+struct Desktop : testing::Test {
+    Ansicht_Qt ansicht;
+    Schaufenster fenster{ansicht};
+
+    void SetUp() override {
+        fenster.zeigen();
+        ansicht.Ereignisse_laufen_lassen();
+    }
+    void abgleichen() { ansicht.maler().abgleichen(); }
+    template <class W>
+    W& widget(const Element& element) {
+        auto* w = qobject_cast<W*>(ansicht.maler().Widget(element));
+        if (w == nullptr) throw std::runtime_error("no such widget: " + element.Name());
+        return *w;
+    }
+    void Zeilen(int anzahl) {
+        std::vector<Text> zeilen;
+        for (int i = 0; i < anzahl; ++i) zeilen.push_back("Lied " + std::to_string(i));
+        fenster.Liste.setzen(std::move(zeilen));
+        abgleichen();
+    }
+};
+
+TEST_F(Desktop, ButtonRunsItsHandlerInTheOrderOfAHand) {
+    Text folge;
+    fenster.Ok.Gedrückt.verbinden([&](int x, int) { folge += x > 0 && x % 15 == 0 ? "d" : "?"; });
+    fenster.Ok.Losgelassen.verbinden([&](int, int) { folge += "l"; });
+    fenster.Ok.Klick.verbinden([&] { folge += "k"; });
+    Klick(widget<QWidget>(fenster.Ok));
+    EXPECT_EQ(folge, "dlk");
+    fenster.Ok.aktiv(false);  // not yet on the screen: the model counts
+    Klick(widget<QWidget>(fenster.Ok));
+    EXPECT_EQ(fenster.ok, 1);
+    fenster.Ok.aktiv(true);
+    fenster.aktiv(false);
+    Klick(widget<QWidget>(fenster.Ok));
+    EXPECT_EQ(fenster.ok, 1);
+}
+
+TEST_F(Desktop, BoxesAndOptionsShowTheModelsValueEvenIfAHandlerTakesItBack) {
+    auto& kasten = widget<QAbstractButton>(fenster.Klassik);
+    fenster.Klassik.Klick.verbinden([&] {
+        if (fenster.Klassik.wert()) fenster.Klassik.wert(false);
+    });
+    Klick(kasten, QPoint(5, kasten.height() / 2));
+    abgleichen();
+    EXPECT_FALSE(kasten.isChecked());
+    auto& option = widget<QAbstractButton>(fenster.nach_Artist);
+    Klick(option, QPoint(5, option.height() / 2));  // the chosen one: stays chosen
+    abgleichen();
+    EXPECT_TRUE(option.isChecked());
+    EXPECT_FALSE(widget<QAbstractButton>(fenster.nach_Titel).isChecked());
+}
+
+TEST_F(Desktop, ListOf5000LinesIsQuickAndFollowsTheModelBothWays) {
+    Zeilen(5000);
+    auto& liste = widget<QListView>(fenster.Liste);
+    QElapsedTimer uhr;
+    uhr.start();
+    Zeilen(5000);
+    fenster.Liste.wähle(4999);
+    fenster.Liste.wähle(2500);
+    abgleichen();
+    EXPECT_LT(uhr.elapsed(), 200);
+    EXPECT_EQ(liste.model()->rowCount(), 5000);
+    EXPECT_EQ(liste.currentIndex().row(), 2500);
+    EXPECT_EQ(fenster.listenklicks, 2);  // the two choices above and no echo
+    EXPECT_EQ(liste.indexAt(QPoint(5, 3)).row(), 2500) << "a line chosen from below comes to the top";
+    EXPECT_EQ(fenster.Liste.erste(), 2500);
+
+    liste.verticalScrollBar()->setValue(100);
+    EXPECT_EQ(fenster.Liste.erste(), 100);
+    fenster.Liste.erste(300);
+    abgleichen();
+    EXPECT_EQ(liste.verticalScrollBar()->value(), 300);
+}
+
+TEST_F(Desktop, ListClicksCountAlsoOnTheChosenLineAndTheRightButtonChoosesNothing) {
+    Zeilen(50);
+    auto& liste = widget<QListView>(fenster.Liste);
+    const QPoint dritte = liste.visualRect(liste.model()->index(3, 0)).center();
+    Klick(*liste.viewport(), dritte);
+    Klick(*liste.viewport(), dritte);
+    abgleichen();
+    EXPECT_EQ(fenster.Liste.gewählt(), 3);
+    EXPECT_EQ(fenster.listenklicks, 2);
+    int zeile = -7;
+    fenster.Liste.Rechtsklick.verbinden([&](int z) { zeile = z; });
+    Klick(*liste.viewport(), liste.visualRect(liste.model()->index(5, 0)).center(), Qt::RightButton);
+    EXPECT_EQ(zeile, 5);
+    EXPECT_EQ(fenster.Liste.gewählt(), 3);
+
+    Taste_auf(liste, Qt::Key_Down);
+    EXPECT_EQ(fenster.Liste.gewählt(), 4);
+    for (int i = 0; i < 30; ++i) {
+        Taste_auf(liste, Qt::Key_Down);
+        abgleichen();
+    }
+    const QRect gewählte = liste.visualRect(liste.model()->index(34, 0));
+    EXPECT_TRUE(liste.viewport()->rect().contains(gewählte)) << "the chosen line stays wholly in sight";
+}
+
+TEST_F(Desktop, ShrinkingLinesBetweenTwoPaintsReadEmpty) {
+    Zeilen(100);
+    auto& liste = widget<QListView>(fenster.Liste);
+    fenster.Liste.leeren();
+    EXPECT_EQ(liste.model()->index(99, 0).data().toString(), QString());
+    abgleichen();
+    EXPECT_EQ(liste.model()->rowCount(), 0);
+}
+
+TEST_F(Desktop, TypingReachesTheModelOnceAndProgramTextsDoNotComeBack) {
+    auto& zeile = widget<QLineEdit>(fenster.Suche);
+    Taste_auf(zeile, Qt::Key_A, QStringLiteral("ä"));
+    EXPECT_EQ(fenster.Suche.text(), "ä");
+    EXPECT_EQ(fenster.geändert, 1);
+    fenster.Suche.text("Programm");
+    abgleichen();
+    EXPECT_EQ(zeile.text(), QStringLiteral("Programm"));
+    EXPECT_EQ(fenster.geändert, 2);
+}
+
+TEST_F(Desktop, KeysGoToHandlersFirst) {
+    auto& zeile = widget<QLineEdit>(fenster.Suche);
+    std::vector<Taste::Art> gesehen;
+    fenster.Suche.Tastendruck.verbinden([&](Taste& taste) {
+        gesehen.push_back(taste.art);
+        taste.erledigt = taste.art == Taste::Art::Zeichen && taste.zeichen == "x";
+    });
+    Taste_auf(zeile, Qt::Key_X, QStringLiteral("x"));
+    Taste_auf(zeile, Qt::Key_Y, QStringLiteral("y"));
+    EXPECT_EQ(fenster.Suche.text(), "y");
+    Taste_auf(zeile, Qt::Key_Return, QStringLiteral("\r"));
+    EXPECT_EQ(fenster.ok, 1) << "Return presses the default button";
+    EXPECT_EQ(gesehen, (std::vector{Taste::Art::Zeichen, Taste::Art::Zeichen, Taste::Art::Return}));
+    int abbruch = 0;
+    fenster.Abbruch.Klick.verbinden([&] { ++abbruch; });
+    Taste_auf(zeile, Qt::Key_Escape);
+    EXPECT_EQ(abbruch, 1);
+}
+
+TEST_F(Desktop, SlidersAndCombosReportTheHandAlone) {
+    int gescrollt = 0, geändert = 0, wahl = 0;
+    fenster.Lautstärke.Gescrollt.verbinden([&] { ++gescrollt; });
+    fenster.Lautstärke.Geändert.verbinden([&] { ++geändert; });
+    fenster.Genre.Klick.verbinden([&] { ++wahl; });
+    fenster.Lautstärke.wert(10);
+    fenster.Genre.wähle(1);
+    abgleichen();
+    EXPECT_EQ(gescrollt, 0);
+    widget<QAbstractSlider>(fenster.Lautstärke).setValue(20);
+    EXPECT_EQ(fenster.Lautstärke.wert(), 20);
+    EXPECT_EQ(gescrollt, 1);
+    EXPECT_EQ(geändert, 2);
+    auto& combo = widget<QComboBox>(fenster.Genre);
+    EXPECT_EQ(combo.currentText(), QStringLiteral("Classic Rock"));
+    Taste_auf(combo, Qt::Key_Down);
+    EXPECT_EQ(fenster.Genre.gewählt(), 2);
+    EXPECT_EQ(wahl, 2);
+}
+
+TEST_F(Desktop, CloseBoxOnlyAsks) {
+    QWidget& w = *ansicht.maler().Widget(fenster);
+    EXPECT_FALSE(w.close());
+    EXPECT_FALSE(fenster.geladen()) << "the model unloads it";
+    abgleichen();
+    EXPECT_FALSE(w.isVisible());
+    fenster.Ok.beschriftung("verändert");
+    fenster.zeigen();
+    abgleichen();
+    EXPECT_TRUE(w.isVisible());
+    EXPECT_EQ(widget<QAbstractButton>(fenster.Ok).text(), QStringLiteral("OK")) << "start values are shown after a reload";
+}
+
+TEST_F(Desktop, SizeFollowsTheModelAndTheHand) {
+    QWidget& w = *ansicht.maler().Widget(fenster);
+    const int menü = w.findChild<QMenuBar*>()->height();
+    EXPECT_EQ(w.height() - menü, fenster.lage().höhe / 15);
+    w.resize(w.width() + 100, w.height() + 50);
+    ansicht.Ereignisse_laufen_lassen();
+    EXPECT_EQ(fenster.lage().breite / 15, w.width());
+    const int liste = widget<QWidget>(fenster.Liste).height();
+    EXPECT_EQ(liste, fenster.Liste.höhe() / 15);
+    w.resize(10, 10);
+    ansicht.Ereignisse_laufen_lassen();
+    EXPECT_GE(w.width() * 15, fenster.Mindestgröße().breite);
+}
+
+TEST_F(Desktop, MenusTriggerAndShowTheModelsMarks) {
+    auto* leiste = ansicht.maler().Widget(fenster)->findChild<QMenuBar*>();
+    QAction* ende = leiste->actions().at(0)->menu()->actions().at(0);
+    ende->trigger();
+    EXPECT_EQ(fenster.menüklicks, 1);
+    Menüpunkt& fett = fenster.menü_tabelle("Fett");
+    fett.haken(true);
+    Menüpunkt& datei = fenster.menü_tabelle("Datei");
+    datei.anfügen({"Neu", "Neu", 1, [] {}, {}});
+    abgleichen();
+    EXPECT_TRUE(leiste->actions().at(1)->menu()->actions().at(0)->isChecked());
+    EXPECT_EQ(leiste->actions().at(0)->menu()->actions().size(), 2);
+    datei.kürzen(1);
+    abgleichen();
+    EXPECT_EQ(leiste->actions().at(0)->menu()->actions().size(), 1);
+}
+
+TEST_F(Desktop, ModalWindowBlocksTheOthersUntilItIsHidden) {
+    Schaufenster zweites(ansicht);
+    int klicks_im_ersten = -1;
+    QTimer::singleShot(20, [&] {
+        Klick(widget<QWidget>(fenster.Ok));
+        klicks_im_ersten = fenster.ok;
+        Klick(widget<QWidget>(zweites.Ok));
+        zweites.verstecken();
+    });
+    zweites.zeigen_modal();
+    EXPECT_EQ(klicks_im_ersten, 0);
+    EXPECT_EQ(zweites.ok, 1);
+    Klick(widget<QWidget>(fenster.Ok));
+    EXPECT_EQ(fenster.ok, 1);
+}
+
+TEST_F(Desktop, TheEndLeavesNestedWaits) {
+    bool verlassen = false, danach = false;
+    QTimer::singleShot(0, [&] {
+        ansicht.ausführen([&] {
+            struct Abmeldung {
+                bool& b;
+                ~Abmeldung() { b = true; }
+            } const abmeldung{verlassen};
+            QTimer::singleShot(10, [&] { ansicht.beenden(); });
+            ansicht.warten_bis(fenster, [] { return false; });
+            danach = true;
+        });
+    });
+    ansicht.Hauptschleife();
+    EXPECT_TRUE(verlassen);
+    EXPECT_FALSE(danach);
+}
+
+TEST_F(Desktop, TimersRestWhileABoxIsUpAndFireOnceAfterwards) {
+    int ticks = 0, ticks_im_Kasten = -1;
+    Zeitgeber uhr(ansicht, [&] { ++ticks; });
+    uhr.stellen(5, true);
+    QTimer::singleShot(60, [&] {
+        ticks_im_Kasten = ticks;
+        QApplication::activeModalWidget()->close();
+    });
+    EXPECT_TRUE(ansicht.fragen("Frage", "Erste Zeile\r\rZweite", Antwort::Nein) == false);
+    EXPECT_EQ(ticks_im_Kasten, 0);
+    uhr.stellen(100000, uhr.aktiv());
+    EXPECT_EQ(ticks, 0);
+    uhr.stellen(5, true);
+    ansicht.warten_bis(fenster, [&] { return ticks >= 2; });
+}
+
+TEST_F(Desktop, AWindowThatDiesTakesItsWidgetsAlong) {
+    {
+        Schaufenster kurz(ansicht);
+        kurz.zeigen();
+        ansicht.Ereignisse_laufen_lassen();
+    }
+    ansicht.Ereignisse_laufen_lassen();
+    Klick(widget<QWidget>(fenster.Ok));
+    EXPECT_EQ(fenster.ok, 1);
+}
+
+TEST_F(Desktop, PicturesAreSaved) {
+    const char* gewünscht = std::getenv("TONKARTEI_BILDER");
+    const std::filesystem::path ordner =
+        gewünscht ? std::filesystem::path(gewünscht) : std::filesystem::temp_directory_path();
+    Zeilen(5000);
+    fenster.Liste.wähle(4);
+    const auto bild = ordner / "schaufenster.png";
+    ASSERT_TRUE(ansicht.maler().Bild_speichern(fenster, bild.string()));
+    EXPECT_GT(std::filesystem::file_size(bild), 5000U);
+    if (gewünscht == nullptr) std::filesystem::remove(bild);
+}
+
+TEST(Kästen, FiltersMatchWhateverTheCase) {
+    EXPECT_EQ(Namensfilter("WinAmp-Playlist (*.M3U)|*.M3U| Alle Dateien (*.*) |*.*").join(QLatin1Char('|')),
+              QStringLiteral("WinAmp-Playlist (*.M3U *.m3u)|Alle Dateien (*)"));
+}
+
+TEST(LaufzeitfehlerDeathTest, RuntimeErrorInAHandlerEndsTheProcess) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(
+        {
+            Ansicht_Qt ansicht;
+            Schaufenster fenster(ansicht);
+            fenster.zeigen();
+            ansicht.Ereignisse_laufen_lassen();
+            fenster.Ok.Klick.verbinden([&] { (void)fenster.Liste.zeile(0); });
+            QTimer::singleShot(20, [] { QApplication::activeModalWidget()->close(); });
+            Klick(*ansicht.maler().Widget(fenster.Ok));
+        },
+        testing::ExitedWithCode(1), "");
+}
+
+}  // namespace
+}  // namespace tonkartei
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    const tonkartei::Qt_Umgebung umgebung(argc, argv);
+    return RUN_ALL_TESTS();
+}
