@@ -14,9 +14,11 @@ if(TONKARTEI_SANITIZER)
   endif()
 endif()
 
-# tonkartei_raum(NAME FOLDER LIB...): all *.cpp of FOLDER (not of the folders below it) as library NAME.
+# tonkartei_raum(NAME FOLDER LIB...): all *.cpp of FOLDER (not of the folders below it) as library NAME; an entry point
+# (main.cpp) is left to its executable.
 function(tonkartei_raum name ordner)
   file(GLOB quellen CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${ordner}/*.cpp)
+  list(FILTER quellen EXCLUDE REGEX "/main\\.cpp$")
   if(quellen)
     add_library(${name} STATIC ${quellen})
     target_link_libraries(${name} PUBLIC tonkartei_optionen ${ARGN})

@@ -65,6 +65,8 @@ public:
     virtual void modal_laufen(Fenster& fenster) = 0;                         // until it is hidden
     virtual void Menü_zeigen(Menüpunkt& wurzel) = 0;                         // a pop-up menu at the mouse
     virtual void Zwischenablage_setzen(const Text& text) = 0;
+    // Whether the desktop has a place for a tray symbol, from which a hidden window can be brought back.
+    virtual bool Tray_da() const { return true; }
     // A progress window that has run to its end.
     virtual void Fortschritt_beendet(const Text& text, int prozent);
 

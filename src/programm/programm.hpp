@@ -20,8 +20,9 @@ public:
     // `Ansicht::endet`. To be called under `Ansicht::ausführen`.
     void starten();
 
-private:
     struct Teile;
+
+private:
     std::unique_ptr<Teile> teile_;
 };
 

@@ -1,0 +1,78 @@
+// All parts of the program in the order in which they need each other.
+#pragma once
+
+#include "datenbank/datenbank_oeffnen.hpp"
+#include "datenbank/einstellungsspeicher.hpp"
+#include "datenbank/fortschritt.hpp"
+#include "datenbank/info_datei.hpp"
+#include "datenbank/sitzung.hpp"
+#include "datenbank/zugriffsdatei.hpp"
+#include "kategorien/kategorie_wahl.hpp"
+#include "lieder/dateien_uebernehmen.hpp"
+#include "lieder/lieder_eintragen.hpp"
+#include "lieder/lieder_hinzufuegen.hpp"
+#include "lieder/lieder_uebernahme.hpp"
+#include "lieder/neue_lieder_liste.hpp"
+#include "lieder/verzeichnis_add.hpp"
+#include "mp3/mp3_taghead.hpp"
+#include "plattform/kanaele.hpp"
+#include "programm/programm.hpp"
+#include "programm/splash.hpp"
+#include "programm/startparameter.hpp"
+#include "programm/tonkartei.hpp"
+#include "wiedergabe/wiedergabe.hpp"
+
+namespace tonkartei {
+
+struct Programm::Teile {
+    Teile(const Plattform& p, Ansicht& a, const Text& Kommandozeile);
+
+    // The start sequence's steps.
+    void starten();
+    // Reads the settings and brings the menu's marks and the controls that mirror a setting in line with them.
+    void Einstellungen_setzen();
+
+    Plattform plattform;
+    Ansicht& ansicht;
+    Startparameter parameter;
+    // The end of the program writes the settings. Off after a start that was given up, and after Uninstall.
+    bool Einstellungen_werden_geschrieben = true;
+
+    Modell modell;
+    Einstellungen einstellungen;
+    Registry registry{plattform.Registrierung};
+    Kanäle kanäle{plattform.Dateisystem};
+    MP3_TagHead taghead{plattform.Dateisystem};
+
+    Fortschritts_Fenster fortschritt{ansicht};
+    Info_Datei info{modell, kanäle, plattform.Dateisystem, ansicht, fortschritt};
+    Zugriffsdatei zugriff{modell, kanäle, plattform.Rechner, ansicht};
+    Sitzung sitzung{modell, einstellungen, info, zugriff, plattform, ansicht};
+    Datenbank_öffnen datenbank_öffnen{ansicht, einstellungen, plattform.Dateisystem};
+    Kategorie_Wahl kategorie_wahl{ansicht, modell};
+
+    Wiedergabe wiedergabe{modell, einstellungen, plattform, kanäle, ansicht};
+    Tonkartei fenster{ansicht, modell, einstellungen, wiedergabe.Zählung};
+    Splash splash{ansicht, modell, einstellungen, sitzung, kanäle, plattform};
+
+    Dateien_übernehmen dateien_übernehmen{modell, plattform.Dateisystem, plattform.Shell, taghead, fortschritt};
+    Lieder_eintragen lieder_eintragen{modell, taghead, kategorie_wahl};
+    Lieder_Übernahme übernahme{ansicht, modell, plattform.Dateisystem, dateien_übernehmen, lieder_eintragen};
+    Verzeichnis_add verzeichnis_add{ansicht, plattform.Dateisystem, einstellungen};
+    neue_Lieder_Liste neue_Lieder{ansicht, plattform.Dateisystem, taghead, fortschritt, übernahme};
+    // What the menu's handlers work with, kept for as long as the menu.
+    std::shared_ptr<void> menübefehle;
+
+    Lieder_hinzufügen hinzufügen{modell, plattform.Dateisystem, einstellungen, verzeichnis_add, neue_Lieder};
+
+private:
+    void verbinden();
+    void Menüs_nachführen();
+    bool darf_schließen(Schließgrund grund);
+    void wird_geschlossen();
+};
+
+// The main menu: names, captions and what each entry does. An entry without a command is disabled.
+std::vector<Menüzeile> Hauptmenü_Tabelle(Programm::Teile& teile);
+
+}  // namespace tonkartei

@@ -1,0 +1,123 @@
+#include "programm/tonkartei.hpp"
+
+#include "datenbank/version.hpp"
+#include "oberflaeche/ansicht.hpp"
+#include "programm/startparameter.hpp"
+
+namespace tonkartei {
+
+Tonkartei::Tonkartei(Ansicht& ansicht, Modell& modell, Einstellungen& einstellungen, Spielzählung& zählung)
+    : Fenster(ansicht, "Tonkartei", Programmtitel),
+      Kategorien(*this, modell, einstellungen),
+      Lieder(*this, modell, einstellungen, Kategorien),
+      Wiedergabe(*this, zählung),
+      modell_(modell),
+      einstellungen_(einstellungen) {
+    Datenbank.tooltip("Die zuletzt geöffneten Datenbanken, die erste ist die geöffnete");
+    Datenbank.Klick.verbinden([this] {
+        if (füllt_Liste_ || Datenbank.gewählt() < 0) return;
+        const Text pfad = Datenbank.gewählter_Text();
+        Datenbank_gewählt(pfad);
+        Datenbank_Liste_zeigen();
+    });
+    SysTray.Klick.verbinden([this] { hervorholen(); });
+
+    Kategorien.angezeigtes_Lied = [this] { return Lieder.angezeigtes_Lied(); };
+    Kategorien.Auswahl_geändert.verbinden([this] { Lieder.aktualisiere_Liste(); });
+    Kategorien.Suche_fokussieren.verbinden([this] { Lieder.Schnellsuche_fokussieren(); });
+    Wiedergabe.gewähltes_Lied = [this] { return Lieder.gewähltes_Lied(); };
+    Lieder.Start_gewünscht.verbinden([this] { Wiedergabe.Lied_starten.Klick(); });
+}
+
+void Tonkartei::Menü_anlegen(const std::vector<Menüzeile>& tabelle) {
+    hauptmenü_ = std::make_unique<Menü>(*this, tabelle);
+    Menü_setzen(*hauptmenü_);
+}
+
+Knoten Tonkartei::anordnung() {
+    return Spalte(
+               {Zeile({Datenbank_Text, Knoten(Datenbank).dehnen(1)}),
+                Zeile({Lieder.Listenknoten(), Spalte({Lieder.Liedknoten(Kategorien.Lied_Kategorie), Kategorien.anordnung(),
+                                                      Feder(0, 1), Gruppe(Wiedergabe_Rahmen, Wiedergabe.anordnung())})})
+                    .dehnen(1, 1)})
+        .rand(120);
+}
+
+void Tonkartei::beim_Laden() {
+    SysTray.tooltip(Programmtitel);
+    Lieder.freie_Lage();
+    if (wurde_geladen) wurde_geladen();
+}
+
+void Tonkartei::platzieren(const Startparameter& parameter) {
+    const Größe schirm = ansicht().Bildschirm();
+    const bool minimiert_starten = parameter.hat("M");
+    const bool zentriert_starten = parameter.hat("Z");
+    const int x = einstellungen_.PositionX, y = einstellungen_.PositionY;
+    if (minimiert_starten && einstellungen_.Position_merken) bewegen(x, y);
+    if (zentriert_starten) zentrieren();
+    if (!minimiert_starten && !zentriert_starten) {
+        const bool auf_dem_Schirm = x >= 0 && y >= 0 && static_cast<long long>(x) + lage().breite <= schirm.breite &&
+                                    static_cast<long long>(y) + lage().höhe <= schirm.höhe;
+        if (einstellungen_.Position_merken && auf_dem_Schirm)
+            bewegen(x, y);
+        else
+            zentrieren();
+    }
+    if (minimiert_starten) zustand(Fensterzustand::minimiert);
+}
+
+void Tonkartei::Datenbank_Liste_zeigen() {
+    füllt_Liste_ = true;
+    std::vector<Text> zeilen;
+    for (int i = 1; i <= einstellungen_.Datenbank_Liste_Anzahl; ++i) zeilen.push_back(einstellungen_.Datenbank_Liste[i]);
+    Datenbank.setzen(std::move(zeilen));
+    if (Datenbank.Anzahl() > 0) Datenbank.wähle(0);
+    füllt_Liste_ = false;
+}
+
+void Tonkartei::Datenbank_geladen(bool Startkategorien_setzen) {
+    vor_dem_Zeigen();
+    Tray_nachführen();
+    Kategorien.Anz_Kat_Schemas_setzen(modell_.Anz_Kat_Schemas);
+    Hauptmenü().nur_Haken("Anz_Kat_Schemas", modell_.Anz_Kat_Schemas, 0, Schemas_maximal);
+    Datenbank_Liste_zeigen();
+    Kategorien.aktualisiere_Kategorie_List(Startkategorien_setzen);
+    Lieder.Sicht_zurücksetzen();
+    zeigen();
+    Tray_nachführen();
+    if (Lieder.Schnellsuche.bedienbar()) ansicht().fokus(Lieder.Schnellsuche);
+}
+
+void Tonkartei::Tray_nachführen() {
+    const bool klein = zustand() == Fensterzustand::minimiert;
+    if (einstellungen_.Systray_immer_sichtbar)
+        SysTray.sichtbar(true);
+    else
+        SysTray.sichtbar(einstellungen_.Fenster_minimieren > 1 && klein);
+    // Without a tray on the desktop a hidden window could not be brought back.
+    if (klein && einstellungen_.Fenster_minimieren == 2 && ansicht().Tray_da()) verstecken();
+}
+
+void Tonkartei::hervorholen() {
+    zustand(Fensterzustand::normal);
+    zeigen();
+}
+
+void Tonkartei::bei_neuer_Größe() {
+    Lieder.freie_Lage();
+    Tray_nachführen();
+}
+
+void Tonkartei::bei_neuem_Zustand() {
+    Tray_nachführen();
+    minimiert(zustand() == Fensterzustand::minimiert);
+}
+
+bool Tonkartei::beim_Schließen(Schließgrund grund) { return !darf_schließen || darf_schließen(grund); }
+
+void Tonkartei::beim_Entladen() {
+    if (wird_geschlossen) wird_geschlossen();
+}
+
+}  // namespace tonkartei
