@@ -27,6 +27,7 @@ struct Schaufenster : Fenster {
         Pop.farbe(RGB(192, 0, 0));
         Rot.hintergrund(RGB(255, 220, 220));
         Genre.setzen({"Blues", "Classic Rock", "Jazz", "Übermäßig lange Bezeichnung eines Genres"});
+        Genre.wähle(1);
         Ok.Klick.verbinden([this] { ++ok; });
         Suche.Geändert.verbinden([this] { ++geändert; });
         Liste.Klick.verbinden([this] { ++listenklicks; });
@@ -39,13 +40,14 @@ struct Schaufenster : Fenster {
 
     Knoten anordnung() override {
         return Spalte({
-                          Zeile({Symbol, Spalte({Überschrift, Zeile({Lied_Titel, Dauer}).dehnen(1)}).dehnen(1)}),
+                          Zeile({Symbol, Spalte({Überschrift, Zeile({Knoten(Lied_Titel).dehnen(1), Dauer})}).dehnen(1)}),
                           Modus,
-                          Zeile({Spalte({Liste, Zeile({Suche_Schrift, Suche})}).dehnen(1, 1),
+                          Zeile({Spalte({Knoten(Liste).dehnen(1, 1), Zeile({Suche_Schrift, Knoten(Suche).dehnen(1)})})
+                                     .dehnen(1, 1),
                                  Spalte({Gruppe(Kategorien, Gitter(2, {Rock, Pop, Klassik, Gesperrter_Kasten})),
                                          Gruppe(Sortierung, Zeile({nach_Titel, nach_Artist})), Zeile({Genre_Schrift, Genre}),
-                                         Gruppe(Panel, Spalte({Zeile({Play, Pause, Stop, Vor, Feder(1)}),
-                                                               Zeile({Lautstärke}), Zeile({Bildlauf})})),
+                                         Gruppe(Panel,
+                                                Spalte({Zeile({Play, Pause, Stop, Vor, Feder(1)}), Lautstärke, Bildlauf})),
                                          Hinweis, Fortschritt, Feder(0, 1)})})
                               .dehnen(1, 1),
                           Zeile({Feder(1), Rot, Gesperrt, Ok, Abbruch}),

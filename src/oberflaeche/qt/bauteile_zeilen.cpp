@@ -10,6 +10,7 @@
 #include "oberflaeche/qt/fensterwidget.hpp"
 #include "oberflaeche/qt/masse.hpp"
 #include "oberflaeche/qt/umrechnung.hpp"
+#include "oberflaeche/qt/widgets.hpp"
 #include "oberflaeche/qt/zeilenmodell.hpp"
 
 namespace tonkartei {
@@ -118,10 +119,7 @@ private:
 class Reiter_Bauteil : public Bauteil {
 public:
     Reiter_Bauteil(Umfeld& umfeld, Fensterwidget& fenster, Reiter& reiter)
-        : Bauteil(umfeld, fenster, reiter), reiter_(reiter), leiste_(new QTabBar) {
-        leiste_->setExpanding(false);
-        leiste_->setDrawBase(true);
-        leiste_->setUsesScrollButtons(false);
+        : Bauteil(umfeld, fenster, reiter), reiter_(reiter), leiste_(new Reiterbild) {
         for (const Text& tab : reiter.tabs()) leiste_->addTab(Anzeigetext(tab));
         aufnehmen(leiste_);
         QObject::connect(leiste_, &QTabBar::currentChanged, this, [this](int tab) {

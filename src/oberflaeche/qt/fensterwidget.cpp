@@ -228,7 +228,7 @@ void Fensterwidget::Sichtbarkeit_zeigen() {
     const bool vorn = !reihe.empty() && reihe.front() == &fenster_;
     if (vorn && (neu || umfeld_.vorderstes != &fenster_) && !minimiert) {
         umfeld_.vorderstes = &fenster_;
-        raise();
+        if (umfeld_.stapelt) raise();
         activateWindow();
     }
 }

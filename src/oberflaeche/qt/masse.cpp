@@ -9,7 +9,6 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QSlider>
-#include <QTabBar>
 #include <QToolButton>
 #include <algorithm>
 #include <unordered_map>
@@ -112,9 +111,7 @@ struct Maße::Innen {
                 return regler.senkrecht ? QSize(dicke, 100) : QSize(100, dicke);
             }
             case Elementart::Reiter: {
-                QTabBar leiste;
-                leiste.setExpanding(false);
-                leiste.setUsesScrollButtons(false);
+                Reiterbild leiste;
                 leiste.setFont(font);
                 for (const Text& tab : static_cast<const Reiter&>(e).tabs()) leiste.addTab(Anzeigetext(tab));
                 return leiste.sizeHint();

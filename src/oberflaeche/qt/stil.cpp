@@ -261,6 +261,7 @@ int Stil::pixelMetric(PixelMetric was, const QStyleOption* option, const QWidget
         case PM_IndicatorHeight:
         case PM_ExclusiveIndicatorWidth:
         case PM_ExclusiveIndicatorHeight: return 14;
+        case PM_FocusFrameHMargin: return 5;
         case PM_TabBarTabHSpace: return 26;
         case PM_TabBarTabVSpace: return 10;
         case PM_TabBarTabShiftVertical:

@@ -1,11 +1,13 @@
 #include "oberflaeche/qt/umfeld.hpp"
 
+#include <QGuiApplication>
+
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/qt/fensterwidget.hpp"
 
 namespace tonkartei {
 
-Umfeld::Umfeld(Ansicht& a) : ansicht(a) {}
+Umfeld::Umfeld(Ansicht& a) : ansicht(a), stapelt(QGuiApplication::platformName() != QLatin1String("offscreen")) {}
 
 Umfeld::~Umfeld() = default;
 

@@ -27,6 +27,8 @@ struct Umfeld {
     // The drag under way: its source, and where it was dropped.
     Element* gezogen = nullptr;
     Element* gezogen_auf = nullptr;
+    // The platform has windows lying on each other.
+    const bool stapelt;
     // The window last brought to the front on the screen.
     const Fenster* vorderstes = nullptr;
 

@@ -79,6 +79,17 @@ void Rahmenbild::paintEvent(QPaintEvent*) {
     Tafel_malen(maler, QRectF(tafel), grund, QColor::fromRgb(mit_Titel ? Ton::Linie_zart : Ton::Linie), mit_Titel ? 5 : 3);
 }
 
+Reiterbild::Reiterbild(QWidget* eltern) : QTabBar(eltern) {
+    setExpanding(false);
+    setDrawBase(false);
+    setUsesScrollButtons(false);
+}
+
+void Reiterbild::paintEvent(QPaintEvent* was) {
+    QPainter(this).fillRect(0, height() - 1, width(), 1, QColor::fromRgb(Ton::Linie));
+    QTabBar::paintEvent(was);
+}
+
 void Bildwidget::Name(const Text& name) {
     if (name_ == name) return;
     name_ = name;

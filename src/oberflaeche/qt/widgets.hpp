@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMargins>
 #include <QRadioButton>
+#include <QTabBar>
 
 #include "grundlagen/text.hpp"
 
@@ -60,6 +61,15 @@ public:
 
     // What the border takes from the inside.
     static QMargins ränder(bool mit_Titel, bool deckend, int titelhöhe);
+
+protected:
+    void paintEvent(QPaintEvent* was) override;
+};
+
+// Tab strip on a line that runs on behind the last tab.
+class Reiterbild : public QTabBar {
+public:
+    explicit Reiterbild(QWidget* eltern = nullptr);
 
 protected:
     void paintEvent(QPaintEvent* was) override;
