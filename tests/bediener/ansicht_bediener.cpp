@@ -72,7 +72,13 @@ struct Ansicht_Bediener::Aufenthalt {
     Ansicht_Bediener& ansicht;
 };
 
-// --- loops -----------------------------------------------------------------------------------------------------------------
+void Ansicht_Bediener::Maler_setzen(Fenstermaler& maler, std::function<void()> pumpen) {
+    maler_ = &maler;
+    pumpen_ = std::move(pumpen);
+}
+
+// --- loops
+// -----------------------------------------------------------------------------------------------------------------
 
 void Ansicht_Bediener::Hauptschleife() {
     while (!endet()) Schritt();
@@ -117,10 +123,10 @@ void Ansicht_Bediener::Schritt() {
     if (rest <= 0) return vergehen_bis_.reset();
     if (echt) {
         if (const auto fällig = zeitplan_.nächste_Fälligkeit()) rest = std::min(rest, *fällig - t_.uhr.jetzt());
-        if (t_.pumpen) rest = std::min(rest, Malpause);
+        if (pumpen_) rest = std::min(rest, Malpause);
     }
     t_.uhr.vor(std::max<std::int64_t>(1, rest));
-    if (t_.pumpen) t_.pumpen();
+    if (pumpen_) pumpen_();
 }
 
 // Runs the next timer that is due by then; false when there is none.
@@ -158,7 +164,7 @@ void Ansicht_Bediener::vergehen(std::int64_t ms) {
 void Ansicht_Bediener::Ereignisse_laufen_lassen() {
     if (endet()) throw Programmende{};
     Runde();
-    if (t_.pumpen) t_.pumpen();
+    if (pumpen_) pumpen_();
     for (std::size_t anzahl = vorgemerkt_.size(); anzahl > 0 && !vorgemerkt_.empty(); --anzahl) {
         const Text zeile = std::move(vorgemerkt_.front());
         vorgemerkt_.pop_front();
@@ -176,7 +182,8 @@ void Ansicht_Bediener::Runde() {
     abbrechen(Status_hängt);
 }
 
-// --- lines -----------------------------------------------------------------------------------------------------------------
+// --- lines
+// -----------------------------------------------------------------------------------------------------------------
 
 void Ansicht_Bediener::bereit_melden() {
     if (!Antwort_schuldig_) return;
@@ -191,9 +198,9 @@ void Ansicht_Bediener::bereit_melden() {
 }
 
 void Ansicht_Bediener::Zeile_abwarten() {
-    if (t_.pumpen) t_.pumpen();
+    if (pumpen_) pumpen_();
     bereit_melden();
-    std::int64_t frist = t_.pumpen ? Malpause : -1;
+    std::int64_t frist = pumpen_ ? Malpause : -1;
     const bool mit_Zeit = t_.uhr.läuft_von_selbst() && !Stand().ist_Feld();
     if (mit_Zeit) {
         // One timer a step, so that the loop around sees what it has done.
@@ -235,7 +242,8 @@ void Ansicht_Bediener::an_Laufzeitfehler_enden(const Laufzeitfehler& fehler) {
     abbrechen(1);
 }
 
-// --- boxes -----------------------------------------------------------------------------------------------------------------
+// --- boxes
+// -----------------------------------------------------------------------------------------------------------------
 
 Antwort Ansicht_Bediener::melden(const Meldungsfeld& feld) {
     std::vector<Text> knöpfe;

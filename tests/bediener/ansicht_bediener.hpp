@@ -1,5 +1,5 @@
-// The view whose event loop is the reading of command lines. Wherever the program waits - in its main loop, in a dialog, in a
-// box - the view replies to the last line and reads the next one; a command that opens a box is answered from within.
+// The view whose event loop is the reading of command lines. Wherever the program waits - in its main loop, in a dialog, in
+// a box - the view replies to the last line and reads the next one; a command that opens a box is answered from within.
 #pragma once
 
 #include <cstdint>
@@ -20,8 +20,8 @@ struct Wartestand {
     enum class Art { Schleife, Fenster, Meldung, Eingabe, Ordner, Datei, Farbwahl };
 
     Art art = Art::Schleife;
-    const Fenster* fenster = nullptr;     // Fenster: the dialog
-    const Meldungsfeld* feld = nullptr;   // Meldung
+    const Fenster* fenster = nullptr;      // Fenster: the dialog
+    const Meldungsfeld* feld = nullptr;    // Meldung
     const Dateiwahl* dateiwahl = nullptr;  // Datei
 
     // A box is left once this is set; the value is where the kind says.
@@ -54,14 +54,13 @@ public:
     struct Teile {
         Leitung& leitung;
         Uhrwerk& uhr;
-        Fenstermaler& maler;
-        // Lets a toolkit catch up; may be empty.
-        std::function<void()> pumpen;
         // Ends the process as it stands.
         std::function<void(int)> abbrechen;
     };
 
     explicit Ansicht_Bediener(Teile teile) : t_(std::move(teile)) {}
+    // Before the first window is loaded; a painter may need the view, so it comes later than it.
+    void Maler_setzen(Fenstermaler& maler, std::function<void()> pumpen = {});
 
     // Does one line; Befehlsfehler when it cannot be done.
     std::function<void(const Text&)> Befehl;
@@ -81,28 +80,29 @@ public:
     const Text& Zwischenablage() const noexcept { return zwischenablage_; }
     [[noreturn]] void abbrechen(int status);
 
-    // --- Ansicht -----------------------------------------------------------------------------------------------------------
+    // --- Ansicht
+    // -----------------------------------------------------------------------------------------------------------
     Antwort melden(const Meldungsfeld& feld) override;
     Text eingeben(const Text& text, const Text& titel, const Text& vorgabe) override;
     Text Verzeichnis_wählen(const Text& titel) override;
     Text Datei_wählen(const Dateiwahl& wahl) override;
     std::optional<Farbe> Farbe_wählen(Farbe vorgabe) override;
 
-    void Fenster_geändert(Fenster& fenster) override { t_.maler.Fenster_geändert(fenster); }
-    void Element_geändert(Element& element, unsigned änderung) override { t_.maler.Element_geändert(element, änderung); }
-    void Fenster_malen(Fenster& fenster) override { t_.maler.Fenster_malen(fenster); }
-    void Fenster_verschwindet(Fenster& fenster) override { t_.maler.Fenster_verschwindet(fenster); }
+    void Fenster_geändert(Fenster& fenster) override { maler_->Fenster_geändert(fenster); }
+    void Element_geändert(Element& element, unsigned änderung) override { maler_->Element_geändert(element, änderung); }
+    void Fenster_malen(Fenster& fenster) override { maler_->Fenster_malen(fenster); }
+    void Fenster_verschwindet(Fenster& fenster) override { maler_->Fenster_verschwindet(fenster); }
     void modal_laufen(Fenster& fenster) override;
     void Menü_zeigen(Menüpunkt& wurzel) override;
     void Zwischenablage_setzen(const Text& text) override { zwischenablage_ = text; }
     void Fortschritt_beendet(const Text& text, int prozent) override;
 
-    int Textbreite(const Text& text, int punkte) const override { return t_.maler.Textbreite(text, punkte); }
-    int Texthöhe(int punkte) const override { return t_.maler.Texthöhe(punkte); }
-    Größe Wunschgröße(const Element& element) const override { return t_.maler.Wunschgröße(element); }
-    Größe Bildschirm() const override { return t_.maler.Bildschirm(); }
-    Bereich Rahmenrand(const Element& rahmen) const override { return t_.maler.Rahmenrand(rahmen); }
-    int Zeilenhöhe(int punkte) const override { return t_.maler.Zeilenhöhe(punkte); }
+    int Textbreite(const Text& text, int punkte) const override { return maler_->Textbreite(text, punkte); }
+    int Texthöhe(int punkte) const override { return maler_->Texthöhe(punkte); }
+    Größe Wunschgröße(const Element& element) const override { return maler_->Wunschgröße(element); }
+    Größe Bildschirm() const override { return maler_->Bildschirm(); }
+    Bereich Rahmenrand(const Element& rahmen) const override { return maler_->Rahmenrand(rahmen); }
+    int Zeilenhöhe(int punkte) const override { return maler_->Zeilenhöhe(punkte); }
 
     void Ereignisse_laufen_lassen() override;
     void warten_bis(Fenster& fenster, const std::function<bool()>& bedingung) override;
@@ -111,7 +111,7 @@ public:
     [[noreturn]] void an_Laufzeitfehler_enden(const Laufzeitfehler& fehler) override;
 
 protected:
-    void Fokus_zeigen(Element& element) override { t_.maler.Fokus_zeigen(element); }
+    void Fokus_zeigen(Element& element) override { maler_->Fokus_zeigen(element); }
 
 private:
     struct Aufenthalt;
@@ -126,6 +126,8 @@ private:
     void Runde();
 
     Teile t_;
+    Fenstermaler* maler_ = nullptr;
+    std::function<void()> pumpen_;  // lets a toolkit catch up; empty without one
     Zeitplan zeitplan_;
     Wartestand Grundstand_;
     std::vector<Wartestand*> stände_;

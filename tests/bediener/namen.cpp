@@ -79,8 +79,7 @@ void sichtbar_prüfen(const Ansicht& ansicht, Element& element) {
     }
     if (element.art() == Elementart::Menü && fenster.Name() == Kontextmenüs) return;
     bedienbar_prüfen(ansicht, fenster);
-    if (fenster.zustand() == Fensterzustand::minimiert)
-        throw Befehlsfehler("das Fenster ist minimiert: " + fenster.Name());
+    if (fenster.zustand() == Fensterzustand::minimiert) throw Befehlsfehler("das Fenster ist minimiert: " + fenster.Name());
     if (element.art() != Elementart::Menü && !element.zu_sehen())
         throw Befehlsfehler("das Element ist nicht zu sehen: " + element.voller_Name());
 }

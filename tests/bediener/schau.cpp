@@ -91,9 +91,7 @@ void Wert_beschreiben(Json::Objekt& ziel, const Element& element) {
             ziel.mit("text", einheitliche_Umbrüche(element.beschriftung()));
             ziel.mit("bild", static_cast<const Knopf&>(element).Bild);
             break;
-        case Elementart::Fläche:
-            ziel.mit("bild", static_cast<const Bildfläche&>(element).Bild).roh("linien", "[]");
-            break;
+        case Elementart::Fläche: ziel.mit("bild", static_cast<const Bildfläche&>(element).Bild).roh("linien", "[]"); break;
         default: ziel.mit("text", einheitliche_Umbrüche(element.beschriftung())); break;
     }
 }

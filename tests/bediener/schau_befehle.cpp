@@ -56,7 +56,7 @@ Text Spieler_beschreiben(const Spielerauskunft& s) {
 Text Menü_beschreiben(const Ansicht& ansicht, const Text& name) {
     if (name.empty()) {
         for (const Fenster* fenster : ansicht.alle_Fenster())
-            if (fenster->geladen() && fenster->menü() != nullptr && fenster->sichtbar())
+            if (fenster->geladen() && fenster->menü() != nullptr && fenster->Name() != "Kontextmenüs")
                 return Menübaum(fenster->menü()->einträge());
         throw Befehlsfehler("kein Fenster hat ein Menü");
     }

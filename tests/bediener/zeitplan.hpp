@@ -16,8 +16,8 @@ public:
     void entfernen(const Zeitgeber& zeitgeber);
     // When the next one is due; none without timers.
     std::optional<std::int64_t> nächste_Fälligkeit() const;
-    // Takes the next one that is due by then, and arms it anew: one period after `jetzt`, or after its due time where that is
-    // later. Null when there is none.
+    // Takes the next one that is due by then, and arms it anew: one period after `jetzt`, or after its due time where that
+    // is later. Null when there is none.
     Zeitgeber* nehmen(std::int64_t fällig_bis, std::int64_t jetzt);
 
 private:

@@ -1,0 +1,115 @@
+#include "bediener/bedienung.hpp"
+
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <stdexcept>
+
+#include "bediener/ansicht_bediener.hpp"
+#include "bediener/befehle.hpp"
+#include "bediener/json.hpp"
+#include "bediener/malstube.hpp"
+#include "bediener/maschine.hpp"
+#include "bediener/optionen.hpp"
+#include "plattform/dateisystem.hpp"
+
+namespace tonkartei {
+namespace {
+
+// Free for tests to tell from the others: neither an orderly end nor a run-time error.
+constexpr int Status_Absturz = 9;
+constexpr int Status_Aufruf = 2;
+
+// The scratch folder; a fresh one goes away with the process, however that ends.
+class Wurzel {
+public:
+    explicit Wurzel(const std::optional<Text>& gewünscht) : behalten_(gewünscht.has_value()) {
+        if (gewünscht) {
+            std::filesystem::create_directories(*gewünscht);
+            pfad_ = std::filesystem::canonical(*gewünscht).string();
+        } else {
+            Text muster = (std::filesystem::temp_directory_path() / "tonkartei-bediener-XXXXXX").string();
+            if (mkdtemp(muster.data()) == nullptr) throw std::runtime_error("no temporary folder");
+            pfad_ = muster;
+        }
+    }
+    ~Wurzel() { aufräumen(); }
+    Wurzel(const Wurzel&) = delete;
+    Wurzel& operator=(const Wurzel&) = delete;
+
+    Text pfad() const { return mit_Trenner(pfad_); }
+    void aufräumen() const {
+        std::error_code fehler;
+        if (!behalten_) std::filesystem::remove_all(pfad_, fehler);
+    }
+
+private:
+    bool behalten_;
+    Text pfad_;
+};
+
+void Zeile_ausführen(const Befehlstafel& tafel, const Text& zeile) {
+    Befehlszeile z(zeile.ends_with('\r') ? zeile.substr(0, zeile.size() - 1) : zeile);
+    if (!z.mehr()) throw Befehlsfehler("eine leere Zeile");
+    const Text wort = z.nächstes("Befehl");
+    const auto befehl = tafel.find(wort);
+    if (befehl == tafel.end()) throw Befehlsfehler("kein solcher Befehl: " + wort);
+    befehl->second(z);
+}
+
+}  // namespace
+
+int bedienen(int argc, char** argv, const Bauplan& bauplan) {
+    Optionen optionen;
+    try {
+        optionen = Optionen_lesen({argv + 1, argv + argc});
+    } catch (const std::invalid_argument& fehler) {
+        std::fprintf(stderr, "%s: %s\n", argv[0], fehler.what());
+        return Status_Aufruf;
+    }
+    const Wurzel wurzel(optionen.wurzel);
+    const auto abbrechen = [&wurzel](int status) {
+        wurzel.aufräumen();
+        std::fflush(nullptr);
+        _exit(status);
+    };
+
+    Maschinenwahl wahl;
+    wahl.echt = optionen.echt;
+    wahl.wurzel = wurzel.pfad();
+    wahl.ordner = optionen.ordner;
+    wahl.uhr = optionen.uhr;
+    wahl.zweite_Instanz = optionen.zweite_Instanz;
+    wahl.abstürzen = [abbrechen] { abbrechen(Status_Absturz); };
+    const auto maschine = Maschine_bauen(wahl);
+    for (const auto& [schlüssel, wert] : optionen.einstellungen) maschine->Einstellung_setzen(schlüssel, wert, false);
+
+    Leitung leitung;
+    Ansicht_Bediener ansicht({leitung, maschine->uhr(), abbrechen});
+    const auto stube = optionen.qt ? Malstube_Qt(ansicht, argv[0]) : Malstube_ohne();
+    ansicht.Maler_setzen(stube->maler(), stube->pumpen());
+    maschine->Ansicht_setzen(ansicht);
+
+    Befehlstafel tafel;
+    Handbefehle_eintragen(tafel, ansicht);
+    Antwortbefehle_eintragen(tafel, ansicht, *maschine);
+    Schaubefehle_eintragen(tafel, ansicht, *maschine, stube->bild());
+    Szenenbefehle_eintragen(tafel, ansicht, *maschine);
+    ansicht.Befehl = [&tafel](const Text& zeile) { Zeile_ausführen(tafel, zeile); };
+
+    {
+        std::unique_ptr<Bedientes> programm;
+        ansicht.von_Hand([&] {
+            programm = bauplan(maschine->plattform(), ansicht, optionen.parameter);
+            programm->starten();
+        });
+        ansicht.Hauptschleife();
+    }
+    ansicht.ausgeben(Json::Objekt().mit("ereignis", "ende").text());
+    ansicht.ausgeben(Json::Objekt().mit("bereit", "ende").text());
+    return 0;
+}
+
+}  // namespace tonkartei
