@@ -1,0 +1,178 @@
+// The room of adding songs on a real disk, with a user who follows a script and writes everything down.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <utime.h>
+
+#include <deque>
+#include <functional>
+#include <vector>
+
+#include "lieder/lieder_hinzufuegen.hpp"
+#include "mp3/bausteine.hpp"
+#include "oberflaeche/ansicht.hpp"
+#include "oberflaeche/hand.hpp"
+#include "plattform/linux/dateisystem_linux.hpp"
+#include "plattform/linux/shell_linux.hpp"
+#include "testordner.hpp"
+
+namespace tonkartei {
+
+class Drehbuch : public Ansicht {
+public:
+    std::deque<Antwort> Antworten;     // to questions, in order
+    std::deque<int> Kategorien;        // clicks on Kategorie_Wahl
+    std::function<void()> Handgriffe;  // what the hand does in a window that waits or is modal
+    Text Verzeichnis;                  // chosen in the folder browser
+    std::vector<Text> Ablauf;          // boxes as "title: text", what was asked, what was called
+    std::vector<Text> Fortschritte;
+
+    Antwort melden(const Meldungsfeld& feld) override {
+        Ablauf.push_back(feld.titel + ": " + feld.text);
+        if (feld.knöpfe == Meldungsfeld::Knöpfe::OK) return Antwort::OK;
+        EXPECT_FALSE(Antworten.empty()) << feld.text;
+        if (Antworten.empty()) return Antwort::Nein;
+        const Antwort antwort = Antworten.front();
+        Antworten.pop_front();
+        return antwort;
+    }
+    void warten_bis(Fenster& fenster, const std::function<bool()>& bedingung) override {
+        if (auto* wahl = dynamic_cast<Kategorie_Wahl*>(&fenster)) {
+            Ablauf.push_back("Kategorie: " + wahl->Artist.beschriftung() + " - " + wahl->Titel.beschriftung());
+            ASSERT_FALSE(Kategorien.empty());
+            Hand::wählen(wahl->Liste, Kategorien.front() - 1);
+            Kategorien.pop_front();
+        } else if (Handgriffe) {
+            Handgriffe();
+        }
+        ASSERT_TRUE(bedingung());
+    }
+    void modal_laufen(Fenster& fenster) override {
+        if (Handgriffe) Handgriffe();
+        EXPECT_FALSE(fenster.sichtbar());
+    }
+    void Fortschritt_beendet(const Text& text, int) override { Fortschritte.push_back(text); }
+    void an_Laufzeitfehler_enden(const Laufzeitfehler& fehler) override { throw fehler; }
+
+    Text eingeben(const Text&, const Text&, const Text&) override { return {}; }
+    Text Verzeichnis_wählen(const Text& titel) override {
+        Ablauf.push_back(titel);
+        return Verzeichnis;
+    }
+    Text Datei_wählen(const Dateiwahl&) override { return {}; }
+    std::optional<Farbe> Farbe_wählen(Farbe) override { return {}; }
+    void Fenster_geändert(Fenster&) override {}
+    void Element_geändert(Element&, unsigned) override {}
+    void Fenster_malen(Fenster&) override {}
+    void Menü_zeigen(Menüpunkt&) override {}
+    void Zwischenablage_setzen(const Text&) override {}
+    int Textbreite(const Text& text, int) const override { return static_cast<int>(Zeichenzahl(text)) * 120; }
+    int Texthöhe(int) const override { return 200; }
+    Größe Wunschgröße(const Element&) const override { return {1200, 300}; }
+    Größe Bildschirm() const override { return {19200, 15360}; }
+    Bereich Rahmenrand(const Element&) const override { return {60, 240, 120, 300}; }
+    int Zeilenhöhe(int) const override { return 200; }
+    void Ereignisse_laufen_lassen() override {}
+    void Zeitgeber_gestellt(Zeitgeber&) override {}
+    void Zeitgeber_entfernt(Zeitgeber&) override {}
+};
+
+struct Dateisystem_Knapp : Dateisystem_Linux {
+    std::optional<std::uint64_t> frei = std::uint64_t{1} << 40;
+    Text unlesbare_Länge;  // asking this file's length fails
+
+    std::optional<std::uint64_t> freie_Bytes(const Text&) override { return frei; }
+    bool Datei_da(const Text& pfad) override { return Dateisystem_Linux::Dateilänge(pfad) >= 0; }
+    std::int64_t Dateilänge(const Text& pfad) override {
+        if (pfad == unlesbare_Länge) throw Dateifehler(57, pfad);
+        return Dateisystem_Linux::Dateilänge(pfad);
+    }
+};
+
+struct Kein_Korb : Papierkorb {
+    void wegwerfen(const Text& pfad) override { throw Dateifehler(70, pfad); }
+};
+
+// The real one, which may be told to do something of its own after its work.
+struct Shell_mit_Tücken : Shell {
+    explicit Shell_mit_Tücken(Shell& echt) : echt_(echt) {}
+    std::vector<Shell_Vorgang> Vorgänge;
+    std::function<Shell_Ergebnis(const Shell_Vorgang&, Shell_Ergebnis)> danach;
+
+    Shell_Ergebnis SHFileOperationA(const Shell_Vorgang& vorgang) override {
+        Vorgänge.push_back(vorgang);
+        const Shell_Ergebnis ergebnis = echt_.SHFileOperationA(vorgang);
+        return danach ? danach(vorgang, ergebnis) : ergebnis;
+    }
+    void starten(const Text& befehl, int stil) override { echt_.starten(befehl, stil); }
+
+private:
+    Shell& echt_;
+};
+
+struct Bühne {
+    Bühne() {
+        modell.Datenbank_Verzeichnis = ordner.ordner("db");
+        modell.Datenbank_offen = true;
+        Standard_Datenbank(modell, true);
+        quelle = ordner.ordner("quelle");
+        übernahme.Winamp_anhalten = [this] { ansicht.Ablauf.push_back("angehalten"); };
+        eintragen.Liste_neu_aufbauen = [this] { ansicht.Ablauf.push_back("aufgebaut"); };
+        fenster.Hauptfenster_sperren = [this](bool gesperrt) { Haupt_gesperrt = gesperrt; };
+        fenster.Liste_fokussieren = [this] { ++fokussiert; };
+        fenster.Datei_abspielen = [this](const Text& datei) { gespielt.push_back(datei); };
+    }
+
+    // A file of the source folder; `zeit` in seconds since 1970, 0 leaves it at now.
+    Text lege(const Text& name, const std::string& bytes, long zeit = 0) {
+        const Text pfad = ordner.datei("quelle/" + name, bytes);
+        stellen(pfad, zeit);
+        return pfad;
+    }
+    // The file and the record of the next song.
+    void lege_Lied(std::size_t länge, long zeit) {
+        const Long nr = ++modell.Anzahl_Lieder;
+        stellen(ordner.datei("db/" + Lied_Dateiname(nr), std::string(länge, 'x')), zeit);
+        modell.Lieder[nr].Titel = "Lied " + Zahltext(nr);
+        modell.Lieder[nr].Größe = gerundet(static_cast<double>(länge) / 1024.0);
+    }
+    static void stellen(const Text& pfad, long zeit) {
+        const utimbuf zeiten{zeit, zeit};
+        if (zeit != 0) {
+            ASSERT_EQ(::utime(pfad.c_str(), &zeiten), 0);
+        }
+    }
+    Long übernimm(std::vector<Text> pfade, Übernahmeart art = Übernahmeart::kopieren) {
+        Übernahme_Auftrag auftrag;
+        auftrag.Modus = art;
+        for (Text& pfad : pfade) auftrag.Lieder.push_back({std::move(pfad), 0});
+        const Long A = übernehmen.ausführen(auftrag);
+        EXPECT_FALSE(fortschritt.sichtbar());
+        return A;
+    }
+    std::string inhalt(Long nr) const { return ordner.inhalt("db/" + Lied_Dateiname(nr)); }
+
+    Testordner ordner;
+    Text quelle;
+    Drehbuch ansicht;
+    Dateisystem_Knapp dateien;
+    Kein_Korb korb;
+    Shell_Linux echte_Shell{dateien, korb};
+    Shell_mit_Tücken shell{echte_Shell};
+    Modell modell;
+    Einstellungen einstellungen;
+    MP3_TagHead mp3{dateien};
+    Fortschritts_Fenster fortschritt{ansicht};
+    Kategorie_Wahl wahl{ansicht, modell};
+    Dateien_übernehmen übernehmen{modell, dateien, shell, mp3, fortschritt};
+    Lieder_eintragen eintragen{modell, mp3, wahl};
+    Lieder_Übernahme übernahme{ansicht, modell, dateien, übernehmen, eintragen};
+    neue_Lieder_Liste fenster{ansicht, dateien, mp3, fortschritt, übernahme};
+    Verzeichnis_add verzeichnis{ansicht, dateien, einstellungen};
+    tonkartei::Lieder_hinzufügen befehle{modell, dateien, einstellungen, verzeichnis, fenster};
+    bool Haupt_gesperrt = false;
+    int fokussiert = 0;
+    std::vector<Text> gespielt;
+};
+
+}  // namespace tonkartei

@@ -1,0 +1,273 @@
+// The commands and windows, worked by hand.
+#include <sys/stat.h>
+
+#include <set>
+
+#include "buehne.hpp"
+
+namespace tonkartei {
+namespace {
+
+// Chooses the folder `pfad`, then works the window of new songs.
+void hinzufügen(Bühne& b, const Text& pfad, const std::function<void()>& im_Fenster = {}) {
+    b.ansicht.Handgriffe = [&b, pfad, im_Fenster] {
+        EXPECT_TRUE(b.Haupt_gesperrt);
+        if (b.verzeichnis.sichtbar()) {
+            Hand::schreiben(b.verzeichnis.Pfad, pfad);
+            Hand::klicken(b.verzeichnis.Ok);
+            return;
+        }
+        if (im_Fenster) im_Fenster();
+        if (b.fenster.sichtbar()) Hand::klicken(b.fenster.Abbruch);
+    };
+    b.befehle.Lieder_hinzufügen_Verzeichnis();
+    EXPECT_FALSE(b.fenster.geladen());
+    EXPECT_FALSE(b.verzeichnis.geladen());
+    EXPECT_FALSE(b.Haupt_gesperrt);
+}
+
+using Zeilen = std::vector<Text>;
+
+TEST(Lieder_hinzufügen, nur_MP3_Dateien_mit_Inhalt_und_fremde_Namen) {
+    Bühne b;
+    b.lege("b.MP3", "x");
+    b.lege("a.mp3", "x");
+    b.lege("leer.mp3", "");
+    b.lege("c.mp3.txt", "x");
+    b.lege("\xff.mp3", "x");
+    b.lege("Ж - ä.mP3", "x");
+    b.ordner.ordner("quelle/ordner.mp3");
+    b.ordner.datei("quelle/ordner.mp3/tief.mp3", "x");
+    std::filesystem::create_symlink("nirgends", b.quelle + "verweis.mp3");
+    b.ansicht.Antworten = {Antwort::Ja};
+    b.ansicht.Kategorien = {2};
+    hinzufügen(b, b.ordner.pfad("quelle"), [&] {
+        EXPECT_EQ(b.fenster.gefundene_Lieder.zeilen(), (Zeilen{"a.mp3", "b.MP3", "? - ä.mP3", "?.mp3"}));
+        EXPECT_EQ(b.fenster.Lieder_hinzufügen.zeilen(), b.fenster.gefundene_Lieder.zeilen());
+        EXPECT_EQ(b.fenster.Liste_Größe_1.beschriftung(), "---");
+        Hand::wählen(b.fenster.Lieder_hinzufügen, 3);
+        Hand::klicken(b.fenster.abspielen_2);
+        Hand::klicken(b.fenster.Ok);
+    });
+    EXPECT_EQ(b.gespielt, Zeilen{b.quelle + "\xff.mp3"});
+    EXPECT_EQ(b.modell.Anzahl_Lieder, 4);
+    EXPECT_EQ(b.inhalt(4), "x");
+    EXPECT_GT(b.fokussiert, 0);
+}
+
+TEST(Lieder_hinzufügen, ohne_Datenbank_geschieht_nichts) {
+    Bühne b;
+    b.modell.Datenbank_offen = false;
+    b.befehle.Lieder_hinzufügen_Verzeichnis();
+    EXPECT_FALSE(b.fenster.geladen());
+    EXPECT_FALSE(b.Haupt_gesperrt);
+}
+
+TEST(Lieder_hinzufügen, Ordner_ohne_Lieder_fehlende_und_unlesbare) {
+    Bühne b;
+    hinzufügen(b, b.quelle);
+    EXPECT_EQ(b.ansicht.Ablauf, Zeilen{"Fehler: Es wurden keine Lieder zum hinzufügen gefunden!"});
+    b.ansicht.Ablauf.clear();
+    hinzufügen(b, b.quelle + "nichts");
+    EXPECT_EQ(b.ansicht.Ablauf, Zeilen{"Verzeichnis hinzufügen: Dieses Verzeichnis wurde nicht gefunden, oder es ist zur "
+                                       "Zeit kein Zugriff darauf möglich!"});
+    EXPECT_EQ(b.einstellungen.Verzeichnis_Anzahl, 1);
+    b.ansicht.Ablauf.clear();
+    hinzufügen(b, "");
+    EXPECT_TRUE(b.ansicht.Ablauf.empty());
+    EXPECT_EQ(b.fokussiert, 5);  // twice where the chosen folder counted as given up
+
+    if (::geteuid() == 0) return;  // root reads everything
+    ::chmod(b.quelle.c_str(), 0);
+    hinzufügen(b, b.quelle);
+    ASSERT_EQ(b.ansicht.Ablauf.size(), 1U);
+    EXPECT_TRUE(b.ansicht.Ablauf.front().starts_with("Tonkartei: "));
+    EXPECT_TRUE(b.ansicht.Ablauf.front().ends_with("\r\r" + b.quelle));
+}
+
+TEST(Lieder_hinzufügen, mehr_als_das_Feld_fasst) {
+    Bühne b;
+    b.fenster.Reset();
+    for (int i = 0; i < Lieder_maximal; ++i) b.fenster.add_Lied("x");
+    try {
+        b.fenster.add_Lied("x");
+        FAIL();
+    } catch (const Laufzeitfehler& fehler) {
+        EXPECT_EQ(fehler.Nummer(), 9);
+    }
+    EXPECT_EQ(b.fenster.Anzahl_gefunden(), Lieder_maximal);
+}
+
+TEST(Lieder_hinzufügen, letzte_Verzeichnisse_tauschen_den_Platz) {
+    Bühne b;
+    Zeilen erwartet;
+    for (int i = 1; i <= 11; ++i) {
+        erwartet.insert(erwartet.begin(), b.ordner.ordner("o" + Zahltext(i)));
+        hinzufügen(b, erwartet.front());
+    }
+    erwartet.pop_back();
+    hinzufügen(b, b.ordner.pfad("o8"));
+    std::swap(erwartet[3], erwartet[0]);
+    Zeilen gemerkt;
+    for (int i = 1; i <= b.einstellungen.Verzeichnis_Anzahl; ++i)
+        gemerkt.push_back(b.einstellungen.Zuletzt_hinzugefügte_Verzeichnisse[i]);
+    EXPECT_EQ(gemerkt, erwartet);
+}
+
+TEST(Verzeichnis_add, Wege_zum_Ergebnis) {
+    Bühne b;
+    const Text roh = b.ordner.ordner("\xe4");
+    b.einstellungen.Verzeichnis_Anzahl = 1;
+    b.einstellungen.Zuletzt_hinzugefügte_Verzeichnisse[1] = roh;
+    Verzeichnis_add& v = b.verzeichnis;
+    const auto frage = [&](std::function<void()> hand) {
+        b.ansicht.Handgriffe = std::move(hand);
+        return v.Dialog();
+    };
+    EXPECT_EQ(frage([&] {
+                  EXPECT_EQ(v.Liste.zeilen(), Zeilen{anzeigbar(roh)});
+                  Hand::wählen(v.Liste, 0);
+                  EXPECT_EQ(v.Pfad.text(), roh);
+                  Hand::doppelklicken(v.Liste);
+              }),
+              roh);
+    EXPECT_EQ(frage([&] {
+                  EXPECT_EQ(v.Pfad.text(), "");
+                  Hand::doppelklicken(v.Liste);  // no line chosen
+                  EXPECT_TRUE(v.sichtbar());
+                  Hand::klicken(v.Pfad_wählen);  // cancelled
+                  EXPECT_TRUE(v.sichtbar());
+                  b.ansicht.Verzeichnis = b.ordner.pfad("quelle");
+                  Hand::klicken(v.Pfad_wählen);
+              }),
+              b.quelle);
+    EXPECT_EQ(b.ansicht.Ablauf.back(), "Verzeichnis hinzufügen:");
+    const std::function<void()> ohne[] = {[&] { Hand::klicken(v.Abbruch); }, [&] { v.schließen(Schließgrund::Hand); },
+                                          [&] {
+                                              Hand::Taste_drücken(v.Pfad, {Taste::Art::Escape, {}});
+                                          }};
+    for (const auto& weg : ohne)
+        EXPECT_EQ(frage([&] {
+                      Hand::schreiben(v.Pfad, b.quelle);
+                      weg();
+                  }),
+                  "");
+}
+
+TEST(neue_Lieder_Liste, Auswahl) {
+    Bühne b;
+    for (const char* name : {"a.mp3", "b.mp3", "c.mp3"}) b.lege(name, name);
+    auto& f = b.fenster;
+    hinzufügen(b, b.quelle, [&] {
+        const auto steht = [&](const Zeilen& nummern, int gewählt) {
+            EXPECT_EQ(f.Nr_Liste.zeilen(), nummern);
+            Zeilen namen;
+            for (const Text& nr : nummern) namen.push_back(Text(1, static_cast<char>('`' + std::stoi(nr))) + ".mp3");
+            EXPECT_EQ(f.Lieder_hinzufügen.zeilen(), namen);
+            EXPECT_EQ(f.Lieder_hinzufügen.gewählt(), gewählt);
+            EXPECT_EQ(f.Liste_Anzahl_2.beschriftung(), Zahltext(static_cast<long long>(nummern.size())));
+        };
+        steht({"1", "2", "3"}, -1);
+        Hand::klicken(f.del_dieses);
+        steht({"1", "2", "3"}, -1);
+        Hand::wählen(f.Lieder_hinzufügen, 1);
+        Hand::klicken(f.del_dieses);
+        steht({"1", "3"}, 1);
+        Hand::klicken(f.del_dieses);
+        steht({"1"}, 0);
+        Hand::klicken(f.add_dieses);
+        steht({"1"}, 0);
+        Hand::wählen(f.gefundene_Lieder, 2);
+        Hand::klicken(f.add_dieses);
+        Hand::klicken(f.abspielen_1);
+        Hand::wählen(f.gefundene_Lieder, 0);
+        EXPECT_TRUE(b.ansicht.Ablauf.empty());
+        Hand::klicken(f.add_dieses);
+        steht({"1", "3"}, 0);
+        EXPECT_EQ(b.ansicht.Ablauf, Zeilen{"Lied hinzufügen: Dieses Lied wird schon hinzugefügt!"});
+        Hand::wählen(f.Lieder_hinzufügen, 1);
+        Hand::klicken(f.abspielen_2);
+        Hand::klicken(f.del_alle);
+        steht({}, -1);
+        Hand::klicken(f.abspielen_2);
+        Hand::klicken(f.del_dieses);
+        Hand::klicken(f.add_alle);
+        steht({"1", "2", "3"}, -1);
+    });
+    EXPECT_EQ(b.gespielt, (Zeilen{b.quelle + "c.mp3", b.quelle + "c.mp3"}));
+    EXPECT_EQ(b.modell.Anzahl_Lieder, 0);
+    EXPECT_FALSE(b.ordner.da("db/00000001.MP3"));
+}
+
+TEST(neue_Lieder_Liste, Tags_und_Größen) {
+    Bühne b;
+    b.lege("a.mp3", std::string(2 * 1024 * 1024, 'x') + Tag_Bytes{}.Block());
+    b.lege("b.mp3", "x");
+    b.dateien.frei = 2 * 1024 * 1024 + 1024;
+    auto& f = b.fenster;
+    hinzufügen(b, b.quelle, [&] {
+        Hand::wählen(f.Lieder_hinzufügen, 0);
+        Hand::klicken(f.del_dieses);
+        EXPECT_EQ(f.Liste_Größe_2.farbe(), f.Liste_Größe_1.farbe());
+        Hand::klicken(f.MP3_Tags_lesen);
+        EXPECT_EQ(f.MP3_DGröße.zeilen(), (Zeilen{"2048.125", "0.0009765625"}));
+        EXPECT_EQ(f.gefundene_Lieder.zeilen(), (Zeilen{"Artist - Titel", "--- - kein Tag/Datei nicht gefunden"}));
+        EXPECT_EQ(f.Lieder_hinzufügen.zeilen(), Zeilen{"--- - kein Tag/Datei nicht gefunden"});
+        EXPECT_EQ(f.Lieder_hinzufügen.gewählt(), 0);
+        EXPECT_EQ(f.Liste_Größe_1.beschriftung(), "2");
+        EXPECT_EQ(f.Liste_Größe_2.beschriftung(), "---");
+        Hand::klicken(f.add_alle);
+        EXPECT_EQ(f.Liste_Größe_2.farbe(), f.Liste_Größe_1.farbe());
+        b.dateien.frei = 2 * 1024 * 1024 + 1023;
+        Hand::klicken(f.add_alle);
+        EXPECT_EQ(f.Liste_Größe_2.farbe(), Farbe_Rot);
+        b.ansicht.Antworten = {Antwort::Nein};  // not enough room: ends the commit and the window
+        Hand::klicken(f.Ok);
+    });
+    EXPECT_EQ(b.ansicht.Fortschritte, Zeilen{"MP3-Tag's lesen..."});
+    EXPECT_EQ(b.modell.Anzahl_Lieder, 0);
+}
+
+TEST(neue_Lieder_Liste, eine_andere_Datenbank_kann_nur_kopieren) {
+    Bühne b;
+    auto& f = b.fenster;
+    b.ansicht.Handgriffe = [&] {
+        EXPECT_EQ(f.gefundene_Lieder.zeilen(), Zeilen{"A - ?"});
+        EXPECT_FALSE(f.add_Option_2.bedienbar());
+        EXPECT_TRUE(f.add_Option_1.wert());
+        f.schließen(Schließgrund::Hand);
+    };
+    f.Reset();
+    f.add_Lied(b.lege("a.mp3", "x"), 3);
+    f.add_MP3_Tag("A - Ж");
+    f.add_MP3_Größe(1500);
+    f.activate(Quelle_Datenbank, false);
+    EXPECT_EQ(b.fokussiert, 0);
+    EXPECT_FALSE(b.Haupt_gesperrt);
+
+    // The next source finds the window as new.
+    hinzufügen(b, b.quelle, [&] {
+        EXPECT_TRUE(f.add_Option_2.bedienbar());
+        Hand::klicken(f.add_Option_2);
+        b.ansicht.Kategorien = {1};
+        Hand::klicken(f.Ok);
+    });
+    EXPECT_FALSE(b.ordner.da("quelle/a.mp3"));
+    EXPECT_EQ(b.inhalt(1), "x");
+}
+
+TEST(neue_Lieder_Liste, Zugriffstasten_sind_eindeutig) {
+    Bühne b;
+    for (Fenster* fenster : {static_cast<Fenster*>(&b.fenster), static_cast<Fenster*>(&b.verzeichnis)}) {
+        std::set<Text> tasten;
+        for (const Element* e : fenster->elemente()) {
+            const auto und = e->beschriftung().find('&');
+            if (und == Text::npos) continue;
+            EXPECT_TRUE(tasten.insert(groß(e->beschriftung().substr(und + 1, 1))).second) << e->voller_Name();
+        }
+        EXPECT_GE(tasten.size(), 5U);
+    }
+}
+
+}  // namespace
+}  // namespace tonkartei
