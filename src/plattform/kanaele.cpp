@@ -14,6 +14,7 @@ namespace {
 
 constexpr std::size_t Puffergröße = 64 * 1024;
 constexpr std::size_t höchste_Nummer = 255;
+constexpr std::size_t längste_Zahl = 20;  // digits and sign of 64 bits
 
 bool nur_ASCII(std::string_view bytes) {
     std::size_t i = 0;
@@ -29,6 +30,32 @@ bool nur_ASCII(std::string_view bytes) {
 
 Text als_Text(std::string_view bytes) { return nur_ASCII(bytes) ? Text(bytes) : aus_1252(bytes); }
 
+// nach_1252 into a place that is large enough; the end of what was put there. Plain letters go eight at a time, those of the
+// page's upper half, which are most of the rest, by their bits.
+char* als_Seite(std::string_view text, char* ziel) {
+    std::size_t i = 0;
+    for (std::uint64_t acht; i + 8 <= text.size(); i += 8, ziel += 8) {
+        std::memcpy(&acht, text.data() + i, 8);
+        if (acht & 0x8080808080808080U) break;
+        std::memcpy(ziel, &acht, 8);
+    }
+    while (i < text.size()) {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        const auto folge = static_cast<unsigned char>(i + 1 < text.size() ? text[i + 1] : 0);
+        if (byte < 0x80) {
+            *ziel++ = text[i++];
+        } else if (byte == 0xC3 && (folge & 0xC0U) == 0x80) {
+            *ziel++ = static_cast<char>(folge | 0x40U);
+            i += 2;
+        } else {
+            const auto zeichen = nächstes_Zeichen(text, i);
+            const auto code = zeichen ? Unicode_zu_Seite(*zeichen) : std::nullopt;
+            *ziel++ = code ? static_cast<char>(*code) : '?';
+        }
+    }
+    return ziel;
+}
+
 std::string_view ohne_Blanks_dahinter(std::string_view bytes) {
     while (!bytes.empty() && bytes.back() == ' ') bytes.remove_suffix(1);
     return bytes;
@@ -36,8 +63,8 @@ std::string_view ohne_Blanks_dahinter(std::string_view bytes) {
 
 }  // namespace
 
-// Reading: `puffer[stelle, ende)` is what has been read ahead, and the file goes on at byte `position`. Writing: `puffer`
-// is what waits to be written to byte `position`.
+// Reading: `puffer[stelle, ende)` is what has been read ahead, and the file goes on at byte `position`. Writing: what stands
+// before `ende` waits to be written to byte `position`.
 struct Kanäle::Kanal {
     Dateisystem::Griff griff = 0;
     bool schreibend = false;
@@ -81,17 +108,18 @@ Kanäle::Kanal& Kanäle::Kanal_von(int nummer) {
     return *kanäle_[static_cast<std::size_t>(nummer) - 1];
 }
 
-Kanäle::Kanal& Kanäle::zum_Lesen(int nummer) {
-    Kanal& kanal = Kanal_von(nummer);
-    if (kanal.schreibend) throw Dateifehler(54, kanal.pfad);
-    return kanal;
+// Called once a line: the failure is kept apart, so that the way without one is a few instructions.
+Kanäle::Kanal& Kanäle::mit_Richtung(int nummer, bool schreibend) {
+    const auto platz = static_cast<std::size_t>(nummer) - 1;
+    if (platz < kanäle_.size() && kanäle_[platz] && kanäle_[platz]->schreibend == schreibend) [[likely]]
+        return *kanäle_[platz];
+    falsch(nummer);
 }
 
-Kanäle::Kanal& Kanäle::zum_Schreiben(int nummer) {
-    Kanal& kanal = Kanal_von(nummer);
-    if (!kanal.schreibend) throw Dateifehler(54, kanal.pfad);
-    return kanal;
-}
+void Kanäle::falsch(int nummer) { throw Dateifehler(54, Kanal_von(nummer).pfad); }
+
+Kanäle::Kanal& Kanäle::zum_Lesen(int nummer) { return mit_Richtung(nummer, false); }
+Kanäle::Kanal& Kanäle::zum_Schreiben(int nummer) { return mit_Richtung(nummer, true); }
 
 void Kanäle::schließen(int nummer, bool sichern) {
     Kanal& kanal = Kanal_von(nummer);
@@ -189,41 +217,51 @@ Long Kanäle::lese_Long(int nummer) { return gerundet(Zahlwert(Wert(zum_Lesen(nu
 Byte Kanäle::lese_Byte(int nummer) { return gerundet_Byte(Zahlwert(Wert(zum_Lesen(nummer)))); }
 
 void Kanäle::ausschreiben(Kanal& kanal) {
-    if (kanal.puffer.empty()) return;
-    dateien_.schreiben(kanal.griff, kanal.position, kanal.puffer);
-    kanal.position += kanal.puffer.size();
-    kanal.puffer.clear();
+    if (kanal.ende == 0) return;
+    dateien_.schreiben(kanal.griff, kanal.position, std::span<const char>(kanal.puffer.data(), kanal.ende));
+    kanal.position += kanal.ende;
+    kanal.ende = 0;
 }
 
-void Kanäle::Zeile_ablegen(Kanal& kanal, std::string_view bytes) {
-    if (kanal.puffer.size() + bytes.size() + 2 > Puffergröße) ausschreiben(kanal);
-    if (kanal.puffer.capacity() < Puffergröße) kanal.puffer.reserve(Puffergröße);
-    kanal.puffer.append(bytes);
-    kanal.puffer.append("\r\n");
+// Room for a line of that many bytes and its end.
+char* Kanäle::Platz_für_Zeile(Kanal& kanal, std::size_t länge) {
+    if (kanal.ende + länge + 2 > kanal.puffer.size()) {
+        ausschreiben(kanal);
+        if (länge + 2 > kanal.puffer.size()) kanal.puffer.resize(std::max(Puffergröße, länge + 2));
+    }
+    return kanal.puffer.data() + kanal.ende;
+}
+
+void Kanäle::Zeile_beenden(Kanal& kanal, char* ende) {
+    *ende++ = '\r';
+    *ende++ = '\n';
+    kanal.ende = static_cast<std::size_t>(ende - kanal.puffer.data());
 }
 
 void Kanäle::schreibe_Zeile(int nummer, const Text& text) {
     Kanal& kanal = zum_Schreiben(nummer);
-    if (nur_ASCII(text))
-        Zeile_ablegen(kanal, text);
-    else
-        Zeile_ablegen(kanal, nach_1252(text));
+    // No character is longer on the page than in UTF-8.
+    Zeile_beenden(kanal, als_Seite(text, Platz_für_Zeile(kanal, text.size())));
 }
 
-void Kanäle::schreibe_Rohzeile(int nummer, const std::string& bytes) { Zeile_ablegen(zum_Schreiben(nummer), bytes); }
+void Kanäle::schreibe_Rohzeile(int nummer, const std::string& bytes) {
+    Kanal& kanal = zum_Schreiben(nummer);
+    Zeile_beenden(kanal, std::copy(bytes.begin(), bytes.end(), Platz_für_Zeile(kanal, bytes.size())));
+}
 
 void Kanäle::schreibe_Zahl(int nummer, std::int64_t wert) {
-    char ziffern[24] = {' '};
-    char* anfang = wert < 0 ? ziffern : ziffern + 1;
-    char* ende = std::to_chars(anfang, ziffern + 22, wert).ptr;
-    *ende++ = ' ';
-    Zeile_ablegen(zum_Schreiben(nummer), {ziffern, static_cast<std::size_t>(ende - ziffern)});
+    Kanal& kanal = zum_Schreiben(nummer);
+    char* ziel = Platz_für_Zeile(kanal, längste_Zahl + 2);
+    if (wert >= 0) *ziel++ = ' ';
+    ziel = std::to_chars(ziel, ziel + längste_Zahl, wert).ptr;
+    *ziel++ = ' ';
+    Zeile_beenden(kanal, ziel);
 }
 
 void Kanäle::schreibe_reine_Zahl(int nummer, std::int64_t wert) {
-    char ziffern[24];
-    const char* ende = std::to_chars(ziffern, ziffern + sizeof ziffern, wert).ptr;
-    Zeile_ablegen(zum_Schreiben(nummer), {ziffern, static_cast<std::size_t>(ende - ziffern)});
+    Kanal& kanal = zum_Schreiben(nummer);
+    char* ziel = Platz_für_Zeile(kanal, längste_Zahl);
+    Zeile_beenden(kanal, std::to_chars(ziel, ziel + längste_Zahl, wert).ptr);
 }
 
 }  // namespace tonkartei

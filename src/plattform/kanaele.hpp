@@ -61,6 +61,8 @@ public:
 private:
     struct Kanal;
     Kanal& Kanal_von(int nummer);
+    Kanal& mit_Richtung(int nummer, bool schreibend);
+    [[noreturn]] void falsch(int nummer);
     Kanal& zum_Lesen(int nummer);
     Kanal& zum_Schreiben(int nummer);
     int öffnen(const Text& pfad, bool schreibend);
@@ -68,7 +70,8 @@ private:
     std::string_view Zeile(Kanal& kanal);
     std::string_view Wert(Kanal& kanal);
     void ausschreiben(Kanal& kanal);
-    void Zeile_ablegen(Kanal& kanal, std::string_view bytes);
+    char* Platz_für_Zeile(Kanal& kanal, std::size_t länge);
+    static void Zeile_beenden(Kanal& kanal, char* ende);
 
     Dateisystem& dateien_;
     std::vector<std::unique_ptr<Kanal>> kanäle_;  // number n at n - 1, null where free
