@@ -203,7 +203,8 @@ std::vector<std::string> Bediener::zeilen(const std::string& name) {
 }
 
 json Bediener::fenster(const std::string& name) {
-    for (const json& fenster : schau("fenster", "fenster")["fenster"])
+    const json alle = schau("fenster", "fenster");
+    for (const json& fenster : alle["fenster"])
         if (fenster["name"] == name) return fenster;
     return {};
 }
