@@ -12,7 +12,7 @@
 namespace tonkartei {
 namespace {
 
-constexpr std::size_t Puffergröße = 64 * 1024;
+constexpr std::size_t Puffergröße = 65536;
 constexpr std::size_t höchste_Nummer = 255;
 constexpr std::size_t längste_Zahl = 20;  // digits and sign of 64 bits
 

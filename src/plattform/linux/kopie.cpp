@@ -11,7 +11,8 @@
 namespace tonkartei {
 namespace {
 
-constexpr std::uint64_t Stück = 8 * 1024 * 1024;
+constexpr std::uint64_t Stück = 8U << 20U;
+constexpr std::uint64_t Handvoll = 256U << 10U;
 
 // The kernel cannot copy between these two files; reading and writing can.
 bool unfähig(int fehler) {
@@ -20,7 +21,7 @@ bool unfähig(int fehler) {
 }
 
 int von_Hand_kopieren(int aus, int in, std::uint64_t stelle, std::uint64_t länge) {
-    std::vector<char> puffer(static_cast<std::size_t>(std::clamp<std::uint64_t>(länge - stelle, 1, 256 * 1024)));
+    std::vector<char> puffer(static_cast<std::size_t>(std::clamp<std::uint64_t>(länge - stelle, 1, Handvoll)));
     while (stelle < länge) {
         const auto gelesen =
             ungestört([&] { return ::pread(aus, puffer.data(), puffer.size(), static_cast<off_t>(stelle)); });

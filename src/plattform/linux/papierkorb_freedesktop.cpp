@@ -89,7 +89,7 @@ std::optional<Text> Korb_auf(const Text& wurzel) {
 
 }  // namespace
 
-Papierkorb_Freedesktop::Papierkorb_Freedesktop(Dateisystem& dateien, Text heimkorb)
+Papierkorb_Freedesktop::Papierkorb_Freedesktop(Dateisystem& dateien, const Text& heimkorb)
     : dateien_(dateien), heimkorb_(mit_Trenner(heimkorb.empty() ? Datenwurzel() + "Trash" : heimkorb)) {}
 
 bool Papierkorb_Freedesktop::ablegen(const Text& korb, const Text& pfad, const Text& Herkunft, Weg weg) {

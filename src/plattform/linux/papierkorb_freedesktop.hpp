@@ -11,7 +11,7 @@ namespace tonkartei {
 class Papierkorb_Freedesktop : public Papierkorb {
 public:
     // `heimkorb`: the home bin, by default Trash below the user's data folder. Created when first needed.
-    explicit Papierkorb_Freedesktop(Dateisystem& dateien, Text heimkorb = {});
+    explicit Papierkorb_Freedesktop(Dateisystem& dateien, const Text& heimkorb = {});
 
     void wegwerfen(const Text& pfad) override;
 

@@ -23,7 +23,7 @@ Text Rechner_Linux::GetComputerNameA() {
 }
 
 Text Rechner_Linux::GetUserNameA() {
-    std::vector<char> puffer(16 * 1024);
+    std::vector<char> puffer(16384);
     passwd eintrag{};
     passwd* treffer = nullptr;
     if (::getpwuid_r(::geteuid(), &eintrag, puffer.data(), puffer.size(), &treffer) == 0 && treffer != nullptr)

@@ -141,7 +141,7 @@ void Shell_Dateivorgang::Zielordner_anlegen(const Text& ordner) {
 Text Shell_Dateivorgang::freier_Name(const Text& ziel) {
     for (int nummer = 1;; ++nummer) {
         const Text zahl = nummer == 1 ? Text() : "(" + std::to_string(nummer) + ") ";
-        const Text name = Ordner_von(ziel) + "Kopie " + zahl + "von " + Dateiname_von(ziel);
+        Text name = Ordner_von(ziel) + "Kopie " + zahl + "von " + Dateiname_von(ziel);
         if (!da(name)) return name;
     }
 }

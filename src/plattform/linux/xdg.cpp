@@ -19,7 +19,7 @@ Text absoluter_Wert(const char* name) {
 }
 
 Text Wert_oder(const char* name, const char* unter_Heim) {
-    const Text wert = absoluter_Wert(name);
+    Text wert = absoluter_Wert(name);
     return wert.empty() ? Heimordner() + unter_Heim : wert;
 }
 
@@ -34,9 +34,9 @@ bool privat(const Text& ordner) {
 }  // namespace
 
 Text Heimordner() {
-    const Text heim = absoluter_Wert("HOME");
+    Text heim = absoluter_Wert("HOME");
     if (!heim.empty()) return heim;
-    std::vector<char> puffer(16 * 1024);
+    std::vector<char> puffer(16384);
     passwd eintrag{};
     passwd* treffer = nullptr;
     if (::getpwuid_r(::geteuid(), &eintrag, puffer.data(), puffer.size(), &treffer) == 0 && treffer != nullptr)
