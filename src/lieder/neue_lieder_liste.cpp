@@ -51,6 +51,8 @@ neue_Lieder_Liste::neue_Lieder_Liste(Ansicht& ansicht, Dateisystem& dateien, MP3
         helfer->unsichtbarer_Helfer = true;
         helfer->sichtbar(false);
     }
+    for (Schriftfeld* wert : {&Liste_Anzahl_1, &Liste_Größe_1, &Liste_Anzahl_2, &Liste_Größe_2})
+        wert->ausrichtung = Schriftfeld::Ausrichtung::rechts;
     // Their work comes with the tag dialog, the albums and the list files.
     for (Element* später : {static_cast<Element*>(&Tag_ändern), static_cast<Element*>(&Album_erstellen),
                             static_cast<Element*>(&Playlist_erstellen)})
@@ -86,7 +88,7 @@ Knoten neue_Lieder_Liste::anordnung() {
                                   Knoten(Liste_Größe_2).zeichen(6)})})
                        .dehnen(1, 1),
                    Zeile({Gruppe(Tags, Spalte({MP3_Tags_lesen, Tag_ändern})),
-                          Gruppe(Dateien, Spalte({add_Option_1, add_Option_2}).dehnen(1)),
+                          Gruppe(Dateien, Spalte({add_Option_1, add_Option_2}).mindestens(110 * Twips_je_Pixel, 0)),
                           Gruppe(dazu, Spalte({Album_erstellen, Playlist_erstellen})), Feder(),
                           Spalte({Feder(0, 1), Knoten(Ok).zeichen(12), Knoten(Abbruch).zeichen(12)})})})
         .rand(12 * Twips_je_Pixel);

@@ -44,7 +44,7 @@ public:
     Rahmen Dateien{*this, "Dateien", "Dateien"};
     Optionsfeld add_Option_1{*this, "add_Option", "&kopieren", 1};
     Optionsfeld add_Option_2{*this, "add_Option", "&bewegen", 2};
-    Rahmen dazu{*this, "dazu", "aus den neuen Liedern"};
+    Rahmen dazu{*this, "dazu", "neue Lieder"};
     Kasten Album_erstellen{*this, "Album_erstellen", "Album er&stellen"};
     Kasten Playlist_erstellen{*this, "Playlist_erstellen", "&Playlist erstellen"};
     Knopf Ok{*this, "Ok", "&OK"};
