@@ -51,8 +51,6 @@ neue_Lieder_Liste::neue_Lieder_Liste(Ansicht& ansicht, Dateisystem& dateien, MP3
         helfer->unsichtbarer_Helfer = true;
         helfer->sichtbar(false);
     }
-    for (Schriftfeld* wert : {&Liste_Anzahl_1, &Liste_Größe_1, &Liste_Anzahl_2, &Liste_Größe_2})
-        wert->ausrichtung = Schriftfeld::Ausrichtung::rechts;
     // Their work comes with the tag dialog, the albums and the list files.
     for (Element* später : {static_cast<Element*>(&Tag_ändern), static_cast<Element*>(&Album_erstellen),
                             static_cast<Element*>(&Playlist_erstellen)})
