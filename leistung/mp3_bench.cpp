@@ -68,7 +68,7 @@ public:
             Pfade.push_back((ordner_ / (std::string(8 - zahl.size(), '0') + zahl + ".MP3")).string());
             std::ofstream datei(Pfade.back(), std::ios::binary);
             std::size_t davor = 0;
-            if (nr % 3 == 0) {
+            if (nr % 2 == 0) {
                 const std::string block = ID3v2_Block(zahl);
                 davor = block.size();
                 datei << block;

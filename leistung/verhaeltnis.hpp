@@ -1,10 +1,11 @@
-// Ratios of two ways to do a thing, measured in one run: what a machine's speed does to one way it does to the other.
+// Ratios of two ways to do a thing, measured in one run: what a machine's speed does to one way it does to the other. What
+// counts is the processor time of this process, in the system too, so that a busy neighbour does not.
 #pragma once
 
 #include <algorithm>
-#include <chrono>
 #include <cstddef>
 #include <cstdio>
+#include <ctime>
 #include <string_view>
 #include <vector>
 
@@ -41,7 +42,7 @@ public:
 
 private:
     struct Paar {
-        double a, b;  // seconds
+        double a, b;  // seconds of processor time
     };
 
     template <class A, class B>
@@ -57,9 +58,9 @@ private:
     }
     template <class F>
     double Sekunden(F& weg) {
-        const auto anfang = std::chrono::steady_clock::now();
+        const std::clock_t anfang = std::clock();
         senke_ = static_cast<double>(weg());
-        return std::chrono::duration<double>(std::chrono::steady_clock::now() - anfang).count();
+        return static_cast<double>(std::clock() - anfang) / CLOCKS_PER_SEC;
     }
     static double Median(std::vector<double>& werte) {
         const auto mitte = werte.begin() + static_cast<std::ptrdiff_t>(werte.size() / 2);

@@ -42,7 +42,7 @@ public:
 
 private:
     static constexpr std::size_t Framekopf_Länge = Xing_Frames_Abstand + 3;  // what is looked at behind a frame's position
-    static constexpr std::size_t erstes_Stück = 512;
+    static constexpr std::size_t erstes_Stück = 2560;                        // holds the small tag of the newer kind, too
 
     void lesen_bis(std::size_t ende) {
         const std::span<char> ziel(bytes_.data() + gelesen_, ende - gelesen_);
