@@ -54,6 +54,8 @@ public:
     struct Teile {
         Leitung& leitung;
         Uhrwerk& uhr;
+        // The simulated machine's screen; else the painter's.
+        std::optional<Größe> bildschirm;
         // Ends the process as it stands.
         std::function<void(int)> abbrechen;
     };
@@ -100,7 +102,7 @@ public:
     int Textbreite(const Text& text, int punkte) const override { return maler_->Textbreite(text, punkte); }
     int Texthöhe(int punkte) const override { return maler_->Texthöhe(punkte); }
     Größe Wunschgröße(const Element& element) const override { return maler_->Wunschgröße(element); }
-    Größe Bildschirm() const override { return maler_->Bildschirm(); }
+    Größe Bildschirm() const override { return t_.bildschirm ? *t_.bildschirm : maler_->Bildschirm(); }
     Bereich Rahmenrand(const Element& rahmen) const override { return maler_->Rahmenrand(rahmen); }
     int Zeilenhöhe(int punkte) const override { return maler_->Zeilenhöhe(punkte); }
 

@@ -87,7 +87,9 @@ int bedienen(int argc, char** argv, const Bauplan& bauplan) {
     for (const auto& [schlüssel, wert] : optionen.einstellungen) maschine->Einstellung_setzen(schlüssel, wert, false);
 
     Leitung leitung;
-    Ansicht_Bediener ansicht({leitung, maschine->uhr(), abbrechen});
+    std::optional<Größe> bildschirm;
+    if (maschine->probe() != nullptr) bildschirm = {1280 * Twips_je_Pixel, 1024 * Twips_je_Pixel};
+    Ansicht_Bediener ansicht({leitung, maschine->uhr(), bildschirm, abbrechen});
     const auto stube = optionen.qt ? Malstube_Qt(ansicht, argv[0]) : Malstube_ohne();
     ansicht.Maler_setzen(stube->maler(), stube->pumpen());
     maschine->Ansicht_setzen(ansicht);
