@@ -94,14 +94,21 @@ Bediener::Bediener(const Optionen& optionen) : frist_(optionen.Frist) {
 Bediener::~Bediener() { beenden(); }
 
 void Bediener::beenden() noexcept {
-    if (prozess_ > 0) {
-        kill(prozess_, SIGKILL);
-        waitpid(prozess_, nullptr, 0);
-        prozess_ = -1;
-    }
-    if (hinein_ >= 0) close(hinein_);
+    // Without input it ends by itself and takes its scratch folder along, unless it hangs.
+    Eingabe_schließen();
     if (heraus_ >= 0) close(heraus_);
-    hinein_ = heraus_ = -1;
+    heraus_ = -1;
+    if (prozess_ <= 0) return;
+    for (int versuch = 0; versuch < 400; ++versuch) {
+        if (waitpid(prozess_, nullptr, WNOHANG) == prozess_) {
+            prozess_ = -1;
+            return;
+        }
+        poll(nullptr, 0, 5);
+    }
+    kill(prozess_, SIGKILL);
+    waitpid(prozess_, nullptr, 0);
+    prozess_ = -1;
 }
 
 const Bediener::Antworten& Bediener::operator()(const std::string& zeile) {
@@ -215,7 +222,7 @@ json Bediener::registrierung() { return schau("registrierung", "registrierung")[
 
 json Bediener::spieler() { return schau("spieler", "spieler")["spieler"]; }
 
-void Bediener::Eingabe_schließen() {
+void Bediener::Eingabe_schließen() noexcept {
     if (hinein_ >= 0) close(hinein_);
     hinein_ = -1;
 }

@@ -50,7 +50,7 @@ public:
     std::string bereit_name() const;
     // Why the command could not be done; "" when it was.
     std::string fehler() const;
-    // The last event of a kind ("meldung"); null without one. `feld` of it as text.
+    // The last event of a kind ("meldung"); null without one.
     nlohmann::json ereignis(const std::string& art) const;
     std::vector<nlohmann::json> ereignisse(const std::string& art) const;
     // Text of the last message box; "" without one.
@@ -67,7 +67,7 @@ public:
     nlohmann::json spieler();
 
     // Closes its input, which ends it as a crash does.
-    void Eingabe_schließen();
+    void Eingabe_schließen() noexcept;
     // Waits for its end. The exit status, or minus the signal that ended it.
     int Ende_abwarten();
 

@@ -59,16 +59,7 @@ void Zeile_ausführen(const Befehlstafel& tafel, const Text& zeile) {
     befehl->second(z);
 }
 
-}  // namespace
-
-int bedienen(int argc, char** argv, const Bauplan& bauplan) {
-    Optionen optionen;
-    try {
-        optionen = Optionen_lesen({argv + 1, argv + argc});
-    } catch (const std::invalid_argument& fehler) {
-        std::fprintf(stderr, "%s: %s\n", argv[0], fehler.what());
-        return Status_Aufruf;
-    }
+int betreiben(const Optionen& optionen, const char* programmname, const Bauplan& bauplan) {
     const Wurzel wurzel(optionen.wurzel);
     const auto abbrechen = [&wurzel](int status) {
         wurzel.aufräumen();
@@ -90,7 +81,7 @@ int bedienen(int argc, char** argv, const Bauplan& bauplan) {
     std::optional<Größe> bildschirm;
     if (maschine->probe() != nullptr) bildschirm = {1280 * Twips_je_Pixel, 1024 * Twips_je_Pixel};
     Ansicht_Bediener ansicht({leitung, maschine->uhr(), bildschirm, abbrechen});
-    const auto stube = optionen.qt ? Malstube_Qt(ansicht, argv[0]) : Malstube_ohne();
+    const auto stube = optionen.qt ? Malstube_Qt(ansicht, programmname) : Malstube_ohne();
     ansicht.Maler_setzen(stube->maler(), stube->pumpen());
     maschine->Ansicht_setzen(ansicht);
 
@@ -112,6 +103,17 @@ int bedienen(int argc, char** argv, const Bauplan& bauplan) {
     ansicht.ausgeben(Json::Objekt().mit("ereignis", "ende").text());
     ansicht.ausgeben(Json::Objekt().mit("bereit", "ende").text());
     return 0;
+}
+
+}  // namespace
+
+int bedienen(int argc, char** argv, const Bauplan& bauplan) {
+    try {
+        return betreiben(Optionen_lesen({argv + 1, argv + argc}), argv[0], bauplan);
+    } catch (const std::exception& fehler) {
+        std::fprintf(stderr, "%s: %s\n", argv[0], fehler.what());
+        return Status_Aufruf;
+    }
 }
 
 }  // namespace tonkartei

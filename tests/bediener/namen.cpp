@@ -35,9 +35,11 @@ bool Weg_offen(const std::vector<std::unique_ptr<Menüpunkt>>& einträge, const 
     });
 }
 
+// An entry of a pop-up menu needs no menu above it: it is worked without the menu being up.
 void Menüpunkt_prüfen(const Element& element) {
     const Menü* menü = element.fenster().menü();
-    if (menü != nullptr && !Weg_offen(menü->einträge(), element))
+    const bool allein = menü == nullptr || element.fenster().Name() == Kontextmenüs;
+    if (allein ? !element.aktiv() : !Weg_offen(menü->einträge(), element))
         throw Befehlsfehler("der Menüeintrag ist gesperrt oder verborgen: " + element.voller_Name());
 }
 
