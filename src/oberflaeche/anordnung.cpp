@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "oberflaeche/ansicht.hpp"
-#include "oberflaeche/element.hpp"
+#include "oberflaeche/elemente.hpp"
 
 namespace tonkartei {
 namespace {
@@ -13,6 +13,17 @@ constexpr int übliche_Lücke = 6 * Twips_je_Pixel;
 
 int Lücke(int gewählt) { return gewählt < 0 ? übliche_Lücke : gewählt; }
 int Rand(int gewählt) { return gewählt < 0 ? 0 : gewählt; }
+
+// What a control's own border, arrow or scroll bar takes beside its characters.
+int Zugabe(const Element& element) {
+    switch (element.art()) {
+        case Elementart::Schrift: return static_cast<const Schriftfeld&>(element).eingerahmt ? 14 * Twips_je_Pixel : 0;
+        case Elementart::Eingabe: return 14 * Twips_je_Pixel;
+        case Elementart::Auswahl: return 36 * Twips_je_Pixel;
+        case Elementart::Liste: return 30 * Twips_je_Pixel;
+        default: return 0;
+    }
+}
 
 }  // namespace
 
@@ -140,7 +151,8 @@ Größe Anordnung::messen(const Knoten& knoten) const {
             const int punkte = knoten.element_->schrift();
             if (knoten.zeichen_ > 0)
                 maß.breite = std::max(knoten.dehnung_x_ > 0 ? 0 : maß.breite,
-                                      ansicht_.Textbreite(Text(static_cast<std::size_t>(knoten.zeichen_), 'n'), punkte));
+                                      ansicht_.Textbreite(Text(static_cast<std::size_t>(knoten.zeichen_), 'n'), punkte) +
+                                          Zugabe(*knoten.element_));
             if (knoten.zeilen_ > 0) maß.höhe = knoten.zeilen_ * ansicht_.Zeilenhöhe(punkte) + 4 * Twips_je_Pixel;
             break;
         }

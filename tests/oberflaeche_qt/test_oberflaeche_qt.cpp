@@ -127,6 +127,15 @@ TEST_F(Desktop, ListClicksCountAlsoOnTheChosenLineAndTheRightButtonChoosesNothin
     EXPECT_TRUE(liste.viewport()->rect().contains(gewählte)) << "the chosen line stays wholly in sight";
 }
 
+TEST_F(Desktop, FocusAloneChoosesNoLine) {
+    Zeilen(3);
+    widget<QLineEdit>(fenster.Suche).setFocus();
+    widget<QListView>(fenster.Liste).setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(fenster.listenklicks, 0);
+    EXPECT_EQ(fenster.Liste.gewählt(), -1);
+    EXPECT_EQ(ansicht.fokus(), &fenster.Liste);
+}
+
 TEST_F(Desktop, ShrinkingLinesBetweenTwoPaintsReadEmpty) {
     Zeilen(100);
     auto& liste = widget<QListView>(fenster.Liste);

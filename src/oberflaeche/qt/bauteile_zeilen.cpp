@@ -19,7 +19,7 @@ namespace {
 class Listen_Bauteil : public Bauteil {
 public:
     Listen_Bauteil(Umfeld& umfeld, Fensterwidget& fenster, Listenfeld& liste)
-        : Bauteil(umfeld, fenster, liste), liste_(liste), modell_(liste), ansicht_(new QListView) {
+        : Bauteil(umfeld, fenster, liste), liste_(liste), modell_(liste), ansicht_(new Listenbild) {
         ansicht_->setModel(&modell_);
         ansicht_->setUniformItemSizes(true);
         ansicht_->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -88,7 +88,7 @@ private:
 
     Listenfeld& liste_;
     Zeilenmodell modell_;
-    QPointer<QListView> ansicht_;
+    QPointer<Listenbild> ansicht_;
     int zeilenhöhe_ = 0;
     int gezeigte_Wahl_ = -1;
 };

@@ -2,7 +2,9 @@
 
 #include <QPainter>
 #include <QStyle>
+#include <QStyleOptionButton>
 #include <algorithm>
+#include <cmath>
 
 #include "oberflaeche/qt/bilder.hpp"
 #include "oberflaeche/qt/stil.hpp"
@@ -12,7 +14,36 @@ namespace {
 
 constexpr int modeste_Breite = 360;  // of texts that wrap
 
+// Ratio of brightness as the eye sees it, 1 to 21.
+double Kontrast(const QColor& a, const QColor& b) {
+    const auto helligkeit = [](const QColor& f) {
+        const auto anteil = [](double w) { return w <= 0.03928 ? w / 12.92 : std::pow((w + 0.055) / 1.055, 2.4); };
+        return 0.2126 * anteil(f.redF()) + 0.7152 * anteil(f.greenF()) + 0.0722 * anteil(f.blueF()) + 0.05;
+    };
+    const double ha = helligkeit(a), hb = helligkeit(b);
+    return std::max(ha, hb) / std::min(ha, hb);
+}
+
 }  // namespace
+
+void Kastenbild::paintEvent(QPaintEvent* was) {
+    if (isEnabled() && Kontrast(palette().color(QPalette::WindowText), palette().color(QPalette::Window)) < 2) {
+        QStyleOptionButton option;
+        initStyleOption(&option);
+        QRect platz = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, this);
+        platz.setWidth(fontMetrics().size(Qt::TextShowMnemonic, text()).width());
+        const QColor dunkel(0x4a, 0x58, 0x66);
+        QPainter maler(this);
+        Tafel_malen(maler, QRectF(platz).adjusted(-3, 0, 4, 0), dunkel, dunkel, 3);
+    }
+    QCheckBox::paintEvent(was);
+}
+
+void Listenbild::focusInEvent(QFocusEvent* was) {
+    // Not QListView's: that one makes the first line current when none is.
+    QAbstractScrollArea::focusInEvent(was);
+    viewport()->update();
+}
 
 Schriftbild::Schriftbild(QWidget* eltern) : QLabel(eltern) { setTextFormat(Qt::PlainText); }
 

@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QGroupBox>
 #include <QLabel>
+#include <QListView>
 #include <QMargins>
 #include <QRadioButton>
 #include <QTabBar>
@@ -14,13 +15,15 @@
 
 namespace tonkartei {
 
-// Boxes and option buttons that never change by themselves: the model says what is chosen.
+// Boxes and option buttons that never change by themselves: the model says what is chosen. A caption in a light colour of
+// the user's own gets a dark ground, so that it can be read.
 class Kastenbild : public QCheckBox {
 public:
     using QCheckBox::QCheckBox;
 
 protected:
     void nextCheckState() override {}
+    void paintEvent(QPaintEvent* was) override;
 };
 
 class Optionsbild : public QRadioButton {
@@ -29,6 +32,15 @@ public:
 
 protected:
     void nextCheckState() override {}
+};
+
+// List that takes the focus without choosing a line.
+class Listenbild : public QListView {
+public:
+    using QListView::QListView;
+
+protected:
+    void focusInEvent(QFocusEvent* was) override;
 };
 
 // Label: plain text, cut with an ellipsis where it does not fit, in a frame for values.
