@@ -1,5 +1,3 @@
-#include <set>
-
 #include "buehne.hpp"
 
 namespace tonkartei {
