@@ -9,6 +9,7 @@ Text Name_des_Fehlers(int nummer) {
         case Fehler_Index: return "Index außerhalb des gültigen Bereichs";
         case Fehler_Division: return "Division durch Null";
         case Fehler_Typ: return "Typen unverträglich";
+        case 52: return "Dateiname oder Dateinummer falsch";
         case 53: return "Datei nicht gefunden";
         case 54: return "Dateimodus falsch";
         case 55: return "Datei bereits geöffnet";

@@ -190,6 +190,8 @@ std::string_view Kanäle::Wert(Kanal& kanal) {
     do {
         while (kanal.stelle < kanal.ende && kanal.puffer[kanal.stelle] == ' ') ++kanal.stelle;
     } while (kanal.stelle == kanal.ende && nachfüllen(kanal));
+    // Blanks alone are no value: a number that was cut off in front of its digits must not read as 0.
+    if (kanal.stelle == kanal.ende) throw Dateifehler(62, kanal.pfad);
     std::size_t länge = 0;
     const auto am_Wertende = [](char zeichen) { return zeichen == ',' || zeichen == '\r' || zeichen == '\n'; };
     for (;;) {

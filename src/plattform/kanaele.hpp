@@ -40,8 +40,8 @@ public:
     // A whole line, up to CR LF or the end of the file. A CR or LF that stands alone belongs to the line, so all
     // 256 bytes come back in a name.
     Text lese_Zeile(int nummer);
-    // A value: blanks before it skipped, up to a comma or any line end (CR LF, CR or LF), blanks behind it cut. Quotes mean
-    // nothing.
+    // A value: blanks before it skipped, up to a comma or any line end (CR LF, CR or LF), blanks behind it cut. Blanks alone
+    // up to the end of the file are no value but the end (62). Quotes mean nothing.
     Text lese_Wert(int nummer);
     // The same with the file's own bytes, for paths.
     std::string lese_Rohwert(int nummer);
