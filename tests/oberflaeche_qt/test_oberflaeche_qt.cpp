@@ -3,13 +3,17 @@
 #include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QComboBox>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QTimer>
+#include <QUrl>
 #include <cstdlib>
 #include <filesystem>
 
@@ -193,6 +197,37 @@ TEST_F(Desktop, SlidersAndCombosReportTheHandAlone) {
     Taste_auf(combo, Qt::Key_Down);
     EXPECT_EQ(fenster.Genre.gewählt(), 2);
     EXPECT_EQ(wahl, 2);
+}
+
+TEST_F(Desktop, FilesFromTheFileManagerKeepTheirBytes) {
+    std::vector<Text> pfade;
+    fenster.Liste.Dateien_abgelegt.verbinden([&](const std::vector<Text>& p) { pfade = p; });
+    QMimeData daten;
+    daten.setUrls({QUrl::fromEncoded("file:///m/a%20%C3%A4.mp3"), QUrl::fromEncoded("file:///m/%FF.mp3"),
+                   QUrl::fromEncoded("http://x/y.mp3")});
+    QWidget* ziel = widget<QListView>(fenster.Liste).viewport();
+    QDragEnterEvent kommt(QPoint(5, 5), Qt::CopyAction, &daten, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(ziel, &kommt);
+    EXPECT_TRUE(kommt.isAccepted());
+    QDropEvent fall(QPointF(5, 5), Qt::CopyAction, &daten, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(ziel, &fall);
+    EXPECT_TRUE(pfade.empty()) << "the other program is let go first";
+    ansicht.Ereignisse_laufen_lassen();
+    EXPECT_EQ(pfade, (std::vector<Text>{"/m/a ä.mp3", "/m/\xff.mp3"}));
+}
+
+TEST_F(Desktop, APaintedWindowRunsNeitherInputNorTimers) {
+    int ticks = 0;
+    Zeitgeber uhr(ansicht, [&] { ++ticks; });
+    uhr.stellen(1, true);
+    QElapsedTimer zeit;
+    zeit.start();
+    for (int i = 0; i < 20 || zeit.elapsed() < 5; ++i) {
+        fenster.Fortschritt.wert(i % 100);
+        fenster.malen();
+    }
+    EXPECT_EQ(ticks, 0);
+    ansicht.warten_bis(fenster, [&] { return ticks > 0; });
 }
 
 TEST_F(Desktop, CloseBoxOnlyAsks) {

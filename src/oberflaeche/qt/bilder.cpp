@@ -96,6 +96,14 @@ void Linien(QPainter& m, std::initializer_list<std::array<double, 4>> linien) {
     for (const auto& l : linien) m.drawLine(QPointF(l[0], l[1]), QPointF(l[2], l[3]));
 }
 
+// A disc in the colour, on which white is drawn.
+void Scheibe(QPainter& m) {
+    const QPen stift = m.pen();
+    m.setPen(Qt::NoPen);
+    m.drawEllipse(QPointF(8, 8), 7, 7);
+    m.setPen(QPen(Qt::white, stift.widthF() * 0.85, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+}
+
 const std::map<Text, Zeichner>& Piktogramme() {
     static const std::map<Text, Zeichner> alle = {
         {"play", [](QPainter& m) { Dreieck(m, 4.5, 3, 4.5, 13, 13, 8); }},
@@ -145,6 +153,22 @@ const std::map<Text, Zeichner>& Piktogramme() {
              m.setBrush(Qt::NoBrush);
              m.drawEllipse(QPointF(7, 7), 4, 4);
              Linien(m, {{10, 10, 13.5, 13.5}});
+         }},
+        {"auskunft",
+         [](QPainter& m) {
+             Scheibe(m);
+             m.drawEllipse(QPointF(8, 4.9), 0.35, 0.35);
+             Linien(m, {{8, 7.6, 8, 11.4}});
+         }},
+        {"frage",
+         [](QPainter& m) {
+             Scheibe(m);
+             m.setBrush(Qt::NoBrush);
+             QPainterPath bogen(QPointF(6, 6.3));
+             bogen.cubicTo(6, 3.6, 10, 3.6, 10, 6.2);
+             bogen.cubicTo(10, 7.6, 8, 7.8, 8, 9.4);
+             m.drawPath(bogen);
+             m.drawEllipse(QPointF(8, 11.7), 0.3, 0.3);
          }},
         {"auf",
          [](QPainter& m) {

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "oberflaeche/qt/bilder.hpp"
+
 namespace tonkartei {
 namespace {
 
@@ -275,11 +277,20 @@ int Stil::styleHint(StyleHint was, const QStyleOption* option, const QWidget* wi
         case SH_UnderlineShortcut: return 1;
         case SH_EtchDisabledText:
         case SH_DitherDisabledText: return 0;
+        case SH_DialogButtonBox_ButtonsHaveIcons:
         case SH_ComboBox_Popup: return 0;
         case SH_ItemView_ShowDecorationSelected: return 1;
         // The selection looks the same when another control has the focus: the chosen line stays the chosen one.
         case SH_ItemView_ChangeHighlightOnFocus: return 0;
         default: return QProxyStyle::styleHint(was, option, widget, zurück);
+    }
+}
+
+QIcon Stil::standardIcon(StandardPixmap was, const QStyleOption* option, const QWidget* widget) const {
+    switch (was) {
+        case SP_MessageBoxInformation: return Bildsymbol("auskunft", QColor::fromRgb(Ton::Akzent), {});
+        case SP_MessageBoxQuestion: return Bildsymbol("frage", QColor::fromRgb(Ton::Akzent), {});
+        default: return QProxyStyle::standardIcon(was, option, widget);
     }
 }
 
