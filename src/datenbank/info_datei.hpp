@@ -34,7 +34,7 @@ public:
     // Writes everything that must be written, under the safety copy. False after a failure, which the user was told.
     bool schreibe_Datenbank(bool Fortschritt_zeigen);
 
-    // The conversion steps of older layouts. Each takes and gives back the open file; until they come they decline.
+    // The conversion steps of older layouts. Each takes and gives back the open file; without them such a file is declined.
     using Konvertierer = std::function<bool(Text& Datei, int& Dateinummer)>;
     Konvertierer konvertiere_1_00, konvertiere_1_01;
     // The writers of the albums and of the ignore list, called when those were changed.

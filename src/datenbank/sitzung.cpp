@@ -59,6 +59,7 @@ bool Sitzung::lade_Datenbank() {
         }
         // Nothing is written yet: the first save makes the file.
         Standard_Datenbank(modell_, true);
+        modell_.konvertiert_in_Temp = false;
         modell_.Datenbank_offen = true;
         return true;
     }
@@ -135,6 +136,7 @@ bool Sitzung::Datenbank_erstellen(bool fragen, bool Kategorien_übernehmen) {
     // A run that has had no collection yet has no categories to take over.
     const bool neue_Kategorien = !Kategorien_übernehmen || modell_.Anzahl_Kategorien == 0;
     Standard_Datenbank(modell_, neue_Kategorien);
+    modell_.konvertiert_in_Temp = false;
     andere_Speicher_vergessen();
     modell_.Datenbank_offen = true;
     geladen(neue_Kategorien);

@@ -21,6 +21,8 @@ Programm::Teile::Teile(const Plattform& p, Ansicht& a, const Text& Kommandozeile
 
 // What travels upward between the floors.
 void Programm::Teile::verbinden() {
+    info.konvertiere_1_00 = [this](Text& datei, int& nummer) { return konvertierung.konvertiere_1_00(datei, nummer); };
+    info.konvertiere_1_01 = [this](Text& datei, int& nummer) { return konvertierung.konvertiere_1_01(datei, nummer); };
     sitzung.geladen.verbinden([this](bool Startkategorien_setzen) {
         sitzung.Datenbank_Liste_nachführen();
         fenster.Datenbank_geladen(Startkategorien_setzen);

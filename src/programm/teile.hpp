@@ -5,6 +5,7 @@
 #include "datenbank/einstellungsspeicher.hpp"
 #include "datenbank/fortschritt.hpp"
 #include "datenbank/info_datei.hpp"
+#include "datenbank/konvertierung.hpp"
 #include "datenbank/sitzung.hpp"
 #include "datenbank/zugriffsdatei.hpp"
 #include "kategorien/kategorie_wahl.hpp"
@@ -46,6 +47,8 @@ struct Programm::Teile {
 
     Fortschritts_Fenster fortschritt{ansicht};
     Info_Datei info{modell, kanäle, plattform.Dateisystem, ansicht, fortschritt};
+    Konvertierung konvertierung{
+        modell, kanäle, plattform.Dateisystem, ansicht, fortschritt, plattform.Rechner.Temp_Verzeichnis()};
     Zugriffsdatei zugriff{modell, kanäle, plattform.Rechner, ansicht};
     Sitzung sitzung{modell, einstellungen, info, zugriff, plattform, ansicht};
     Datenbank_öffnen datenbank_öffnen{ansicht, einstellungen, plattform.Dateisystem};

@@ -1,0 +1,94 @@
+// Both steps from older layouts: whatever the bytes, the outcome is a file that the reader takes, or the one box with the
+// old file kept whole; only the overflow of a damaged number ends the program.
+#include "datenbank/fortschritt.hpp"
+#include "datenbank/info_datei.hpp"
+#include "datenbank/konvertierung.hpp"
+#include "mp3/speicher_dateisystem.hpp"
+#include "plattform/kanaele.hpp"
+#include "probe/stumme_ansicht.hpp"
+#include "treiber.hpp"
+
+using namespace tonkartei;
+
+namespace {
+
+constexpr const char* Pfad = "/MP3_Info.MDB";
+
+struct Ja_Ansicht : Stumme_Ansicht {
+    Antwort melden(const Meldungsfeld&) override { return Antwort::Ja; }
+};
+
+// Names can change here, and writing makes files.
+struct Platte : Speicher_Dateisystem {
+    Griff öffnen(const Text& pfad, Dateimodus modus) override {
+        if (modus == Dateimodus::schreiben) Dateien[pfad] = {};
+        return Speicher_Dateisystem::öffnen(pfad, modus);
+    }
+    void umbenennen(const Text& von, const Text& nach) override {
+        verlangt(offene() == 0, "no file is renamed while one is open");
+        Dateien[nach] = Dateien.at(von);
+        Dateien.erase(von);
+    }
+    void löschen(const Text& pfad) override { Dateien.erase(pfad); }
+};
+
+std::string Saat_1_00() {
+    return "Tonkartei\r\nV 1.00 03\r\n 2 \r\nAlle\r\nTechno\r\n 2 \r\n"
+           " 1 \r\nA\x82 B\r\n 3000 \r\n 2 \r\n\x81T\x81\r\n-1 \r\n\r\n 0 \r\n 1 \r\n\r\n";
+}
+
+std::string Saat_1_01() {
+    std::string bytes = "Tonkartei\r\nV 1.01 05\r\n 2 \r\nAlle\r\nTechno\r\n 1 \r\n";
+    for (int s = 1; s <= 9; ++s) bytes += " 1 \r\nSchema " + std::to_string(s) + "\r\n 1 \r\n";
+    return bytes + " 1 \r\n 7 \r\nArtist, der\r\n 3000 \r\n 2 \r\n Titel\r\n";
+}
+
+}  // namespace
+
+std::vector<std::string> Fuzz_Saat() { return {Saat_1_00(), Saat_1_01(), ""}; }
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t größe) {
+    const std::string vorher(reinterpret_cast<const char*>(daten), größe);
+    Platte dateien;
+    dateien.Dateien[Pfad].Inhalt = vorher;
+    Kanäle kanäle(dateien);
+    Ja_Ansicht ansicht;
+    Fortschritts_Fenster fortschritt(ansicht);
+    Modell modell;
+    modell.Programmversion = "V 1.02 16";
+    modell.Datenbank_Verzeichnis = "/";
+    Info_Datei info(modell, kanäle, dateien, ansicht, fortschritt);
+    Konvertierung konvertierung(modell, kanäle, dateien, ansicht, fortschritt, "/temp/");
+    bool erster = true;
+    const auto Schritt = [&](bool gelungen, int nummer) {
+        verlangt(gelungen == kanäle.offen(1) && !kanäle.offen(2),
+                 "the new file is open after success, nothing after failure");
+        verlangt(gelungen == (nummer != 0), "the number tells");
+        const auto kopie = dateien.Dateien.find("/konvert.bak");
+        verlangt(gelungen == (kopie == dateien.Dateien.end()), "the old file goes with success only");
+        if (!gelungen && erster) verlangt(kopie->second.Inhalt == vorher, "the old file is whole");
+        erster = false;
+        return gelungen;
+    };
+    info.konvertiere_1_00 = [&](Text& datei, int& nummer) {
+        const bool gelungen = konvertierung.konvertiere_1_00(datei, nummer);
+        return Schritt(gelungen, nummer);
+    };
+    info.konvertiere_1_01 = [&](Text& datei, int& nummer) {
+        const bool gelungen = konvertierung.konvertiere_1_01(datei, nummer);
+        return Schritt(gelungen, nummer);
+    };
+    try {
+        Text pfad = Pfad;
+        int nummer = 0;
+        const bool geprüft = info.pruefe_Info_Datei(pfad, nummer);
+        const bool konvertiert = geprüft && dateien.Dateien.at(Pfad).Inhalt != vorher;
+        if (!geprüft) verlangt(!kanäle.offen(1), "a refused file is closed");
+        if (geprüft && !info.lesen(nummer)) verlangt(!konvertiert, "what was converted can be read");
+    } catch (const Dateifehler&) {
+        verlangt(false, "file failures stay within the steps");
+    } catch (const Laufzeitfehler& fehler) {
+        verlangt(fehler.Nummer() == Fehler_Überlauf || fehler.Nummer() == Fehler_Index, "only overflow and bounds end it");
+    }
+    return 0;
+}
