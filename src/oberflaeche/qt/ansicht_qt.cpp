@@ -5,11 +5,13 @@
 #include <QClipboard>
 #include <QDialog>
 #include <QEventLoop>
+#include <QSystemTrayIcon>
 #include <QTimer>
 #include <algorithm>
 #include <cstdlib>
 #include <map>
 #include <set>
+#include <utility>
 
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/menue.hpp"
@@ -46,6 +48,9 @@ struct Ansicht_Qt::Innen {
                          [this] { offene_schließen(); });
     }
 
+    // A box that came up when the end was decided already says something about it, and stays until it is answered.
+    bool kasten_bleibt = false;
+
     // While it lives, timers rest; those that fell due run once afterwards.
     class Ruhe {
     public:
@@ -63,6 +68,17 @@ struct Ansicht_Qt::Innen {
     private:
         Innen& innen_;
     };
+
+    // Runs a box: the windows below it are up to date, timers rest.
+    template <class Kasten>
+    auto zeigen(Kasten kasten) {
+        const Ruhe stille(*this);
+        const bool vorher = std::exchange(kasten_bleibt, ansicht.endet());
+        maler.abgleichen();
+        auto antwort = kasten(Eltern());
+        kasten_bleibt = vorher;
+        return antwort;
+    }
 
     void fällig(Zeitgeber& z, QTimer& uhr) {
         if (ansicht.endet()) return;
@@ -90,7 +106,7 @@ struct Ansicht_Qt::Innen {
         if (!ansicht.endet()) return;
         if (QWidget* menü = QApplication::activePopupWidget())
             menü->close();
-        else if (auto* kasten = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+        else if (auto* kasten = qobject_cast<QDialog*>(QApplication::activeModalWidget()); kasten && !kasten_bleibt)
             kasten->reject();
     }
 
@@ -113,37 +129,27 @@ Fenstermaler_Qt& Ansicht_Qt::maler() noexcept { return innen_->maler; }
 
 Antwort Ansicht_Qt::melden(const Meldungsfeld& feld) {
     if (innen_->sitzung_endet) return feld.vorgabe;
-    const Innen::Ruhe ruhe(*innen_);
-    innen_->maler.abgleichen();
-    return Meldung_zeigen(feld, innen_->Eltern());
+    return innen_->zeigen([&](QWidget* eltern) { return Meldung_zeigen(feld, eltern); });
 }
 
 Text Ansicht_Qt::eingeben(const Text& text, const Text& titel, const Text& vorgabe) {
     if (innen_->sitzung_endet) return {};
-    const Innen::Ruhe ruhe(*innen_);
-    innen_->maler.abgleichen();
-    return Eingabe_zeigen(text, titel, vorgabe, innen_->Eltern());
+    return innen_->zeigen([&](QWidget* eltern) { return Eingabe_zeigen(text, titel, vorgabe, eltern); });
 }
 
 Text Ansicht_Qt::Verzeichnis_wählen(const Text& titel) {
     if (innen_->sitzung_endet) return {};
-    const Innen::Ruhe ruhe(*innen_);
-    innen_->maler.abgleichen();
-    return Ordnerwahl_zeigen(titel, innen_->Eltern());
+    return innen_->zeigen([&](QWidget* eltern) { return Ordnerwahl_zeigen(titel, eltern); });
 }
 
 Text Ansicht_Qt::Datei_wählen(const Dateiwahl& wahl) {
     if (innen_->sitzung_endet) return {};
-    const Innen::Ruhe ruhe(*innen_);
-    innen_->maler.abgleichen();
-    return Dateiwahl_zeigen(wahl, innen_->Eltern());
+    return innen_->zeigen([&](QWidget* eltern) { return Dateiwahl_zeigen(wahl, eltern); });
 }
 
 std::optional<Farbe> Ansicht_Qt::Farbe_wählen(Farbe vorgabe) {
     if (innen_->sitzung_endet) return std::nullopt;
-    const Innen::Ruhe ruhe(*innen_);
-    innen_->maler.abgleichen();
-    return Farbwahl_zeigen(vorgabe, innen_->Eltern());
+    return innen_->zeigen([&](QWidget* eltern) { return Farbwahl_zeigen(vorgabe, eltern); });
 }
 
 void Ansicht_Qt::Fenster_geändert(Fenster& fenster) { innen_->maler.Fenster_geändert(fenster); }
@@ -171,6 +177,8 @@ void Ansicht_Qt::Menü_zeigen(Menüpunkt& wurzel) {
 }
 
 void Ansicht_Qt::Zwischenablage_setzen(const Text& text) { QGuiApplication::clipboard()->setText(Anzeigetext(text)); }
+
+bool Ansicht_Qt::Tray_da() const { return QSystemTrayIcon::isSystemTrayAvailable(); }
 
 int Ansicht_Qt::Textbreite(const Text& text, int punkte) const { return innen_->maler.Textbreite(text, punkte); }
 int Ansicht_Qt::Texthöhe(int punkte) const { return innen_->maler.Texthöhe(punkte); }
@@ -214,12 +222,11 @@ void Ansicht_Qt::Zeitgeber_entfernt(Zeitgeber& zeitgeber) {
 
 void Ansicht_Qt::an_Laufzeitfehler_enden(const Laufzeitfehler& fehler) {
     if (!innen_->sitzung_endet) {
-        const Innen::Ruhe ruhe(*innen_);
         Meldungsfeld feld;
         feld.titel = "Tonkartei";
         feld.text = "Laufzeitfehler '" + std::to_string(fehler.Nummer()) + "':" + Text(CRCR) + fehler.Beschreibung();
         feld.quelle = "laufzeit";
-        Meldung_zeigen(feld, innen_->Eltern());
+        innen_->zeigen([&](QWidget* eltern) { return Meldung_zeigen(feld, eltern); });
     }
     // At once: nothing is saved, no destructor runs, the access file stays.
     std::_Exit(1);

@@ -28,6 +28,7 @@ public:
     void modal_laufen(Fenster& fenster) override;
     void Menü_zeigen(Menüpunkt& wurzel) override;
     void Zwischenablage_setzen(const Text& text) override;
+    bool Tray_da() const override;
 
     int Textbreite(const Text& text, int punkte) const override;
     int Texthöhe(int punkte) const override;

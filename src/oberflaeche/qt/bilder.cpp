@@ -102,6 +102,7 @@ void Scheibe(QPainter& m) {
     m.setPen(Qt::NoPen);
     m.drawEllipse(QPointF(8, 8), 7, 7);
     m.setPen(QPen(Qt::white, stift.widthF() * 0.85, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    m.setBrush(Qt::white);
 }
 
 const std::map<Text, Zeichner>& Piktogramme() {

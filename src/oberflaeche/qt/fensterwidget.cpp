@@ -7,7 +7,6 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPainter>
-#include <QSystemTrayIcon>
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
@@ -199,9 +198,7 @@ void Fensterwidget::Maße_zeigen() {
 
 void Fensterwidget::Sichtbarkeit_zeigen() {
     const bool minimiert = fenster_.zustand() == Fensterzustand::minimiert;
-    // Without a tray nothing could bring it back: it stays in the task bar.
-    const bool bleibt = gezeigt_ && fenster_.geladen() && minimiert && !QSystemTrayIcon::isSystemTrayAvailable();
-    if (!fenster_.sichtbar() && !bleibt) {
+    if (!fenster_.sichtbar()) {
         gezeigt_ = false;
         if (umfeld_.vorderstes == &fenster_) umfeld_.vorderstes = nullptr;
         hide();
@@ -288,11 +285,7 @@ void Fensterwidget::changeEvent(QEvent* was) {
     if (was->type() != QEvent::WindowStateChange || !umfeld_.hört() || fenster_geändert_ || !gezeigt_) return;
     const auto zustand = isMinimized() ? Fensterzustand::minimiert : Fensterzustand::normal;
     if (zustand == fenster_.zustand()) return;
-    umfeld_.von_Hand([this, zustand] {
-        fenster_.von_Hand_Zustand(zustand);
-        // It was hidden, to the model, and had only stayed for want of a tray.
-        if (zustand == Fensterzustand::normal && fenster_.geladen() && !fenster_.sichtbar()) fenster_.zeigen();
-    });
+    umfeld_.von_Hand([this, zustand] { fenster_.von_Hand_Zustand(zustand); });
 }
 
 void Fensterwidget::keyPressEvent(QKeyEvent* was) {

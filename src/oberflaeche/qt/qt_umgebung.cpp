@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QToolTip>
 #include <QTranslator>
 #include <cstdlib>
 #include <string_view>
@@ -35,7 +36,6 @@ bool Qt_Umgebung::Bildschirm_da() {
 }
 
 Qt_Umgebung::Qt_Umgebung(int& argc, char** argv) {
-    QApplication::setDesktopSettingsAware(true);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     innen_ = std::make_unique<Innen>(argc, argv);
     QApplication& anwendung = innen_->anwendung;
@@ -45,6 +45,7 @@ Qt_Umgebung::Qt_Umgebung(int& argc, char** argv) {
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(new Stil);
     QApplication::setPalette(Farbtafel());
+    QToolTip::setPalette(Farbtafel());
     if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
         // No desktop that would say a font: always the same one, so that pictures can be compared.
         QFont schrift(QStringLiteral("DejaVu Sans"));
