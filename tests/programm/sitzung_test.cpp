@@ -1,0 +1,363 @@
+// The session: opening, leaving, saving, the access file, the recent folders; every box with its words and order.
+#include "programm/buehne.hpp"
+
+namespace tonkartei {
+namespace {
+
+const std::string Schreibfehler =
+    "Tonkartei|Es ist ein Fehler beim Schreiben der Datenbank-Informations-Datei aufgetreten!\n\nEventuell ist der "
+    "Datenträger "
+    "schreibgeschützt?|i";
+const std::string Lesefehler = "Tonkartei|Es ist ein Fehler beim öffnen der Informationsdatei aufgetreten!|i";
+const std::string Geladen = "Fortschritt|Datenbank laden...", Gespeichert = "Fortschritt|Datenbank speichern...";
+const std::string Kontakt = "tonkartei@example.org";
+
+std::string Zugriffsfrage(const std::string& pfad, const std::string& wann, const std::string& wer, const std::string& wo) {
+    return "Datenbank öffnen|Die Datenbank \"" + pfad + "\" ist bereits geöffnet!\n\nGeöffnet am " + wann + " Uhr von \"" +
+           wer + "\" auf dem Computer \"" + wo +
+           "\".\n\nDie Datenbank sollte jetzt nur geöffnet werden, wenn der Rechner vorher abgestürzt ist, anonsten führt "
+           "das "
+           "zu Datenverlust!\n\nWollen sie die Datenbank jetzt trotzdem öffnen?|?*Ja/Nein";
+}
+
+class Sitzung : public Bühne {
+protected:
+    std::string a = sammlung("a");
+    std::string zweite = sammlung("zweite", {.Lieder = {{"Zoe", "Neu", 0, 2048}}, .Kategorien = {"Alle", "Jazz"}});
+    Zeilen liste() { return b->zeilen("Tonkartei.Liste"); }
+    // Chooses a folder by the dialog.
+    void wechseln(const std::string& pfad) {
+        hände({"klick Tonkartei.öffne_Datenbank", "setze Datenbank_öffnen.Pfad " + Bediener::zitiert(pfad),
+               "klick Datenbank_öffnen.Ok"});
+    }
+};
+
+TEST_F(Sitzung, Zugriffsdatei) {
+    starten({.setze = zuletzt({a}), .uhr = "2026-03-05 09:04:07"});
+    EXPECT_EQ(
+        ordner.inhalt("a/MP3_Info.DBG"),
+        "Tonkartei\r\nV 1.02 16\r\nDatenbank-Zugriffsdatei\r\nRECHNER\r\nBENUTZER\r\n5\r\n3\r\n2026\r\n9\r\n4\r\n7\r\n");
+    hand("absturz");
+
+    // After a crash: who, where and when; whatever is not Yes ends the start.
+    starten({.setze = zuletzt({a}), .uhr = "2027-01-01 00:00:00"});
+    EXPECT_EQ(geschehen(), Zeilen{Zugriffsfrage(a, "05. Mrz 2026 um 09:04", "BENUTZER", "RECHNER")});
+    hand("antwort Nein");
+    EXPECT_EQ(b->Ende_abwarten(), 0);
+    EXPECT_TRUE(ordner.inhalt("a/MP3_Info.DBG").ends_with("5\r\n3\r\n2026\r\n9\r\n4\r\n7\r\n"));
+    starten({.setze = zuletzt({a}), .uhr = "2027-01-01 00:00:00"});
+    hand("antwort Ja");
+    EXPECT_EQ(b->bereit(), "schleife");
+    EXPECT_TRUE(ordner.inhalt("a/MP3_Info.DBG").ends_with("1\r\n1\r\n2027\r\n0\r\n0\r\n0\r\n"));
+}
+
+TEST_F(Sitzung, unbrauchbare_Zugriffsdatei_sperrt) {
+    const std::string autor = "\n\nKontaktieren sie den Autor!|i";
+    const std::string kaputt =
+        "Zugriffsdatei lesen|Es ist ein Fehler beim Lesen der Datenbank-Zugriffsdatei aufgetreten!" + autor;
+    struct Fall {
+        std::string bytes, box;
+    };
+    for (const Fall& f :
+         {Fall{Zugriffsdatei_Bytes("Anders"),
+               "Zugriffsdatei lesen|Die Zugriffsdatei ist nicht von diesem Programm erstellt worden!" + autor},
+          Fall{Zugriffsdatei_Bytes("Tonkartei", "V 9", "Andere Datei"),
+               "Zugriffsdatei lesen|Die Zugriffsdatei hat einen Fehler!" + autor},
+          Fall{"", kaputt},
+          Fall{"Tonkartei\r\nV 1.02 16\r\nDatenbank-Zugriffsdatei\r\nTURM\r\nHEIDI\r\n5\r\n3\r\n", kaputt}}) {
+        ordner.datei("a/MP3_Info.DBG", f.bytes);
+        öffnen(a);
+        EXPECT_EQ(geschehen(), Zeilen{f.box});
+        hand("antwort OK");
+        EXPECT_EQ(b->Ende_abwarten(), 0);
+        EXPECT_EQ(ordner.inhalt("a/MP3_Info.DBG"), f.bytes);
+    }
+    // Any version is good enough.
+    ordner.datei("a/MP3_Info.DBG", Zugriffsdatei_Bytes("Tonkartei", "irgendwas, mit Komma"));
+    öffnen(a);
+    EXPECT_EQ(geschehen(), Zeilen{Zugriffsfrage(a, "05. Mrz 2026 um 14:07", "HEIDI", "TURM")});
+}
+
+TEST_F(Sitzung, Parameter_I_gilt_nur_für_die_erste) {
+    ordner.datei("a/MP3_Info.DBG", "Unsinn");
+    ordner.datei("zweite/MP3_Info.DBG", Zugriffsdatei_Bytes());
+    öffnen(a, "i");
+    EXPECT_EQ(geschehen(), Zeilen{Geladen});
+    wechseln(zweite);
+    EXPECT_EQ(geschehen(), (Zeilen{Gespeichert, Zugriffsfrage(zweite, "05. Mrz 2026 um 14:07", "HEIDI", "TURM")}));
+    // Declined: the songs of before stay, their access file is gone with the save.
+    hand("antwort Nein");
+    EXPECT_EQ(liste().size(), 3U);
+    EXPECT_FALSE(ordner.da("a/MP3_Info.DBG"));
+    EXPECT_EQ(b->zeilen("Tonkartei.Datenbank"), Zeilen{a});
+    hand("schließe Tonkartei");
+    EXPECT_EQ(b->Ende_abwarten(), 0);
+    EXPECT_EQ(mdb(), Sammlung{}.bytes());
+}
+
+TEST_F(Sitzung, andere_Versionen) {
+    const std::string kopf =
+        "Tonkartei|Die Informationsdatei ist von einer anderen Programmversion.\n\naktuelle "
+        "Programmversion: V 1.02 16\nDateiversion: ";
+    const auto alte = [&](const std::string& version) {
+        return kopf + version +
+               "\n\nDie alte Versionen der Datei kann eingelesen und konvertiert werden. Allerdings kann sie dann nicht "
+               "mehr "
+               "mit Programmversionen, die kleiner Version des Programms geöffnet werden.\n\nSoll die Datenbank geöffnet "
+               "und "
+               "konvertiert werden?|?*Ja/Nein";
+    };
+    const auto fremde = [&](const std::string& version) {
+        return kopf + version + "\n\nKontaktieren sie den Autor für ein Update oder einen Konverter für die Datei.\n\n" +
+               Kontakt +
+               "\n\nEs kann auf eigene Gefahr hin versucht werden die Datei trotzdem zu lesen. Wollen sie dies "
+               "tun?|?Ja/*Nein";
+    };
+    struct Fall {
+        std::string version, frage;
+    };
+    for (const Fall& f :
+         {Fall{"V 1.02 15", alte("V 1.02 15")}, Fall{"V 1.02 00", alte("V 1.02 00")}, Fall{"V 1.03 00", fremde("V 1.03 00")},
+          Fall{"V 1.02 17", fremde("V 1.02 17")}, Fall{"v 1.02 15", fremde("v 1.02 15")}}) {
+        const std::string alt = sammlung("alt", {.Version = f.version});
+        const std::string vorher = mdb("alt");
+        öffnen(alt);
+        EXPECT_EQ(geschehen(), Zeilen{f.frage});
+        hand("antwort Nein");
+        EXPECT_EQ(b->Ende_abwarten(), 0);
+        EXPECT_EQ(mdb("alt"), vorher);
+        öffnen(alt);
+        hände({"antwort Ja", "klick Tonkartei.MP_Beenden"});
+        EXPECT_EQ(b->Ende_abwarten(), 0);
+        EXPECT_EQ(mdb("alt"), Sammlung{}.bytes());
+    }
+}
+
+TEST_F(Sitzung, falsche_Kategorien_werden_gemeldet_und_berichtigt) {
+    const std::string k =
+        sammlung("k", {.Lieder = {{"A & B", "Null", 0, 1, 0}, {"C", "Sieben", 0, 1, 7}, {"D", "gut", 0, 1, 6}}});
+    const auto box = [](const std::string& titel, const std::string& artist) {
+        return "Datenbank laden|Das Lied \"" + titel + "\"\nvon \"" + artist +
+               "\"\nhat einen Fehler bei der eingestellten Kategorie!\n\nDie Kategorie wurde auf \"Alle\" gesetzt.\n\nBitte "
+               "überprüfen!|i";
+    };
+    öffnen(k);
+    hände({"antwort OK", "antwort OK"});
+    EXPECT_EQ(geschehen(), (Zeilen{box("Null", "A & B"), box("Sieben", "C"), Geladen}));
+    hand("klick Tonkartei.MP_Beenden");
+    EXPECT_EQ(mdb("k"),
+              (Sammlung{.Lieder = {{"A & B", "Null", 0, 1, 1}, {"C", "Sieben", 0, 1, 1}, {"D", "gut", 0, 1, 6}}}.bytes()));
+}
+
+// What follows from a second collection: all of the list, the boxes, the recent folders.
+TEST_F(Sitzung, zweite_Datenbank) {
+    öffnen(a);
+    EXPECT_EQ(liste(), (Zeilen{"Anna - Zug", "Berta - Yacht", "Carla - Xylophon"}));
+    geschehen();
+    wechseln(zweite);
+    // Sort, search and boxes stand as they stood, and yet the list is the new one's.
+    EXPECT_EQ(geschehen(), (Zeilen{Gespeichert, Geladen}));
+    EXPECT_EQ(liste(), Zeilen{"Zoe - Neu"});
+    EXPECT_EQ(b->text("Tonkartei.Liste_Größe"), "2");
+    EXPECT_EQ(b->zeige("Tonkartei.zeige_Kategorie(3)")["sichtbar"], false);
+    EXPECT_EQ(b->zeilen("Tonkartei.Datenbank"), (Zeilen{zweite, a}));
+    EXPECT_FALSE(ordner.da("a/MP3_Info.DBG"));
+    EXPECT_TRUE(ordner.da("zweite/MP3_Info.DBG"));
+
+    hände({"setze Tonkartei.Schnellsuche zo", "klick Tonkartei.sortieren(1)", "klick Tonkartei.zeige_Kategorie(2)"});
+    EXPECT_EQ(liste(), Zeilen{"Neu (Zoe)"});
+    hand("setze Tonkartei.Datenbank #1");
+    EXPECT_EQ(liste(), (Zeilen{"Anna - Zug", "Berta - Yacht", "Carla - Xylophon"}));
+    EXPECT_EQ(b->text("Tonkartei.Schnellsuche"), "");
+    EXPECT_EQ(b->zeige("Tonkartei.sortieren(2)")["wert"], true);
+    EXPECT_EQ(b->zeige("Tonkartei.zeige_Kategorie(1)")["wert"], true);
+    (*b)("fokus");
+    EXPECT_EQ(b->antworten().front()["fokus"], "Tonkartei.Schnellsuche");
+}
+
+TEST_F(Sitzung, zuletzt_geöffnete) {
+    std::vector<std::string> alle{a};
+    for (int i = 2; i <= 9; ++i) alle.push_back(ordner.pfad("weg" + std::to_string(i) + "/"));
+    alle.push_back(zweite);
+    starten({.setze = zuletzt(alle)});
+    geschehen();
+    // Gone, and the open one: nothing changes.
+    hände({"setze Tonkartei.Datenbank #4", "antwort OK", "setze Tonkartei.Datenbank #0"});
+    EXPECT_EQ(geschehen(), Zeilen{"Datenbank öffnen|Die gewählte Datenbank existiert nicht mehr, oder ist momentan nicht "
+                                  "verfügbar.|i"});
+    EXPECT_EQ(b->zeige("Tonkartei.Datenbank")["gewählt"], 0);
+    EXPECT_EQ(b->zeilen("Tonkartei.Datenbank"), alle);
+    // A known one moves to the front, the others keep their order; a new one pushes the last out.
+    hand("setze Tonkartei.Datenbank #9");
+    auto erwartet = alle;
+    std::rotate(erwartet.begin(), erwartet.end() - 1, erwartet.end());
+    EXPECT_EQ(b->zeilen("Tonkartei.Datenbank"), erwartet);
+    const std::string dritte = sammlung("dritte");
+    wechseln(dritte.substr(0, dritte.size() - 1));
+    erwartet.insert(erwartet.begin(), dritte);
+    erwartet.pop_back();
+    EXPECT_EQ(b->zeilen("Tonkartei.Datenbank"), erwartet);
+    hand("klick Tonkartei.MP_Beenden");
+    EXPECT_EQ(b->Ende_abwarten(), 0);
+    starten();
+    for (int i = 1; i <= 10; ++i)
+        EXPECT_EQ(wert("geöffnete Datenbanken\\Nr. " + std::to_string(i)), erwartet[static_cast<std::size_t>(i - 1)]);
+}
+
+TEST_F(Sitzung, Dialog_Datenbank_wählen) {
+    starten({.setze = zuletzt({a, zweite})});
+    geschehen();
+    // Cancelled, by the button and by the close box: saved all the same, and without an access file.
+    for (const char* weise : {"klick Datenbank_öffnen.Abbruch", "schließe Datenbank_öffnen", "klick Datenbank_öffnen.Ok"}) {
+        hand("klick Tonkartei.öffne_Datenbank");
+        EXPECT_EQ(b->bereit_name(), "Datenbank_öffnen");
+        EXPECT_EQ(b->fenster("Datenbank_öffnen")["titel"], "Datenbank wählen");
+        EXPECT_EQ(b->zeilen("Datenbank_öffnen.Liste"), (Zeilen{a, zweite}));
+        hand(weise);
+        EXPECT_EQ(geschehen(), Zeilen{Gespeichert}) << weise;
+        EXPECT_EQ(b->bereit(), "schleife");
+        EXPECT_FALSE(ordner.da("a/MP3_Info.DBG"));
+    }
+    wechseln(ordner.pfad("fehlt"));
+    EXPECT_EQ(geschehen(),
+              Zeilen{"Datenbank wählen|Dieses Verzeichnis wurde nicht gefunden, oder es ist zur Zeit kein Zugriff "
+                     "darauf möglich!|i"});
+    hand("antwort OK");
+    EXPECT_EQ(geschehen(), Zeilen{Gespeichert});
+    hände({"klick Tonkartei.öffne_Datenbank", "klick Datenbank_öffnen.Pfad_wählen",
+           "pfad " + Bediener::zitiert(ordner.pfad("zweite"))});
+    EXPECT_EQ(b->text("Datenbank_öffnen.Pfad"), zweite);
+    hände({"wähle Datenbank_öffnen.Liste 0"});
+    EXPECT_EQ(b->text("Datenbank_öffnen.Pfad"), a);
+    hände({"wähle Datenbank_öffnen.Liste 1", "doppelklick Datenbank_öffnen.Liste"});
+    EXPECT_EQ(liste(), Zeilen{"Zoe - Neu"});
+}
+
+// A collection that cannot be opened: the songs of before stay in sight, and what needs an open collection refuses.
+TEST_F(Sitzung, misslungener_Wechsel) {
+    ordner.datei("zweite/MP3_Info.MDB", "Falsch\r\n" + mdb("zweite"));
+    ordner.datei("zweite/leer.txt");
+    öffnen(a);
+    geschehen();
+    wechseln(zweite);
+    EXPECT_EQ(geschehen(), (Zeilen{Gespeichert,
+                                   "Tonkartei|Die Informationsdatei MP3_Info.MDB ist fehlerhaft!\n\nKontaktieren "
+                                   "sie den Autor, um eventuell noch die Daten zu retten.\n\n" +
+                                       Kontakt + "|i"}));
+    hand("antwort OK");
+    EXPECT_EQ(liste().size(), 3U);
+    EXPECT_EQ(b->zeilen("Tonkartei.Datenbank"), Zeilen{a});
+    hand("klick Tonkartei.Menü_schreibe_Datenbank");
+    EXPECT_EQ(geschehen(), Zeilen{"Datenbank speichern| Die Datenbank kann nicht gespeichert werden. Eventuell ist keine "
+                                  "geöffnet?|i"});
+    hände({"antwort OK", "klick Tonkartei.Lieder_hinzufügen_Verzeichnis"});
+    EXPECT_EQ(b->bereit(), "schleife");
+    // The way back is open.
+    wechseln(a);
+    EXPECT_EQ(geschehen(), Zeilen{Geladen});
+    EXPECT_TRUE(ordner.da("a/MP3_Info.DBG"));
+}
+
+TEST_F(Sitzung, Speichern_von_Hand) {
+    öffnen(a);
+    geschehen();
+    const std::string erklärung =
+        "Datenbank speichern|Dieses Programm speichert die Änderungen an der Datenbank automatisch, wenn eine neue geöffnet "
+        "wird, oder wenn das Programm beendet wird.\n\nAus diesem Grund ist es normalerweise nicht nötig die Änderungen mit "
+        "diesem Menüpunkt zu speichern.|i";
+    hände({"klick Tonkartei.Menü_schreibe_Datenbank", "antwort OK"});
+    EXPECT_EQ(geschehen(), (Zeilen{erklärung, Gespeichert}));
+    EXPECT_TRUE(ordner.da("a/MP3_Info.DBG"));
+    EXPECT_EQ(mdb(), Sammlung{}.bytes());
+    hände(
+        {"schreibschutz " + a + " an", "klick Tonkartei.Menü_schreibe_Datenbank", "antwort OK", "antwort OK", "antwort OK"});
+    EXPECT_EQ(geschehen(),
+              (Zeilen{erklärung, Schreibfehler, "Datenbank speichern|Es ist ein Fehler beim speichern aufgetreten!|i"}));
+    EXPECT_EQ(b->bereit(), "schleife");
+}
+
+// Every way out of a collection that cannot be saved asks, in its own words.
+TEST_F(Sitzung, Fragen_nach_misslungenem_Speichern) {
+    const std::string ohne = "ohne das die alten Informationen gespeichert wurden?|?*Ja/Nein";
+    öffnen(a);
+    geschehen();
+    hand("schreibschutz " + a + " an");
+    hand("klick Tonkartei.Datenbank_neu");
+    EXPECT_EQ(geschehen(), Zeilen{Schreibfehler});
+    hand("antwort OK");
+    EXPECT_EQ(geschehen(), Zeilen{"Datenbank erstellen|Wollen sie wirklich eine neue Datenbank erstellen, " + ohne});
+    hand("antwort Nein");
+    EXPECT_EQ(b->bereit(), "schleife");
+    wechseln(zweite);
+    hand("antwort OK");
+    EXPECT_EQ(geschehen(),
+              (Zeilen{Schreibfehler, "Datenbank öffnen|Wollen sie wirklich eine neue Datenbank öffnen, " + ohne}));
+    hand("antwort Nein");
+    EXPECT_EQ(liste().size(), 3U);
+    hände({"schließe Tonkartei", "antwort OK"});
+    EXPECT_EQ(geschehen(), (Zeilen{Schreibfehler, "Programm beenden|Wollen sie das Prorgamm wirklich beenden, " + ohne}));
+    hand("antwort Nein");
+    EXPECT_EQ(b->bereit(), "schleife");
+    EXPECT_EQ(b->fenster("Tonkartei")["sichtbar"], true);
+    // An end from outside waits for no answer.
+    hand("schließe Tonkartei extern");
+    EXPECT_EQ(b->bereit(), "ende");
+    EXPECT_EQ(b->Ende_abwarten(), 0);
+    EXPECT_EQ(geschehen(),
+              (Zeilen{Schreibfehler, "Programm beenden|Wollen sie das Prorgamm wirklich beenden, " + ohne, "ende"}));
+    EXPECT_EQ(mdb(), Sammlung{}.bytes());
+    EXPECT_TRUE(ordner.da("a/MP3_Info.DBG"));
+}
+
+TEST_F(Sitzung, Ende_von_außen) {
+    // In the main loop without the progress window; in waiting and modal windows and under a box just the same.
+    for (const Zeilen& wo : {Zeilen{}, Zeilen{"klick Tonkartei.öffne_Datenbank"}, Zeilen{"klick Tonkartei.Uninstall"},
+                             Zeilen{"klick Tonkartei.Lieder_hinzufügen_Verzeichnis"}}) {
+        öffnen(a);
+        hände(wo);
+        geschehen();
+        hand("schließe Tonkartei extern");
+        EXPECT_EQ(b->Ende_abwarten(), 0) << (wo.empty() ? "" : wo[0]);
+        EXPECT_EQ(geschehen(), Zeilen{"ende"});
+        EXPECT_EQ(mdb(), Sammlung{}.bytes());
+        EXPECT_FALSE(ordner.da("a/MP3_Info.DBG"));
+    }
+}
+
+TEST_F(Sitzung, neue_Datenbank) {
+    for (const bool übernehmen : {true, false}) {
+        const std::string name = übernehmen ? "mit" : "ohne";
+        const std::string k = sammlung("k" + name, {.Kategorien = {"Alle", "Jazz"}, .Schemas = 3});
+        öffnen(k);
+        geschehen();
+        // Cancelled at each step nothing is made.
+        for (const Zeilen& abbruch : {Zeilen{"antwort OK", "abbrechen"},
+                                      Zeilen{"antwort OK", "pfad " + Bediener::zitiert(ordner.pfad()), "abbrechen"},
+                                      Zeilen{"antwort OK", "pfad " + Bediener::zitiert(ordner.pfad()), "eingabe "}}) {
+            hand("klick Tonkartei.Datenbank_neu");
+            hände(abbruch);
+            EXPECT_EQ(b->bereit(), "schleife");
+        }
+        geschehen();
+        hände(
+            {"klick Tonkartei.Datenbank_neu", "antwort OK", "pfad " + Bediener::zitiert(ordner.pfad()), "eingabe " + name});
+        EXPECT_EQ(geschehen().back(),
+                  "Datenbank erstellen|Wollen sie die Kategorien aus der aktuellen Datenbank in die neue "
+                  "übernehmen?|?*Ja/Nein");
+        hand(übernehmen ? "antwort Ja" : "antwort Nein");
+        EXPECT_TRUE(std::filesystem::is_empty(ordner.pfad(name)));
+        EXPECT_EQ(b->text("Tonkartei.zeige_Kategorie(2)"), übernehmen ? "Jazz" : "Freestyle");
+        EXPECT_EQ(b->zeige("Tonkartei.zeige_Kategorie(3)")["sichtbar"], !übernehmen);
+        EXPECT_EQ(b->zeige("Tonkartei.Kategorie_Schema(1)")["sichtbar"], false);
+        EXPECT_EQ(liste(), Zeilen{});
+        EXPECT_EQ(b->zeilen("Tonkartei.Datenbank"), (Zeilen{ordner.pfad(name) + "/", k}));
+        hand("klick Tonkartei.MP_Beenden");
+        EXPECT_EQ(b->Ende_abwarten(), 0);
+        EXPECT_TRUE(mdb(name).starts_with(übernehmen
+                                              ? "Tonkartei\r\nV 1.02 16\r\n 2 \r\nAlle\r\nJazz\r\n 0 \r\n 1 \r\nSchema 1"
+                                              : "Tonkartei\r\nV 1.02 16\r\n 6 \r\n"));
+    }
+}
+
+}  // namespace
+}  // namespace tonkartei
