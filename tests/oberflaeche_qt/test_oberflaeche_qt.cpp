@@ -232,15 +232,26 @@ TEST_F(Desktop, APaintedWindowRunsNeitherInputNorTimers) {
 
 TEST_F(Desktop, CloseBoxOnlyAsks) {
     QWidget& w = *ansicht.maler().Widget(fenster);
+    fenster.aktiv(false);
+    EXPECT_FALSE(w.close());
+    EXPECT_TRUE(fenster.geladen()) << "a blocked window does not even ask";
+    fenster.aktiv(true);
     EXPECT_FALSE(w.close());
     EXPECT_FALSE(fenster.geladen()) << "the model unloads it";
     abgleichen();
     EXPECT_FALSE(w.isVisible());
+}
+
+TEST_F(Desktop, ReloadedWindowShowsItsStartValues) {
     fenster.Ok.beschriftung("verändert");
-    fenster.zeigen();
+    fenster.Klassik.wert(true);
     abgleichen();
-    EXPECT_TRUE(w.isVisible());
-    EXPECT_EQ(widget<QAbstractButton>(fenster.Ok).text(), QStringLiteral("OK")) << "start values are shown after a reload";
+    EXPECT_EQ(widget<QAbstractButton>(fenster.Ok).text(), QStringLiteral("verändert"));
+    fenster.entladen();
+    fenster.zeigen();  // before anything was shown of the unloading
+    abgleichen();
+    EXPECT_EQ(widget<QAbstractButton>(fenster.Ok).text(), QStringLiteral("OK"));
+    EXPECT_FALSE(widget<QAbstractButton>(fenster.Klassik).isChecked());
 }
 
 TEST_F(Desktop, SizeFollowsTheModelAndTheHand) {
