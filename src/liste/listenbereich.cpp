@@ -2,13 +2,16 @@
 
 #include <algorithm>
 
+#include "alben/alben.hpp"
 #include "kategorien/kategorienbereich.hpp"
+#include "liste/alben_liste.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fenster.hpp"
 
 namespace tonkartei {
 
-Listenbereich::Listenbereich(Fenster& f, Modell& modell, const Einstellungen& einstellungen, Kategorienbereich& kategorien)
+Listenbereich::Listenbereich(Fenster& f, Modell& modell, const Einstellungen& einstellungen, const Albenbestand& alben,
+                             Kategorienbereich& kategorien)
     : Datenbank_Modus(f, "Datenbank_Modus", {"Lieder", "Alben"}),
       sortieren_Text(f, "sortieren_Text", "sortieren:"),
       sortieren_Titel(f, "sortieren", "Titel", 1),
@@ -17,7 +20,7 @@ Listenbereich::Listenbereich(Fenster& f, Modell& modell, const Einstellungen& ei
       Schnellsuche(f, "Schnellsuche"),
       Liste(f, "Liste"),
       Nr_Liste(f, "Nr_Liste"),
-      Liste2(f, "Liste2"),
+      Liste2(f, "Liste2", Liste, einstellungen),
       Liste_Anzahl_Text(f, "Liste_Anzahl_Text", "Lieder:"),
       Liste_Anzahl(f, "Liste_Anzahl", "0"),
       Liste_Größe_Text(f, "Liste_Größe_Text", "MB:"),
@@ -40,6 +43,7 @@ Listenbereich::Listenbereich(Fenster& f, Modell& modell, const Einstellungen& ei
       fenster_(f),
       modell_(modell),
       einstellungen_(einstellungen),
+      alben_(alben),
       kategorien_(kategorien) {
     sortieren_Titel.tooltip("Zeigt den Titel des Liedes vorne an und sortiert die Liste danach");
     sortieren_Artist.tooltip("Zeigt den Artist des Liedes vorne an und sortiert die Liste danach");
@@ -47,8 +51,6 @@ Listenbereich::Listenbereich(Fenster& f, Modell& modell, const Einstellungen& ei
     Reset_Anzahl.tooltip("ändert, wie oft das Lied gehört wurde");
     Reset_Anzahl.aktiv(false);
     Nr_Liste.unsichtbarer_Helfer = true;
-    Liste2.frei = true;
-    Liste2.sichtbar(false);
     for (Schriftfeld* wert :
          {&Liste_Anzahl, &Liste_Größe, &Liste_Dauer, &Titel, &Artist, &Anzahl, &Lied_Größe, &Lied_Zeit}) {
         wert->eingerahmt = true;
@@ -64,11 +66,14 @@ Listenbereich::Listenbereich(Fenster& f, Modell& modell, const Einstellungen& ei
     Schnellsuche.Tastendruck.verbinden([this](Taste& taste) { Suchtaste(taste); });
     Liste.Klick.verbinden([this] { Zeile_gewählt(); });
     Liste.Doppelklick.verbinden([this] { Zeile_ausführen(); });
-    Liste.Tastendruck.verbinden([this](Taste& taste) {
-        if (taste.art != Taste::Art::Return) return;
-        taste.erledigt = true;
-        Zeile_ausführen();
-    });
+    Liste2.Klick.verbinden([this] { Titel_gewählt(); });
+    Liste2.Doppelklick.verbinden([this] { Zeile_ausführen(); });
+    for (Listenfeld* liste : {&Liste, static_cast<Listenfeld*>(&Liste2)})
+        liste->Tastendruck.verbinden([this](Taste& taste) {
+            if (taste.art != Taste::Art::Return) return;
+            taste.erledigt = true;
+            Zeile_ausführen();
+        });
     Reset_Anzahl.Klick.verbinden([this] {
         if (angezeigtes_Lied_ > 0) Anzahl_ändern(angezeigtes_Lied_);
     });
@@ -93,11 +98,7 @@ Knoten Listenbereich::Liedknoten(Auswahlfeld& Lied_Kategorie) {
                        Knoten(Lied_Größe).zeichen(6).dehnen(1), Lied_Zeit_Text, Knoten(Lied_Zeit).zeichen(5).dehnen(1)})}));
 }
 
-// The titles of an album lie over the lower four fifths of the list.
-void Listenbereich::freie_Lage() {
-    const Bereich& l = Liste.lage();
-    Liste2.lage({l.links, l.oben + l.höhe / 5, l.breite, l.höhe - l.höhe / 5});
-}
+void Listenbereich::freie_Lage() { Liste2.Lage_nachführen(); }
 
 void Listenbereich::Sortierung_wählen(Sortierung sortierung) {
     sortierung_ = sortierung;
@@ -110,7 +111,10 @@ void Listenbereich::Sicht_zurücksetzen() {
 }
 
 void Listenbereich::aktualisiere_Liste() {
-    if (Datenbank_Modus.wert() == 0) erstelle_Lieder_Liste();
+    if (Datenbank_Modus.wert() == 0)
+        erstelle_Lieder_Liste();
+    else
+        erstelle_Alben_Liste();
 }
 
 void Listenbereich::erstelle_Lieder_Liste() {
@@ -152,10 +156,52 @@ void Listenbereich::erstelle_Liste_von_Nr_Liste() {
         summe.dazu(lied);
     }
     Liste.setzen(std::move(zeilen));
-    Liste_Anzahl.beschriftung(Zahltext(Liste.Anzahl()));
+    Summe_zeigen(Liste.Anzahl(), summe);
+    Liste.sichtbar(true);
+}
+
+void Listenbereich::Summe_zeigen(int anzahl, const Listensumme& summe) {
+    Liste_Anzahl.beschriftung(Zahltext(anzahl));
     Liste_Größe.beschriftung(Zahltext(summe.KByte / 1024));
     Liste_Dauer.beschriftung(Dauer_Text(static_cast<double>(summe.Sekunden)));
-    Liste.sichtbar(true);
+}
+
+// All albums, whatever the search holds. None of them is chosen, so there are no titles and no totals.
+void Listenbereich::erstelle_Alben_Liste() {
+    Liste2.hinausfahren();
+    Liste2.leeren();
+    const auto nummern = modell_.Alben_geladen ? sortierte_Alben(alben_) : std::vector<long long>{};
+    Nr_Liste_setzen(nummern);
+    std::vector<Text> zeilen;
+    zeilen.reserve(nummern.size());
+    for (const long long nr : nummern) zeilen.push_back(Album_Zeile(alben_.Alben[nr]));
+    Liste.setzen(std::move(zeilen));
+    Liste_Anzahl.beschriftung("---");
+    Liste_Größe.beschriftung("");
+    Liste_Dauer.beschriftung("");
+    // The song whose details stand there may be one of a collection that is no longer open.
+    Einzelheiten_leeren();
+}
+
+void Listenbereich::zeige_Album(Long Nr) {
+    const Album& album = alben_.Alben[Nr];
+    Liste2.setzen(Titelzeilen(album));
+    Listensumme summe;
+    for (int t = 1; t <= album.Titel_Anzahl; ++t)
+        if (const Long lied = Lied_von(modell_, album.Lieder[t]); lied > 0) summe.dazu(modell_.Lieder[lied]);
+    Summe_zeigen(Liste2.Anzahl(), summe);
+    Liste2.hineinfahren();
+}
+
+void Listenbereich::Titel_gewählt() {
+    if (Album_Nr() < 1) return;
+    if (const Long lied = Album_Lied_Nr(); lied > 0) {
+        zeige_Lied(lied);
+        return;
+    }
+    Einzelheiten_leeren();
+    Titel.beschriftung(">>> nicht in Datenbank <<<");
+    Lied_Zeit.beschriftung("");
 }
 
 // After a rebuild no details are shown, even where the choice was restored, until the next click. The song's time stays.
@@ -170,11 +216,28 @@ void Listenbereich::Einzelheiten_leeren() {
 Long Listenbereich::Lied_Nr(int Index) const { return gerundet(Zahlwert(Nr_Liste.zeile(Index))); }
 
 Long Listenbereich::gewähltes_Lied() const {
-    return Datenbank_Modus.wert() == 0 && Liste.gewählt() >= 0 ? Lied_Nr(Liste.gewählt()) : 0;
+    if (Datenbank_Modus.wert() == 1) return Album_Lied_Nr();
+    return Liste.gewählt() >= 0 ? Lied_Nr(Liste.gewählt()) : 0;
+}
+
+Long Listenbereich::Album_Nr() const {
+    if (Datenbank_Modus.wert() != 1 || !modell_.Alben_geladen || Liste.gewählt() < 0) return 0;
+    const Long nr = Lied_Nr(Liste.gewählt());
+    // A special list of songs may stand in this tab.
+    return nr <= alben_.Anzahl ? nr : 0;
+}
+
+Long Listenbereich::Album_Lied_Nr() const {
+    const Long nr = Album_Nr();
+    return nr > 0 && Liste2.gewählt() >= 0 ? Lied_von(modell_, alben_.Alben[nr].Lieder[Liste2.gewählt() + 1]) : 0;
 }
 
 void Listenbereich::Zeile_gewählt() {
-    if (Datenbank_Modus.wert() == 0 && Liste.gewählt() >= 0) zeige_Lied(Lied_Nr(Liste.gewählt()));
+    if (Liste.gewählt() < 0) return;
+    if (Datenbank_Modus.wert() == 0)
+        zeige_Lied(Lied_Nr(Liste.gewählt()));
+    else if (const Long nr = Album_Nr(); nr > 0)
+        zeige_Album(nr);
 }
 
 void Listenbereich::zeige_Lied(Long Nr) {
@@ -229,6 +292,12 @@ void Listenbereich::Tab_gewechselt() {
         Datenbank_Modus.wert(0);  // comes back here and rebuilds
         return;
     }
+    if (Datenbank_Modus.wert() == 0) {
+        Liste2.hinausfahren();
+        Liste2.leeren();
+    }
+    // What was chosen is of the other kind: an album's number must not come back as a song's.
+    Liste.wähle(-1);
     aktualisiere_Liste();
 }
 

@@ -8,6 +8,7 @@
 #include "datenbank/modell.hpp"
 #include "grundlagen/ereignis.hpp"
 #include "liste/lieder_liste.hpp"
+#include "liste/titelliste.hpp"
 #include "oberflaeche/anordnung.hpp"
 #include "oberflaeche/elemente.hpp"
 #include "oberflaeche/listen.hpp"
@@ -15,10 +16,12 @@
 namespace tonkartei {
 
 class Kategorienbereich;
+struct Albenbestand;
 
 class Listenbereich {
 public:
-    Listenbereich(Fenster& fenster, Modell& modell, const Einstellungen& einstellungen, Kategorienbereich& kategorien);
+    Listenbereich(Fenster& fenster, Modell& modell, const Einstellungen& einstellungen, const Albenbestand& alben,
+                  Kategorienbereich& kategorien);
 
     Reiter Datenbank_Modus;  // 0 songs, 1 albums
     Schriftfeld sortieren_Text;
@@ -27,7 +30,7 @@ public:
     Textfeld Schnellsuche;
     Listenfeld Liste;
     Listenfeld Nr_Liste;  // hidden: the number of each line of Liste
-    Listenfeld Liste2;    // titles of the chosen album
+    Titelliste Liste2;    // titles of the chosen album
     Schriftfeld Liste_Anzahl_Text, Liste_Anzahl, Liste_Größe_Text, Liste_Größe, Liste_Dauer_Text, Liste_Dauer;
 
     Rahmen Lied_Rahmen;
@@ -45,6 +48,9 @@ public:
     Long Lied_Nr(int Index) const;
     // Number of the song chosen in the present tab; 0 none.
     Long gewähltes_Lied() const;
+    // In the album tab: number of the album chosen in Liste, and of the song of the title chosen in Liste2; 0 none.
+    Long Album_Nr() const;
+    Long Album_Lied_Nr() const;
     // Number of the song whose details are shown; 0 none.
     Long angezeigtes_Lied() const noexcept { return angezeigtes_Lied_; }
     void zeige_Lied(Long Nr);
@@ -71,6 +77,10 @@ public:
 
 private:
     void erstelle_Lieder_Liste();
+    void erstelle_Alben_Liste();
+    void zeige_Album(Long Nr);
+    void Titel_gewählt();
+    void Summe_zeigen(int Anzahl, const Listensumme& summe);
     void Einzelheiten_leeren();
     void Sortierung_wählen(Sortierung sortierung);
     void Suche_geändert();
@@ -82,6 +92,7 @@ private:
     Fenster& fenster_;
     Modell& modell_;
     const Einstellungen& einstellungen_;
+    const Albenbestand& alben_;
     Kategorienbereich& kategorien_;
     Sortierung sortierung_ = Sortierung::Artist;
     Long angezeigtes_Lied_ = 0;

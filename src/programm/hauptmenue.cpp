@@ -42,7 +42,8 @@ public:
              Befehl("zeige_Playlist", "eigene WinAmp &Playlist..."), Befehl("zentriere_Playlist", "Playliste &zentrieren"),
              Strich("Bearbeiten_Strich2"), Befehl("zeige_Alben_Verwaltung", "&Alben-Verwaltung..."),
              Befehl("Alben_Verwaltung_zentrieren", "Alben-&Verwaltung zentrieren"),
-             Befehl("Menü_starte_Album", "Album &spielen..."), Strich("Bearbeiten_Strich3"),
+             Befehl("Menü_starte_Album", "Album &spielen...", [this] { t.alben_befehle.Menü_starte_Album(); }),
+             Strich("Bearbeiten_Strich3"),
              Befehl("zentrieren", "Datenbank &zentrieren", [this] { t.fenster.zentrieren(); })});
     }
 

@@ -23,7 +23,10 @@ Programm::Teile::Teile(const Plattform& p, Ansicht& a, const Text& Kommandozeile
 void Programm::Teile::verbinden() {
     info.konvertiere_1_00 = [this](Text& datei, int& nummer) { return konvertierung.konvertiere_1_00(datei, nummer); };
     info.konvertiere_1_01 = [this](Text& datei, int& nummer) { return konvertierung.konvertiere_1_01(datei, nummer); };
+    info.Alben_schreiben = [this] { return alben_datei.Alben_schreiben(); };
     sitzung.geladen.verbinden([this](bool Startkategorien_setzen) {
+        // The albums of the collection before need no memory any more.
+        if (!modell.Alben_geladen) alben.eigene = {};
         sitzung.Datenbank_Liste_nachführen();
         fenster.Datenbank_geladen(Startkategorien_setzen);
     });
@@ -48,6 +51,9 @@ void Programm::Teile::verbinden() {
     wiedergabe.Starter.Liste_gestartet.verbinden([this] {
         if (fenster.aktiv() && !fenster.Wiedergabe.Autoplay.wert()) fenster.Lieder.Schnellsuche_fokussieren();
     });
+    fenster.Lieder.Liste2.Sleep = [this](int ms) { plattform.Rechner.Sleep(ms); };
+    fenster.Lieder.Alben_öffnen = [this] { return alben_befehle.Ansicht_öffnen(); };
+    album_start.starte_WinAmp_Liste = [this](const Text& datei) { wiedergabe.Starter.starte_WinAmp_Liste(datei); };
     wiedergabe.Optionen.geändert.verbinden([this] { Menüs_nachführen(); });
 
     const auto anhören = [this](const Text& datei) { wiedergabe.Starter.starte_WinAmp_Datei(datei); };
@@ -156,6 +162,7 @@ void Programm::Teile::wird_geschlossen() {
     if (Einstellungen_werden_geschrieben) Einstellungen_schreiben(registry, einstellungen);
     splash.entladen();
     kategorie_wahl.entladen();
+    album_wählen.entladen();
     fortschritt.entladen();
     ansicht.beenden();
 }

@@ -1,6 +1,10 @@
 // All parts of the program in the order in which they need each other.
 #pragma once
 
+#include "alben/alben_befehle.hpp"
+#include "alben/alben_datei.hpp"
+#include "alben/album_start.hpp"
+#include "alben/album_waehlen.hpp"
 #include "datenbank/datenbank_oeffnen.hpp"
 #include "datenbank/einstellungsspeicher.hpp"
 #include "datenbank/fortschritt.hpp"
@@ -47,15 +51,21 @@ struct Programm::Teile {
 
     Fortschritts_Fenster fortschritt{ansicht};
     Info_Datei info{modell, kanäle, plattform.Dateisystem, ansicht, fortschritt};
-    Konvertierung konvertierung{
-        modell, kanäle, plattform.Dateisystem, ansicht, fortschritt, plattform.Rechner.Temp_Verzeichnis()};
+    Konvertierung konvertierung{modell,  kanäle,      plattform.Dateisystem,
+                                ansicht, fortschritt, plattform.Rechner.Temp_Verzeichnis()};
     Zugriffsdatei zugriff{modell, kanäle, plattform.Rechner, ansicht};
     Sitzung sitzung{modell, einstellungen, info, zugriff, plattform, ansicht};
     Datenbank_öffnen datenbank_öffnen{ansicht, einstellungen, plattform.Dateisystem};
     Kategorie_Wahl kategorie_wahl{ansicht, modell};
 
+    Alben alben{plattform.Rechner, ansicht};
+    Alben_Datei alben_datei{modell, alben, kanäle, plattform.Dateisystem, ansicht};
+    Album_wählen album_wählen{ansicht, alben};
+    Album_Start album_start{modell, einstellungen, alben, kanäle, ansicht};
+    Alben_Befehle alben_befehle{modell, alben_datei, album_wählen, album_start, ansicht};
+
     Wiedergabe wiedergabe{modell, einstellungen, plattform, kanäle, ansicht};
-    Tonkartei fenster{ansicht, modell, einstellungen, wiedergabe.Zählung};
+    Tonkartei fenster{ansicht, modell, einstellungen, alben.eigene, wiedergabe.Zählung};
     Splash splash{ansicht, modell, einstellungen, sitzung, kanäle, plattform};
 
     Dateien_übernehmen dateien_übernehmen{modell, plattform.Dateisystem, plattform.Shell, taghead, fortschritt};

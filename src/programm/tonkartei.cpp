@@ -6,10 +6,11 @@
 
 namespace tonkartei {
 
-Tonkartei::Tonkartei(Ansicht& ansicht, Modell& modell, Einstellungen& einstellungen, Spielzählung& zählung)
+Tonkartei::Tonkartei(Ansicht& ansicht, Modell& modell, Einstellungen& einstellungen, const Albenbestand& alben,
+                     Spielzählung& zählung)
     : Fenster(ansicht, "Tonkartei", Programmtitel),
       Kategorien(*this, modell, einstellungen),
-      Lieder(*this, modell, einstellungen, Kategorien),
+      Lieder(*this, modell, einstellungen, alben, Kategorien),
       Wiedergabe(*this, zählung),
       modell_(modell),
       einstellungen_(einstellungen) {

@@ -16,10 +16,12 @@ namespace tonkartei {
 class Sitzung;
 class Spielzählung;
 class Startparameter;
+struct Albenbestand;
 
 class Tonkartei : public Fenster {
 public:
-    Tonkartei(Ansicht& ansicht, Modell& modell, Einstellungen& einstellungen, Spielzählung& zählung);
+    Tonkartei(Ansicht& ansicht, Modell& modell, Einstellungen& einstellungen, const Albenbestand& alben,
+              Spielzählung& zählung);
 
     Schriftfeld Datenbank_Text{*this, "Datenbank_Text", "D&atenbank:"};
     Auswahlfeld Datenbank{*this, "Datenbank"};

@@ -1,0 +1,37 @@
+#include "alben/alben_befehle.hpp"
+
+#include "alben/alben_datei.hpp"
+#include "alben/album_start.hpp"
+#include "alben/album_waehlen.hpp"
+#include "datenbank/modell.hpp"
+#include "oberflaeche/ansicht.hpp"
+
+namespace tonkartei {
+
+Alben_Befehle::Alben_Befehle(Modell& modell, Alben_Datei& datei, Album_wählen& auswahl, Album_Start& start, Ansicht& ansicht)
+    : modell_(modell), datei_(datei), auswahl_(auswahl), start_(start), ansicht_(ansicht) {}
+
+bool Alben_Befehle::Ansicht_öffnen() {
+    if (Alben_offen()) return false;
+    if (modell_.Alben_geladen) return true;
+    if (datei_.Album_Datei_vorhanden()) {
+        if (datei_.Alben_lesen()) return true;
+        modell_.Meldung = "Es ist ein Fehler beim lesen der Alben-Verwaltung aufgetreten." + Text(CRCR) +
+                          "Bitte kontaktieren sie den Autor.";
+    } else {
+        modell_.Meldung = "Für diese Datenbank existiert noch keine Alben-Verwaltung." + Text(CRCR) +
+                          "Gehen sie zum Menüpunkt Bearbeiten/Alben-Verwaltung um eine anzulegen.";
+    }
+    ansicht_.informieren("Alben", modell_.Meldung);
+    return false;
+}
+
+void Alben_Befehle::Menü_starte_Album() {
+    if (!datei_.Album_Datei_vorhanden()) {
+        ansicht_.informieren("Album spielen", "Für diese Datenbank existiert noch keine Alben-Verwaltung!");
+        return;
+    }
+    if (datei_.geladen_oder_gelesen()) start_.starte_Album(auswahl_.wählen());
+}
+
+}  // namespace tonkartei
