@@ -155,8 +155,8 @@ TEST_F(Sitzung, zweite_Datenbank) {
     EXPECT_EQ(liste(), (Zeilen{"Anna - Zug", "Berta - Yacht", "Carla - Xylophon"}));
     geschehen();
     wechseln(zweite);
-    // Sort, search and boxes stand as they stood, and yet the list is the new one's.
-    EXPECT_EQ(geschehen(), (Zeilen{Gespeichert, Geladen}));
+    // Sort, search and boxes stand as they stood, and yet the list is the new one's. One song is read too fast to be shown.
+    EXPECT_EQ(geschehen(), Zeilen{Gespeichert});
     EXPECT_EQ(liste(), Zeilen{"Zoe - Neu"});
     EXPECT_EQ(b->text("Tonkartei.Liste_Größe"), "2");
     EXPECT_EQ(b->zeige("Tonkartei.zeige_Kategorie(3)")["sichtbar"], false);
