@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include "datenbank/modell.hpp"
 #include "oberflaeche/elemente.hpp"
@@ -21,7 +22,7 @@ public:
     Knopf Kategorie_Edit{*this, "Kategorie_Edit", "Kategorien &bearbeiten..."};
 
     // Shows the song and waits for a click on a line: the number of the category. The close box does nothing unless the
-    // end comes from outside (then category 1).
+    // end comes from outside (then category 1). A second question may come up while the first one waits: it goes first.
     Byte wählen(const Text& titel, const Text& artist, const Text& Datei);
     // The lines, as the table of categories has them; called when the table changes.
     void Kategorien_füllen();
@@ -36,9 +37,16 @@ protected:
     bool beim_Schließen(Schließgrund grund) override;
 
 private:
+    struct Frage {
+        const Text& titel;
+        const Text& artist;
+        const Text& datei;
+        int zeile = -1;
+    };
+    void stellen(const Frage& frage);
+
     const Modell& modell_;
-    Text datei_;
-    bool gewählt_ = false;
+    std::vector<Frage*> fragen_;  // the one that waits for its answer behind
 };
 
 }  // namespace tonkartei

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "grundlagen/codepage.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fenster.hpp"
 
@@ -19,6 +20,7 @@ struct Kategorienbereich::Stille {
 Kategorienbereich::Kategorienbereich(Fenster& fenster, Modell& modell, Einstellungen& einstellungen)
     : Kategorien_Rahmen(fenster, "Kategorien_Rahmen", "Kategorien"),
       Schema_Rahmen(fenster, "Schema_Rahmen"),
+      Kategorie_Edit(fenster, "Kategorie_Edit", "Kategorien b&earbeiten..."),
       Lied_Kategorie(fenster, "Lied_Kategorie"),
       fenster_(fenster),
       modell_(modell),
@@ -43,6 +45,8 @@ Kategorienbereich::Kategorienbereich(Fenster& fenster, Modell& modell, Einstellu
             Schema_beschreiben(n);
         });
     }
+    Kategorie_Edit.tooltip("öffnet das Fenster zum Bearbeiten der Kategorien");
+    Kategorie_Edit.Klick.verbinden([this] { Kategorien_bearbeiten(); });
     Lied_Kategorie.aktiv(false);
     Lied_Kategorie.tooltip("Die Kategorie des Liedes");
     Lied_Kategorie.Klick.verbinden([this] { Kategorie_des_Liedes_geändert(); });
@@ -63,8 +67,9 @@ Knoten Kategorienbereich::anordnung() {
     for (auto& kasten : kästen_) kästen.push_back(Knoten(*kasten).dehnen(1));
     std::vector<Knoten> schemas;
     for (auto& knopf : schemas_) schemas.push_back(Knoten(*knopf));
-    return Gruppe(Kategorien_Rahmen, Spalte({Gitter(2, std::move(kästen)).lücke(30),
-                                             Gruppe(Schema_Rahmen, Zeile(std::move(schemas)).lücke(30))}));
+    return Gruppe(Kategorien_Rahmen,
+                  Spalte({Gitter(2, std::move(kästen)).lücke(30),
+                          Zeile({Gruppe(Schema_Rahmen, Zeile(std::move(schemas)).lücke(30)), Feder(), Kategorie_Edit})}));
 }
 
 void Kategorienbereich::melden() { Tabelle_geändert(); }
@@ -166,13 +171,15 @@ void Kategorienbereich::Kategorie_des_Liedes_geändert() {
     Lied& lied = modell_.Lieder[nr];
     const int neu = Lied_Kategorie.gewählt() + 1;
     if (neu == lied.Kategorie) return;
+    // Not while the category of a song is asked for whose own one was removed.
+    const bool alt = lied.Kategorie >= 1 && lied.Kategorie <= modell_.Anzahl_Kategorien;
     if (einstellungen_.Kategorie_wechsel_bestätigen) {
         modell_.Meldung = "Wollen sie die Kategorie des Liedes " + in_Anführungszeichen(lied.Titel) + " von " +
                           in_Anführungszeichen(lied.Artist) + " wirklich von " +
-                          in_Anführungszeichen(modell_.Kategorien[lied.Kategorie]) + " auf " +
+                          in_Anführungszeichen(alt ? modell_.Kategorien[lied.Kategorie] : Text{}) + " auf " +
                           in_Anführungszeichen(modell_.Kategorien[neu]) + " ändern?";
         if (!fenster_.ansicht().fragen("Kategorie wechseln", modell_.Meldung)) {
-            Lied_Kategorie.wähle(lied.Kategorie - 1);
+            Lied_Kategorie.wähle(alt ? lied.Kategorie - 1 : -1);
             return;
         }
     }
@@ -232,8 +239,10 @@ void Kategorienbereich::Schema_wählen(int n) {
         const Stille stille(Kategorie_Ereignisse_an_);
         for (int k = 1; k <= Kategorien_maximal; ++k) zeige_Kategorie(k).wert(false);
         const Schema& schema = modell_.Schemas[n];
-        for (int i = 1; i <= schema.Anzahl; ++i)
-            if (schema.Kategorien[i] <= modell_.Anzahl_Kategorien) zeige_Kategorie(schema.Kategorien[i]).wert(true);
+        for (int i = 1; i <= schema.Anzahl; ++i) {
+            const Byte k = schema.Kategorien[i];
+            if (k >= 1 && k <= modell_.Anzahl_Kategorien) zeige_Kategorie(k).wert(true);
+        }
     }
     Auswahl_geändert();
     Suche_fokussieren();
@@ -248,8 +257,8 @@ void Kategorienbereich::Schema_speichern(int n) {
 
 void Kategorienbereich::Schema_beschreiben(int n) {
     Schema& schema = modell_.Schemas[n];
-    const Text name = fenster_.ansicht().eingeben("Geben sie eine neue Kurzbeschreibung für dieses Schema ein:",
-                                                  "Kategorie-Schema-Kurzbeschreibung ändern", schema.Name);
+    const Text name = auf_Seite(fenster_.ansicht().eingeben("Geben sie eine neue Kurzbeschreibung für dieses Schema ein:",
+                                                            "Kategorie-Schema-Kurzbeschreibung ändern", schema.Name));
     if (name.empty()) return;
     schema.Name = name;
     Kategorie_Schema(n).tooltip(name);

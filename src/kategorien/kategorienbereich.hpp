@@ -24,6 +24,7 @@ public:
     Rahmen Schema_Rahmen;
     Kasten& zeige_Kategorie(int k) const;
     Knopf& Kategorie_Schema(int n) const;
+    Knopf Kategorie_Edit;
     Auswahlfeld Lied_Kategorie;
 
     // All controls in line with the table of categories; box 1 is checked, or the stored boxes with `Startkategorien_setzen`
@@ -49,6 +50,8 @@ public:
     Ereignis<> Auswahl_geändert;
     // The user is done with a box or a scheme: on with the search.
     Ereignis<> Suche_fokussieren;
+    // The editor is wanted.
+    Ereignis<> Kategorien_bearbeiten;
     // Caption, state or number of categories or schemes changed, for the pop-up menus.
     Ereignis<> Tabelle_geändert;
     // Number of the song whose details are shown; 0 none.
