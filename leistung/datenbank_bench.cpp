@@ -1,0 +1,82 @@
+// Loading and saving a collection of 5000 songs against the plainest way to move the same bytes.
+#include <cstring>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "datenbank/fortschritt.hpp"
+#include "datenbank/info_datei.hpp"
+#include "leistung/verhaeltnis.hpp"
+#include "plattform/kanaele.hpp"
+#include "plattform/linux/dateisystem_linux.hpp"
+#include "tests/probe/stumme_ansicht.hpp"
+#include "tests/testordner.hpp"
+
+namespace {
+
+using namespace tonkartei;
+
+// A disk that does not wait for the platter: the benchmark measures the writing, not the sync.
+struct Dateisystem_ohne_Sichern : Dateisystem_Linux {
+    void sichern(Griff) override {}
+};
+
+void füllen(Modell& modell) {
+    modell.Programmversion = "V 1.02 16";
+    Standard_Datenbank(modell, true);
+    modell.Anzahl_Lieder = Lieder_maximal;
+    for (int n = 1; n <= Lieder_maximal; ++n) {
+        Lied& lied = modell.Lieder[n];
+        lied.Artist = (n % 7 == 0 ? "Die Schöne Kapelle " : "Some Band With A Name ") + std::to_string(n * 7919 % 997);
+        lied.Titel = "A title of the usual length no. " + std::to_string(n);
+        lied.Größe = 3000 + n;
+        lied.Anzahl = n % 50;
+        lied.Kategorie = static_cast<Byte>(1 + n % 6);
+        lied.Zeit = Zeit_aus(0, 3, n % 60);
+    }
+}
+
+}  // namespace
+
+int main() {
+    const Testordner ordner;
+    Dateisystem_ohne_Sichern dateien;
+    dateien.aktuellen_Ordner_setzen(ordner.pfad());
+    Kanäle kanäle(dateien);
+    Stumme_Ansicht ansicht;
+    Fortschritts_Fenster fortschritt(ansicht);
+    Modell modell;
+    füllen(modell);
+    modell.Datenbank_Verzeichnis = ordner.pfad();
+    Info_Datei info(modell, kanäle, dateien, ansicht, fortschritt);
+    info.schreibe_Datenbank(false);
+    const Text pfad = ordner.pfad("MP3_Info.MDB");
+    const std::string bytes = ordner.inhalt("MP3_Info.MDB");
+
+    Verhältnisse v(31);
+    v.höchstens(
+        "Laden von 5000 Liedern", 3, "Zeilen derselben Datei lesen",
+        [&] {
+            Text datei = pfad;
+            int nummer = 0;
+            return info.pruefe_Info_Datei(datei, nummer) && info.lesen(nummer) ? modell.Anzahl_Lieder : 0;
+        },
+        [&] {
+            std::ifstream strom(pfad, std::ios::binary);
+            std::vector<std::string> zeilen;
+            for (std::string zeile; std::getline(strom, zeile);) zeilen.push_back(zeile);
+            return zeilen.size();
+        });
+    v.höchstens(
+        "Speichern von 5000 Liedern", 3, "dieselben Bytes schreiben", [&] { return info.schreibe_Datenbank(false) ? 1 : 0; },
+        [&] {
+            // The same steps around it: the old file aside, the new one, the copy gone.
+            std::filesystem::rename(pfad, ordner.pfad("MP3_Bak.MDB"));
+            std::ofstream strom(pfad, std::ios::binary);
+            strom.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+            strom.close();
+            std::filesystem::remove(ordner.pfad("MP3_Bak.MDB"));
+            return bytes.size();
+        });
+    return v.Ergebnis();
+}

@@ -1,0 +1,61 @@
+// A rebuild of the song list against sorting the same keys.
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "alben/album.hpp"
+#include "datenbank/einstellungen.hpp"
+#include "kategorien/kategorienbereich.hpp"
+#include "leistung/verhaeltnis.hpp"
+#include "liste/listenbereich.hpp"
+#include "oberflaeche/fenster.hpp"
+#include "tests/probe/stumme_ansicht.hpp"
+
+namespace {
+
+using namespace tonkartei;
+
+struct Listenfenster : Fenster {
+    Modell modell;
+    Einstellungen einstellungen;
+    Kategorienbereich kategorien{*this, modell, einstellungen};
+    Albenbestand alben;
+    Listenbereich lieder{*this, modell, einstellungen, alben, kategorien};
+    explicit Listenfenster(Ansicht& ansicht) : Fenster(ansicht, "Listenfenster", "") {}
+};
+
+}  // namespace
+
+int main() {
+    Stumme_Ansicht ansicht;
+    Listenfenster f(ansicht);
+    Standard_Datenbank(f.modell, true);
+    f.modell.Anzahl_Lieder = Lieder_maximal;
+    for (int n = 1; n <= Lieder_maximal; ++n) {
+        Lied& lied = f.modell.Lieder[n];
+        lied.Artist = (n % 7 == 0 ? "Die Schöne Kapelle " : "Some Band With A Name ") + std::to_string(n * 7919 % 997);
+        lied.Titel = "A title of the usual length no. " + std::to_string(n * 31 % 5003);
+        lied.Kategorie = static_cast<Byte>(1 + n % 6);
+        lied.Größe = 3000;
+    }
+    f.laden();
+    f.kategorien.aktualisiere_Kategorie_List(false);
+
+    std::vector<std::string> schlüssel;
+    for (int n = 1; n <= Lieder_maximal; ++n)
+        schlüssel.push_back(groß(f.modell.Lieder[n].Artist + f.modell.Lieder[n].Titel) + Zahl_mit_Nullen(n, 8));
+
+    Verhältnisse v(31);
+    v.höchstens(
+        "Aufbau der Liste aus 5000 Liedern", 2, "std::sort derselben Schlüssel",
+        [&] {
+            f.lieder.aktualisiere_Liste();
+            return f.lieder.Liste.Anzahl();
+        },
+        [&] {
+            std::vector<std::string> kopie = schlüssel;
+            std::sort(kopie.begin(), kopie.end());
+            return kopie.front().size();
+        });
+    return v.Ergebnis();
+}
