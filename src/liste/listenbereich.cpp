@@ -250,7 +250,9 @@ void Listenbereich::zeige_Lied(Long Nr) {
     Lied_Zeit.beschriftung(Minuten_Sekunden(lied.Zeit));
     Reset_Anzahl.aktiv(true);
     kategorien_.Lied_Kategorie.aktiv(true);
-    if (lied.Kategorie <= kategorien_.Lied_Kategorie.Anzahl()) kategorien_.Lied_Kategorie.wähle(lied.Kategorie - 1);
+    // A song whose category was removed has none until the user has picked the new one.
+    const bool da = lied.Kategorie >= 1 && lied.Kategorie <= kategorien_.Lied_Kategorie.Anzahl();
+    kategorien_.Lied_Kategorie.wähle(da ? lied.Kategorie - 1 : -1);
     // Also where the category is the one of the song before: the rebuild has taken the colours away.
     kategorien_.zeige_Kategorie_Farben();
 }

@@ -71,7 +71,8 @@ public:
 
     Menüzeile Hilfe() {
         return Untermenü("OMP_Hilfe", "&?",
-                         {Befehl("zeige_Info", "&Info"), Befehl("zeige_Parameter", "Kommandozeilen-Parameter", [this] {
+                         {Befehl("zeige_Info", "&Info", [this] { t.infofenster.zeigen_modal(); }),
+                          Befehl("zeige_Parameter", "Kommandozeilen-Parameter", [this] {
                               t.modell.Meldung = Parameter_Beschreibung();
                               t.ansicht.informieren("Kommandozeilen-Parameter", t.modell.Meldung);
                           })});

@@ -16,6 +16,7 @@ void Programm::starten() { teile_->starten(); }
 Programm::Teile::Teile(const Plattform& p, Ansicht& a, const Text& Kommandozeile)
     : plattform(p), ansicht(a), parameter(Kommandozeile) {
     fenster.Menü_anlegen(Hauptmenü_Tabelle(*this));
+    kontextmenüs = std::make_unique<Kontextmenüs>(ansicht, modell, fenster);
     verbinden();
 }
 
@@ -55,6 +56,23 @@ void Programm::Teile::verbinden() {
     fenster.Lieder.Alben_öffnen = [this] { return alben_befehle.Ansicht_öffnen(); };
     album_start.starte_WinAmp_Liste = [this](const Text& datei) { wiedergabe.Starter.starte_WinAmp_Liste(datei); };
     wiedergabe.Optionen.geändert.verbinden([this] { Menüs_nachführen(); });
+
+    kontextmenüs->Winamp_Pause = [this] {
+        const WinAmp& spieler = wiedergabe.Spieler;
+        if (spieler.WinAmp_da) wiedergabe.Steuerung.WinAmp_Befehl(WinAmp_Code_Pause, spieler.WinAmp_Hwnd);
+    };
+
+    fenster.Kategorien.Kategorien_bearbeiten.verbinden([this] {
+        if (!modell.Datenbank_offen) return;
+        fenster.aktiv(false);
+        kategorie_bearbeiten.öffnen(Kategorie_bearbeiten::vom_Hauptfenster);
+    });
+    kategorie_bearbeiten.geschlossen.verbinden([this] { fenster.Kategorien.aktualisiere_Kategorie_List(false); });
+    kategorie_bearbeiten.zurück[Kategorie_bearbeiten::vom_Hauptfenster] = [this] {
+        fenster.aktiv(true);
+        fenster.Lieder.Schnellsuche_fokussieren();
+        return true;
+    };
 
     const auto anhören = [this](const Text& datei) { wiedergabe.Starter.starte_WinAmp_Datei(datei); };
     kategorie_wahl.Datei_abspielen = anhören;
@@ -134,6 +152,7 @@ void Programm::Teile::Menüs_nachführen() {
     menü("Menü_WinAmp_verstecken").haken(e.WinAmp_verstecken);
     menü.nur_Haken("Menü_WinAmp_Beenden", e.WinAmp_beenden, 1, 4);
     menü.nur_Haken("Anz_Kat_Schemas", modell.Anz_Kat_Schemas, 0, Schemas_maximal);
+    kontextmenüs->nachführen();
 }
 
 bool Programm::Teile::darf_schließen(Schließgrund grund) {
@@ -161,6 +180,7 @@ void Programm::Teile::wird_geschlossen() {
     einstellungen.Kategorien = fenster.Kategorien.Kategorien_Maske();
     if (Einstellungen_werden_geschrieben) Einstellungen_schreiben(registry, einstellungen);
     splash.entladen();
+    infofenster.entladen();
     kategorie_wahl.entladen();
     album_wählen.entladen();
     fortschritt.entladen();

@@ -12,6 +12,7 @@
 #include "datenbank/konvertierung.hpp"
 #include "datenbank/sitzung.hpp"
 #include "datenbank/zugriffsdatei.hpp"
+#include "kategorien/kategorie_bearbeiten.hpp"
 #include "kategorien/kategorie_wahl.hpp"
 #include "lieder/dateien_uebernehmen.hpp"
 #include "lieder/lieder_eintragen.hpp"
@@ -21,6 +22,8 @@
 #include "lieder/verzeichnis_add.hpp"
 #include "mp3/mp3_taghead.hpp"
 #include "plattform/kanaele.hpp"
+#include "programm/infofenster.hpp"
+#include "programm/kontextmenues.hpp"
 #include "programm/programm.hpp"
 #include "programm/splash.hpp"
 #include "programm/startparameter.hpp"
@@ -57,6 +60,7 @@ struct Programm::Teile {
     Sitzung sitzung{modell, einstellungen, info, zugriff, plattform, ansicht};
     Datenbank_öffnen datenbank_öffnen{ansicht, einstellungen, plattform.Dateisystem};
     Kategorie_Wahl kategorie_wahl{ansicht, modell};
+    Kategorie_bearbeiten kategorie_bearbeiten{ansicht, modell, kategorie_wahl};
 
     Alben alben{plattform.Rechner, ansicht};
     Alben_Datei alben_datei{modell, alben, kanäle, plattform.Dateisystem, ansicht};
@@ -66,6 +70,7 @@ struct Programm::Teile {
 
     Wiedergabe wiedergabe{modell, einstellungen, plattform, kanäle, ansicht};
     Tonkartei fenster{ansicht, modell, einstellungen, alben.eigene, wiedergabe.Zählung};
+    Infofenster infofenster{ansicht, modell};
     Splash splash{ansicht, modell, einstellungen, sitzung, kanäle, plattform};
 
     Dateien_übernehmen dateien_übernehmen{modell, plattform.Dateisystem, plattform.Shell, taghead, fortschritt};
@@ -75,6 +80,8 @@ struct Programm::Teile {
     neue_Lieder_Liste neue_Lieder{ansicht, plattform.Dateisystem, taghead, fortschritt, übernahme};
     // What the menu's handlers work with, kept for as long as the menu.
     std::shared_ptr<void> menübefehle;
+    // Made as soon as the menu bar is there, whose commands it runs.
+    std::unique_ptr<Kontextmenüs> kontextmenüs;
 
     Lieder_hinzufügen hinzufügen{modell, plattform.Dateisystem, einstellungen, verzeichnis_add, neue_Lieder};
 

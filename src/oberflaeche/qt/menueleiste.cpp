@@ -49,7 +49,8 @@ void anpassen(Ziel& ziel, const Einträge& einträge) {
         QAction& aktion = *aktionen.at(static_cast<qsizetype>(i));
         const Menüpunkt& punkt = *einträge[i];
         if (!punkt.ist_Strich()) {
-            aktion.setText(Anzeigetext(punkt.beschriftung()));
+            aktion.setText(
+                Anzeigetext(punkt.Beschriftung_wörtlich ? und_verdoppelt(punkt.beschriftung()) : punkt.beschriftung()));
             aktion.setEnabled(punkt.aktiv());
             aktion.setCheckable(punkt.haken());
             aktion.setChecked(punkt.haken());

@@ -1,0 +1,109 @@
+#include "programm/kontextmenues.hpp"
+
+#include "oberflaeche/ansicht.hpp"
+#include "programm/tonkartei.hpp"
+
+namespace tonkartei {
+namespace {
+
+// Does what a click on the control does, when a click would do something.
+Menüzeile wie_Klick(const Text& name, const Text& text, Element& element) {
+    const auto klicken = [&element] {
+        if (element.aktiv()) element.von_Hand_klicken();
+    };
+    return {name, text, ohne_Index, element.aktiv() ? std::function<void()>(klicken) : nullptr, {}};
+}
+
+Menüzeile Strich(int n) { return {"Tray_Strich" + Zahltext(n), "-", ohne_Index, nullptr, {}}; }
+
+}  // namespace
+
+Kontextmenüs::Kontextmenüs(Ansicht& ansicht, const Modell& modell, Tonkartei& haupt)
+    : Fenster(ansicht, "Kontextmenüs", "Kontextmenüs"), modell_(modell), haupt_(haupt), menü_(*this, Tabelle()) {
+    Menü_setzen(menü_);
+    haupt_.Kategorien.Tabelle_geändert.verbinden([this] { nachführen(); });
+    haupt_.Wiedergabe.Autoplay.Klick.verbinden([this] { nachführen(); });
+    haupt_.SysTray.Rechtsklick.verbinden([this](int) { Tray_zeigen(); });
+    haupt_.Lieder.Liste.Rechtsklick.verbinden([this](int zeile) {
+        if (haupt_.Lieder.Datenbank_Modus.wert() == 0) Lied_zeigen(zeile);
+    });
+}
+
+// An entry that runs an entry of the menu bar.
+Menüzeile Kontextmenüs::wie(const Text& name, const Text& text) const {
+    Menüpunkt& vorbild = haupt_.Hauptmenü()(name);
+    Menüzeile zeile{name, text.empty() ? vorbild.beschriftung() : text, vorbild.Index(), nullptr, {}};
+    if (vorbild.aktiv()) zeile.Handler = [&vorbild] { vorbild.von_Hand_klicken(); };
+    return zeile;
+}
+
+std::vector<Menüzeile> Kontextmenüs::Tabelle() {
+    std::vector<Menüzeile> lied;
+    for (const auto& eintrag : haupt_.Hauptmenü()("UMP_aktuelles").einträge())
+        lied.push_back(eintrag->ist_Strich() ? Menüzeile{eintrag->Name(), "-", ohne_Index, nullptr, {}}
+                                             : wie(eintrag->Name()));
+
+    std::vector<Menüzeile> schemas;
+    for (int n = 1; n <= Schemas_maximal; ++n)
+        schemas.push_back({"Schema", "---", n, [this, n] { haupt_.Kategorien.Schema_klicken(n); }, {}});
+    // There is always a first category.
+    std::vector<Menüzeile> kategorien{
+        {"Kategorie", "", 1, [this] { haupt_.Kategorien.zeige_Kategorie(1).von_Hand_klicken(); }, {}}};
+
+    auto& wiedergabe = haupt_.Wiedergabe;
+    std::vector<Menüzeile> tray{
+        {"Datenbank_anzeigen", "&Datenbank-Fenster anzeigen", ohne_Index, [this] { haupt_.hervorholen(); }, {}},
+        Strich(1),
+        wie_Klick("Zufallslied_starten", "nächstes/Zufalls-Lied &starten", wiedergabe.Zufallslied_starten),
+        wie_Klick("Random_Autoplay", "&Random-Autoplay", wiedergabe.Autoplay),
+        wie("Menü_starte_Album", "&Album starten"),
+        Strich(2),
+        {"Winamp_Pause", "Winamp &Pause/Weiter", ohne_Index, [this] { Winamp_Pause(); }, {}},
+        wie("Menü_WinAmp_verstecken", "WinAmp &verstecken"),
+        Strich(3),
+        {"Tray_Kategorien", "&Kategorien...", ohne_Index, nullptr, std::move(kategorien)},
+        {"Tray_Schemas", "Schemas...", ohne_Index, nullptr, std::move(schemas)},
+        Strich(4),
+        wie("MP_Beenden", "Be&enden"),
+    };
+    return {{"Lied_Menü", "Lied", ohne_Index, nullptr, std::move(lied)},
+            {"Tray_Menü", "Tonkartei", ohne_Index, nullptr, std::move(tray)}};
+}
+
+void Kontextmenüs::nachführen() {
+    const auto& bereich = haupt_.Kategorien;
+    Menüpunkt& kategorien = menü_("Tray_Kategorien");
+    const int anzahl = std::max<int>(1, modell_.Anzahl_Kategorien);
+    if (static_cast<int>(kategorien.einträge().size()) > anzahl) kategorien.kürzen(static_cast<std::size_t>(anzahl));
+    for (int k = static_cast<int>(kategorien.einträge().size()) + 1; k <= anzahl; ++k)
+        kategorien.anfügen({"Kategorie", "", k, [this, k] { haupt_.Kategorien.zeige_Kategorie(k).von_Hand_klicken(); }, {}});
+    for (int k = 1; k <= anzahl; ++k) {
+        Menüpunkt& eintrag = *kategorien.einträge()[static_cast<std::size_t>(k - 1)];
+        eintrag.Beschriftung_wörtlich = true;
+        eintrag.beschriftung(modell_.Kategorien[k]);
+        eintrag.haken(bereich.zeige_Kategorie(k).wert());
+    }
+    for (int n = 1; n <= Schemas_maximal; ++n) {
+        Menüpunkt& eintrag = menü_("Schema", n);
+        const bool angeboten = n <= modell_.Anz_Kat_Schemas;
+        eintrag.Beschriftung_wörtlich = true;
+        eintrag.beschriftung(angeboten ? modell_.Schemas[n].Name : Text("---"));
+        eintrag.aktiv(angeboten);
+    }
+    menü_("Random_Autoplay").haken(haupt_.Wiedergabe.Autoplay.wert());
+    menü_("Menü_WinAmp_verstecken").haken(haupt_.Hauptmenü()("Menü_WinAmp_verstecken").haken());
+}
+
+void Kontextmenüs::Lied_zeigen(int zeile) {
+    auto& liste = haupt_.Lieder.Liste;
+    // The commands work on the chosen song: it must be the one that the user points at.
+    if (zeile >= 0 && zeile != liste.gewählt()) liste.wähle(zeile);
+    ansicht().Menü_zeigen(menü_("Lied_Menü"));
+}
+
+void Kontextmenüs::Tray_zeigen() {
+    nachführen();
+    ansicht().Menü_zeigen(menü_("Tray_Menü"));
+}
+
+}  // namespace tonkartei

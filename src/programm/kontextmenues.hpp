@@ -1,0 +1,37 @@
+// The pop-up menus, in a window that is never shown. Their entries do nothing of their own: each runs the command of the
+// same meaning, and is disabled where that command is.
+#pragma once
+
+#include <functional>
+
+#include "oberflaeche/fenster.hpp"
+#include "oberflaeche/menue.hpp"
+
+namespace tonkartei {
+
+class Tonkartei;
+struct Modell;
+
+class Kontextmenüs : public Fenster {
+public:
+    // The main window has its menu already.
+    Kontextmenüs(Ansicht& ansicht, const Modell& modell, Tonkartei& haupt);
+
+    // Of the song under the mouse, which becomes the chosen one; -1 for none.
+    void Lied_zeigen(int zeile);
+    void Tray_zeigen();
+    // Marks, names and numbers of the entries as the window's controls and the menu bar have them.
+    void nachführen();
+
+    std::function<void()> Winamp_Pause = [] {};
+
+private:
+    std::vector<Menüzeile> Tabelle();
+    Menüzeile wie(const Text& name, const Text& text = {}) const;
+
+    const Modell& modell_;
+    Tonkartei& haupt_;
+    Menü menü_;
+};
+
+}  // namespace tonkartei
