@@ -1,0 +1,117 @@
+// An album to the player: the choice and the list file.
+#include "alben/buehne.hpp"
+
+namespace tonkartei {
+namespace {
+
+struct Album_starten : Albenbühne {
+    std::vector<Text> gestartet;
+    Album_starten() {
+        start.starte_WinAmp_Liste = [this](const Text& liste) { gestartet.push_back(liste); };
+    }
+    std::string liste() const { return ordner.inhalt("winamp/Tonkartei-Playlist.M3U"); }
+    // Titles linked to these songs; 0 is not linked.
+    Long album(const Text& titel, const std::vector<Long>& lieder) {
+        const Long nr = alben.Album_neu();
+        alben.eigene.Alben[nr].Titel = titel;
+        for (const Long lied : lieder) {
+            Album_Lied& t = alben.eigene.Alben[nr].Lieder[alben.Titel_neu(nr)];
+            t.in_Datenbank = lied != 0;
+            t.Lied_Nr = lied == 0 ? 4 : lied;
+        }
+        return nr;
+    }
+};
+
+TEST_F(Album_starten, Liste_der_vorhandenen_Lieder) {
+    // Bytes of the folder's name stay as they are.
+    modell.Datenbank_Verzeichnis = ordner.ordner(
+        "Gr\xFC\xDF"
+        "e ö");
+    const Long nr = album("x", {12, 0, 3, 12, 20});
+    start.starte_Album(nr);
+    const std::string o = modell.Datenbank_Verzeichnis;
+    EXPECT_EQ(liste(), o + "00000012.MP3\r\n" + o + "00000003.MP3\r\n" + o + "00000012.MP3\r\n" + o + "00000020.MP3\r\n");
+    EXPECT_EQ(gestartet, std::vector<Text>{ordner.pfad("winamp/Tonkartei-Playlist.M3U")});
+    EXPECT_TRUE(ansicht.Meldungen.empty());
+    EXPECT_FALSE(kanäle.offen(1));
+}
+
+TEST_F(Album_starten, nichts_davon_da) {
+    // Links of a damaged file to songs that no collection can have are none.
+    start.starte_Album(album("x", {0, 21, -1, 70000}));
+    start.starte_Album(0);
+    EXPECT_EQ(ansicht.Meldungen,
+              std::vector<Text>{"Album starten|In der Datenbank sind keine Lieder dieses Albums vorhanden!"});
+    EXPECT_TRUE(gestartet.empty());
+    EXPECT_EQ(liste(), "");
+}
+
+TEST_F(Album_starten, Liste_kann_nicht_geschrieben_werden) {
+    const Long nr = album("x", {1});
+    dateien.voll = true;
+    start.starte_Album(nr);
+    einstellungen.WinAmp_Verzeichnis = ordner.pfad("fehlt/");
+    start.starte_Album(nr);
+    EXPECT_TRUE(gestartet.empty());
+    ASSERT_EQ(ansicht.Meldungen.size(), 2U);
+    EXPECT_TRUE(ansicht.Meldungen[1].starts_with("Tonkartei|"));
+    EXPECT_TRUE(ansicht.Meldungen[1].ends_with(ordner.pfad("fehlt/Tonkartei-Playlist.M3U")));
+    EXPECT_FALSE(kanäle.offen(1));
+}
+
+TEST_F(Album_starten, vom_Menü_aus) {
+    befehle.Menü_starte_Album();
+    EXPECT_EQ(ansicht.Meldungen,
+              std::vector<Text>{"Album spielen|Für diese Datenbank existiert noch keine Alben-Verwaltung!"});
+    neue_Boxen();
+
+    album("Zett", {1});
+    album("äpfel", {2});
+    album("Birnen", {3});
+    album("äpfel", {});
+    modell.Alben_geladen = true;
+    ASSERT_TRUE(datei.Alben_schreiben());
+    modell.Alben_geladen = false;
+    alben.eigene = {};
+    std::vector<Text> angeboten;
+    const auto mit = [&](const std::function<void()>& handgriff) {
+        ansicht.Handgriffe = [&, handgriff](Fenster&) {
+            angeboten = auswahl.Liste.zeilen();
+            handgriff();
+        };
+        gestartet.clear();
+        befehle.Menü_starte_Album();
+    };
+    mit([&] {
+        Hand::wählen(auswahl.Liste, 2);
+        Hand::klicken(auswahl.Ok);
+    });
+    EXPECT_EQ(angeboten, (std::vector<Text>{"äpfel - ", "äpfel - ", "Birnen - ", "Zett - "}));
+    EXPECT_TRUE(modell.Alben_geladen);
+    EXPECT_TRUE(liste().ends_with("00000003.MP3\r\n"));
+    EXPECT_EQ(gestartet.size(), 1U);
+    mit([&] {
+        Hand::wählen(auswahl.Liste, 0);
+        Hand::doppelklicken(auswahl.Liste);
+    });
+    EXPECT_TRUE(liste().ends_with("00000002.MP3\r\n"));
+    EXPECT_EQ(gestartet.size(), 1U);
+    mit([&] {
+        Hand::wählen(auswahl.Liste, 0);
+        Hand::klicken(auswahl.Abbruch);
+    });
+    EXPECT_TRUE(gestartet.empty());
+    mit([&] { Hand::klicken(auswahl.Ok); });
+    EXPECT_TRUE(gestartet.empty());
+
+    // A file that cannot be read ends the command without a further word.
+    modell.Alben_geladen = false;
+    ordner.datei(Alben_Datei_Name, Kopf);
+    ansicht.Handgriffe = [](Fenster&) { ADD_FAILURE() << "nothing to choose from"; };
+    befehle.Menü_starte_Album();
+    EXPECT_TRUE(ansicht.Meldungen.empty());
+}
+
+}  // namespace
+}  // namespace tonkartei
