@@ -1,0 +1,102 @@
+#include "liste/lieder_liste.hpp"
+
+#include <gtest/gtest.h>
+
+namespace tonkartei {
+namespace {
+
+using Nummern = std::vector<long long>;
+
+Modell mit_Liedern(const std::vector<std::pair<Text, Text>>& artist_titel) {
+    Modell modell;
+    modell.Anzahl_Kategorien = 3;
+    for (const auto& [artist, titel] : artist_titel) {
+        Lied& lied = modell.Lieder[++modell.Anzahl_Lieder];
+        lied.Artist = artist;
+        lied.Titel = titel;
+        lied.Kategorie = 2;
+    }
+    return modell;
+}
+
+Nummern alle(const Modell& modell, Sortierung sortierung, const Text& suche = {}) {
+    return gefilterte_Lieder(modell, sortierung, suche, [](int k) { return k == 1; });
+}
+
+TEST(Lieder_Liste, Reihenfolge) {
+    struct Fall {
+        const char* was;
+        std::vector<std::pair<Text, Text>> lieder;
+        Sortierung sortierung;
+        Nummern nummern;
+    };
+    const Fall fälle[] = {
+        {"case does not count", {{"beck", "x"}, {"Abba", "x"}, {"ABBA", "a"}}, Sortierung::Artist, {3, 2, 1}},
+        {"umlauts stand with their letters",
+         {{"Azymuth", ""}, {"Ärzte", ""}, {"Arzt", ""}, {"Zappa", ""}, {"Öhm", ""}, {"Ohr", ""}},
+         Sortierung::Artist,
+         {3, 2, 1, 5, 6, 4}},
+        {"ß stands with ss",
+         {{"Strasz", ""}, {"Straße", ""}, {"Strassa", ""}, {"Strat", ""}},
+         Sortierung::Artist,
+         {3, 2, 1, 4}},
+        {"no artist goes to the top", {{"Abba", "a"}, {"", "A"}, {"!!!", "a"}}, Sortierung::Artist, {3, 2, 1}},
+        {"no artist before any letter", {{"Abba", "a"}, {"", "aaa"}, {"a", "b"}}, Sortierung::Artist, {2, 3, 1}},
+        {"alike: by number", {{"Á", "x"}, {"a", "X"}, {"A", "x"}, {"ä", "x"}}, Sortierung::Artist, {1, 2, 3, 4}},
+        {"by title, then artist", {{"Z", "B"}, {"A", "B"}, {"X", "A"}}, Sortierung::Titel, {3, 2, 1}},
+        {"the fields are joined plainly", {{"ab", "z"}, {"a", "c"}, {"a", "ba"}}, Sortierung::Artist, {3, 1, 2}},
+    };
+    for (const Fall& fall : fälle) EXPECT_EQ(alle(mit_Liedern(fall.lieder), fall.sortierung), fall.nummern) << fall.was;
+}
+
+// A line is its text and eight digits: a text that ends where another goes on with digits meets the other one's digits.
+TEST(Lieder_Liste, DieNummerGehoertZurZeile) {
+    std::vector<std::pair<Text, Text>> lieder(12, {"T", "x"});
+    lieder[1] = {"A", ""};
+    lieder[11] = {"A", "00000001"};
+    const auto nummern = alle(mit_Liedern(lieder), Sortierung::Artist);
+    EXPECT_EQ(nummern[0], 12);
+    EXPECT_EQ(nummern[1], 2);
+}
+
+TEST(Lieder_Liste, Suche) {
+    const Modell modell = mit_Liedern({{"Bx", "Xa"}, {"Motörhead", "Ace"}, {"x", "Straße"}});
+    struct Fall {
+        Text suche;
+        Sortierung sortierung;
+        Nummern nummern;
+    };
+    const Fall fälle[] = {
+        {"ab", Sortierung::Titel, {1}},     {"ab", Sortierung::Artist, {}},
+        {"xx", Sortierung::Artist, {1}},    {"MOTÖR", Sortierung::Artist, {2}},
+        {"ö", Sortierung::Titel, {2}},      {"motor", Sortierung::Artist, {}},  // the search does not fold accents
+        {"aße", Sortierung::Titel, {3}},    {"asse", Sortierung::Titel, {}},
+        {"", Sortierung::Titel, {2, 3, 1}},
+    };
+    for (const Fall& fall : fälle) EXPECT_EQ(alle(modell, fall.sortierung, fall.suche), fall.nummern) << fall.suche;
+}
+
+TEST(Lieder_Liste, Kategorien) {
+    Modell modell = mit_Liedern({{"a", ""}, {"b", ""}, {"c", ""}});
+    modell.Lieder[1].Kategorie = 1;
+    modell.Lieder[2].Kategorie = 3;
+    modell.Lieder[3].Kategorie = 255;  // a category that is being asked for
+    const auto mit = [&](std::vector<int> kästen) {
+        return gefilterte_Lieder(modell, Sortierung::Artist, {},
+                                 [&](int k) { return std::find(kästen.begin(), kästen.end(), k) != kästen.end(); });
+    };
+    EXPECT_EQ(mit({1}), (Nummern{1, 2, 3}));
+    EXPECT_EQ(mit({1, 2}), (Nummern{1, 2, 3}));
+    EXPECT_EQ(mit({2, 3}), (Nummern{2}));
+    EXPECT_EQ(mit({}), Nummern{});
+}
+
+TEST(Lieder_Liste, Zeilen) {
+    Lied lied;
+    lied.Artist = "A & B";
+    EXPECT_EQ(Listenzeile(lied, Sortierung::Artist), "A & B - ");
+    EXPECT_EQ(Listenzeile(lied, Sortierung::Titel), " (A & B)");
+}
+
+}  // namespace
+}  // namespace tonkartei
