@@ -1,0 +1,204 @@
+// The category editor, opened from the main window and from the dialog that asks for a category.
+#include "programm/buehne.hpp"
+
+namespace tonkartei {
+namespace {
+
+const std::string Geladen = "Fortschritt|Datenbank laden...";
+const std::string Zu_lang = "Hinweis|Mindestens ein Kategoriename ist länger als 16 Zeichen!|i";
+const std::string Verwaist = " Lieder der gelöschten Kategorie!|i";
+
+class Bearbeiten : public Bühne {
+protected:
+    Sammlung s{.Lieder = {{"A", "1", 0, 100, 1},
+                          {"B", "2", 0, 100, 2},
+                          {"C", "3", 0, 100, 3},
+                          {"D", "4", 0, 100, 3},
+                          {"E", "5", 0, 100, 4}},
+               .Kategorien = {"Alle", "Zwei", "Drei", "Vier", "leer"}};
+
+    void auf() {
+        öffnen(sammlung("a", s));
+        hand("klick Tonkartei.Kategorie_Edit");
+        geschehen();
+    }
+    static std::string E(const std::string& name) { return "Kategorie_bearbeiten." + name; }
+    Zeilen liste() { return b->zeilen(E("Liste")); }
+    int gewählt() { return b->zeige(E("Liste"))["gewählt"]; }
+    void verschieben(int zeile, int wert) {
+        hände(
+            {"wähle " + E("Liste") + " " + std::to_string(zeile), "setze " + E("Reihenfolge") + " " + std::to_string(wert)});
+    }
+    bool aktiv(const std::string& fenster) { return b->fenster(fenster)["aktiv"]; }
+    // The categories of the songs in their order, once they are saved.
+    std::string Liedkategorien() {
+        hand("klick Tonkartei.MP_Beenden");
+        std::string kategorien;
+        const std::string bytes = mdb();
+        for (std::size_t i = 0; (i = bytes.find(" 100 \r\n ", i)) != std::string::npos; ++i) kategorien += bytes[i + 8];
+        return kategorien;
+    }
+};
+
+TEST_F(Bearbeiten, öffnen_und_schließen) {
+    auf();
+    EXPECT_FALSE(aktiv("Tonkartei"));
+    EXPECT_EQ(liste(), s.Kategorien);
+    EXPECT_EQ(gewählt(), 0);
+    EXPECT_EQ(b->text(E("Kategorie_Name")), "Alle");
+    EXPECT_EQ(b->text(E("Anz_Lieder")), "5");  // all, though one song only has category 1
+    hand("wähle " + E("Liste") + " 2");
+    EXPECT_EQ(b->text(E("Anz_Lieder")), "2");
+    hand("schließe Kategorie_bearbeiten");
+    EXPECT_TRUE(aktiv("Tonkartei"));
+    EXPECT_EQ((*b)("fokus").front()["fokus"], "Tonkartei.Schnellsuche");
+    EXPECT_EQ(geschehen(), Zeilen{});
+}
+
+TEST_F(Bearbeiten, umbenennen) {
+    auf();
+    const auto normal = b->zeige(E("Kategorie_Name"))["hintergrund"];
+    const auto Farbe_von = [&](const std::string& name) {
+        hand("setze " + E("Kategorie_Name") + " " + name);
+        return b->zeige(E("Kategorie_Name"))["hintergrund"];
+    };
+    hand("wähle " + E("Liste") + " 1");
+    EXPECT_EQ(Farbe_von("Österreichisches"), normal);  // 16 characters
+    EXPECT_EQ(Farbe_von("Österreichisches!"), 65535);
+    EXPECT_EQ(liste()[1], "Österreichisches!");
+    hand("wähle " + E("Liste") + " 2");
+    EXPECT_EQ(b->zeige(E("Kategorie_Name"))["hintergrund"], normal);
+    // Memory is what the disk can hold.
+    hand("setze " + E("Kategorie_Name") + " Łódź");
+    EXPECT_EQ(liste()[2], "?ód?");
+    // Without a line there is nothing to name.
+    hände({"wähle " + E("Liste") + " -1", "setze " + E("Kategorie_Name") + " x"});
+    EXPECT_EQ(b->text(E("Kategorie_Name")), "");
+    EXPECT_EQ(liste()[2], "?ód?");
+    hände({"klick " + E("Ok"), "antwort OK"});
+    EXPECT_EQ(geschehen(), Zeilen{Zu_lang});
+    EXPECT_EQ(b->zeige("Tonkartei.zeige_Kategorie(2)")["text"], "Österreichisches!");
+    EXPECT_EQ(b->zeilen("Tonkartei.Lied_Kategorie")[2], "?ód?");
+}
+
+TEST_F(Bearbeiten, hinzufügen_bis_zwanzig) {
+    auf();
+    for (int k = 6; k <= 20; ++k) hand("klick " + E("add_Kategorie"));
+    EXPECT_EQ(liste().size(), 20U);
+    EXPECT_EQ(liste().back(), "Kategorie 20");
+    EXPECT_EQ(gewählt(), 19);
+    EXPECT_EQ((*b)("fokus").front()["fokus"], E("Kategorie_Name"));
+    EXPECT_EQ(geschehen(), Zeilen{});
+    hände({"klick " + E("add_Kategorie"), "antwort OK"});
+    EXPECT_EQ(geschehen(), Zeilen{"Kategorie hinzufügen|Es sind maximal 20Kategorien erlaubt!|i"});
+    hand("klick " + E("Ok"));
+    EXPECT_TRUE(b->zeige("Tonkartei.zeige_Kategorie(20)")["sichtbar"].get<bool>());
+    hände({"klick Tonkartei.zeige_Kategorie(20)", "klick Tonkartei.MP_Beenden"});
+    öffnen(ordner.pfad("a/"));
+    EXPECT_EQ(wert("Kategorien"), "524288");
+}
+
+TEST_F(Bearbeiten, löschen_mit_Liedern) {
+    auf();
+    hände({"wähle " + E("Liste") + " 2", "klick " + E("kill_Kategorie"), "antwort Nein"});
+    EXPECT_EQ(liste(), s.Kategorien);
+    hände({"klick " + E("kill_Kategorie"), "antwort Ja", "antwort OK"});
+    EXPECT_EQ(geschehen(), (Zeilen{"Kategorie löschen|Wollen sie die Kategorie Drei wirklich löschen?|?*Ja/Nein",
+                                   "Kategorie löschen|Wollen sie die Kategorie Drei wirklich löschen?|?*Ja/Nein",
+                                   "gelöschte Kategorie|Bitte wählen sie eine Kategorie für die 2" + Verwaist}));
+    EXPECT_EQ(b->bereit_name(), "Kategorie_Wahl");
+    EXPECT_EQ(b->text("Kategorie_Wahl.Titel"), "neue Kategorie");
+    EXPECT_EQ(b->text("Kategorie_Wahl.Artist"), "");
+    EXPECT_FALSE(b->zeige("Kategorie_Wahl.abspielen")["aktiv"].get<bool>());
+    EXPECT_EQ(b->zeilen("Kategorie_Wahl.Liste"), (Zeilen{"Alle", "Zwei", "Vier", "leer"}));
+    hand("wähle Kategorie_Wahl.Liste 3");
+    EXPECT_EQ(gewählt(), 2);
+    hand("klick " + E("Ok"));
+    EXPECT_EQ(Liedkategorien(), "12443");
+}
+
+TEST_F(Bearbeiten, löschen_der_ersten_der_letzten_und_einer_leeren) {
+    s.Kategorien[0] = "Alles";
+    auf();
+    hände({"klick " + E("kill_Kategorie"), "antwort OK", "setze " + E("Kategorie_Name") + " Alle",
+           "klick " + E("kill_Kategorie"), "antwort OK"});
+    EXPECT_EQ(geschehen(), (Zeilen{"Kategorie löschen|Die Kategorie Alles (Alle) darf nicht gelöscht werden!|i",
+                                   "Kategorie löschen|Die Kategorie Alle darf nicht gelöscht werden!|i"}));
+    // No songs, no question for a new category; the last line goes, the new last one is chosen.
+    hände({"wähle " + E("Liste") + " 4", "klick " + E("kill_Kategorie"), "antwort Ja"});
+    EXPECT_EQ(b->bereit(), "schleife");
+    EXPECT_EQ(gewählt(), 3);
+    EXPECT_EQ(b->text(E("Kategorie_Name")), "Vier");
+    hand("klick " + E("Ok"));
+    EXPECT_EQ(Liedkategorien(), "12334");
+}
+
+TEST_F(Bearbeiten, verschieben) {
+    auf();
+    const std::string nicht = "Fehler|Die Kategorie 1 darf nicht verschoben werden!|i";
+    verschieben(2, 3);
+    EXPECT_EQ(liste(), (Zeilen{"Alle", "Zwei", "Vier", "Drei", "leer"}));
+    EXPECT_EQ(gewählt(), 3);
+    EXPECT_EQ(b->zeige(E("Reihenfolge"))["wert"], 2);
+    verschieben(4, 3);
+    EXPECT_EQ(geschehen(), Zeilen{});
+    verschieben(4, 1);
+    EXPECT_EQ(liste(), (Zeilen{"Alle", "Zwei", "Vier", "leer", "Drei"}));
+    verschieben(1, 1);
+    hand("antwort OK");
+    verschieben(0, 3);
+    hand("antwort OK");
+    EXPECT_EQ(geschehen(), (Zeilen{nicht, nicht}));
+    EXPECT_EQ(liste()[1], "Zwei");
+    hand("klick " + E("Ok"));
+    EXPECT_EQ(Liedkategorien(), "12553");
+}
+
+// Schemes keep their numbers, whatever those name afterwards.
+TEST_F(Bearbeiten, Schemas_bleiben_stehen) {
+    s.Schemas = 3;
+    auf();
+    verschieben(2, 3);
+    hände({"klick " + E("Ok"), "klick Tonkartei.Kategorie_Schema(2)"});
+    EXPECT_EQ(b->zeilen("Tonkartei.Liste"), (Zeilen{"E - 5"}));
+}
+
+// The dialog comes from the editor's own removal and opens the editor: closing it leads back to the dialog only.
+TEST_F(Bearbeiten, aus_der_eigenen_Frage_heraus) {
+    auf();
+    hände({"wähle " + E("Liste") + " 2", "klick " + E("kill_Kategorie"), "antwort Ja", "antwort OK",
+           "klick Kategorie_Wahl.Kategorie_Edit"});
+    EXPECT_FALSE(aktiv("Kategorie_Wahl"));
+    hände({"klick " + E("add_Kategorie"), "setze " + E("Kategorie_Name") + " Neu", "klick " + E("Ok")});
+    EXPECT_TRUE(aktiv("Kategorie_Wahl"));
+    EXPECT_EQ((*b)("fenster").front()["fenster"][0]["name"], "Kategorie_Wahl");
+    EXPECT_TRUE(b->fenster("Kategorie_bearbeiten")["sichtbar"].get<bool>());
+    EXPECT_FALSE(aktiv("Tonkartei"));
+    EXPECT_EQ(b->zeilen("Kategorie_Wahl.Liste").back(), "Neu");
+    hand("wähle Kategorie_Wahl.Liste 4");
+    EXPECT_EQ(b->bereit(), "schleife");
+    // Now it is the main window's again.
+    hand("klick " + E("Ok"));
+    EXPECT_TRUE(aktiv("Tonkartei"));
+    EXPECT_EQ(Liedkategorien(), "12553");
+}
+
+// A category without songs goes while the dialog waits: none of its lines may name what is no longer there.
+TEST_F(Bearbeiten, Tabelle_schrumpft_während_der_Frage) {
+    auf();
+    hände({"wähle " + E("Liste") + " 1", "klick " + E("kill_Kategorie"), "antwort Ja", "antwort OK",
+           "wähle " + E("Liste") + " 3", "klick " + E("kill_Kategorie"), "antwort Ja"});
+    // The songs from before still wait: the same question again, which goes first.
+    EXPECT_EQ(geschehen().back(), "gelöschte Kategorie|Bitte wählen sie eine Kategorie für die 1" + Verwaist);
+    hand("antwort OK");
+    EXPECT_EQ(b->zeilen("Kategorie_Wahl.Liste"), (Zeilen{"Alle", "Drei", "Vier"}));
+    hand("wähle Kategorie_Wahl.Liste 2");
+    EXPECT_EQ(b->bereit_name(), "Kategorie_Wahl");
+    hand("wähle Kategorie_Wahl.Liste 0");
+    EXPECT_EQ(b->bereit(), "schleife");
+    hand("klick " + E("Ok"));
+    EXPECT_EQ(Liedkategorien(), "13223");
+}
+
+}  // namespace
+}  // namespace tonkartei
