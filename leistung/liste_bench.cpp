@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "alben/alben.hpp"
 #include "alben/album.hpp"
 #include "datenbank/einstellungen.hpp"
 #include "kategorien/kategorienbereich.hpp"
@@ -45,15 +46,40 @@ int main() {
     for (int n = 1; n <= Lieder_maximal; ++n)
         schlüssel.push_back(groß(f.modell.Lieder[n].Artist + f.modell.Lieder[n].Titel) + Zahl_mit_Nullen(n, 8));
 
-    Verhältnisse v(31);
+    Verhältnisse v(51);
+    const auto Sortieren = [&] {
+        std::vector<std::string> kopie = schlüssel;
+        std::sort(kopie.begin(), kopie.end());
+        return kopie.front().size();
+    };
     v.höchstens(
         "Aufbau der Liste aus 5000 Liedern", 2, "std::sort derselben Schlüssel",
         [&] {
             f.lieder.aktualisiere_Liste();
             return f.lieder.Liste.Anzahl();
         },
+        Sortieren);
+    int runde = 0;
+    v.höchstens(
+        "derselbe, wenn sich ein Titel geändert hat", 3, "std::sort derselben Schlüssel",
         [&] {
-            std::vector<std::string> kopie = schlüssel;
+            f.modell.Lieder[17].Titel = std::to_string(++runde);
+            f.lieder.aktualisiere_Liste();
+            return f.lieder.Liste.Anzahl();
+        },
+        Sortieren);
+    f.lieder.Schnellsuche.text("band");
+    std::vector<std::string> passende;
+    for (const std::string& zeile : schlüssel)
+        if (zeile.find("BAND") != std::string::npos) passende.push_back(zeile);
+    v.höchstens(
+        "ein Tastendruck in der Schnellsuche", 2, "std::sort dessen, was übrig bleibt",
+        [&] {
+            f.lieder.Schnellsuche.text(++runde % 2 == 0 ? "band" : "ban");
+            return f.lieder.Liste.Anzahl();
+        },
+        [&] {
+            std::vector<std::string> kopie = passende;
             std::sort(kopie.begin(), kopie.end());
             return kopie.front().size();
         });

@@ -75,9 +75,10 @@ void Info_Datei::Körper_schreiben(int nummer, bool Fortschritt_zeigen) {
         kanäle_.schreibe_Zahl(nummer, lied.Größe);
         kanäle_.schreibe_Zahl(nummer, lied.Kategorie);
         kanäle_.schreibe_Zeile(nummer, lied.Titel);
-        kanäle_.schreibe_reine_Zahl(nummer, Stunde(lied.Zeit));
-        kanäle_.schreibe_reine_Zahl(nummer, Minute(lied.Zeit));
-        kanäle_.schreibe_reine_Zahl(nummer, Sekunde(lied.Zeit));
+        const Long sekunden = Sekunden_von(lied.Zeit);
+        kanäle_.schreibe_reine_Zahl(nummer, sekunden / 3600);
+        kanäle_.schreibe_reine_Zahl(nummer, sekunden / 60 % 60);
+        kanäle_.schreibe_reine_Zahl(nummer, sekunden % 60);
         if (Fortschritt_zeigen) fortschritt_.anzeigen(Prozent(n, modell_.Anzahl_Lieder));
     }
 }

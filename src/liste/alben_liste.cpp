@@ -12,7 +12,7 @@ std::vector<long long> sortierte_Alben(const Albenbestand& bestand) {
         const Album& album = bestand.Alben[n];
         schlüssel = album.Interpret;
         schlüssel += album.Titel;
-        sortiert.hinzufügen(schlüssel, n, 4);
+        sortiert.hinzufügen(schlüssel, {}, n, 4);
     }
     return sortiert.sortierte_Nummern();
 }

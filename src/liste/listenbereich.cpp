@@ -1,6 +1,8 @@
 #include "liste/listenbereich.hpp"
 
 #include <algorithm>
+#include <charconv>
+#include <utility>
 
 #include "alben/alben.hpp"
 #include "kategorien/kategorienbereich.hpp"
@@ -9,6 +11,16 @@
 #include "oberflaeche/fenster.hpp"
 
 namespace tonkartei {
+namespace {
+
+// The number of a line of Nr_Liste, which holds plain digits.
+Long Nummer_von(const Text& zeile) {
+    Long nummer = 0;
+    std::from_chars(zeile.data(), zeile.data() + zeile.size(), nummer);
+    return nummer;
+}
+
+}  // namespace
 
 Listenbereich::Listenbereich(Fenster& f, Modell& modell, const Einstellungen& einstellungen, const Albenbestand& alben,
                              Kategorienbereich& kategorien)
@@ -119,8 +131,8 @@ void Listenbereich::aktualisiere_Liste() {
 
 void Listenbereich::erstelle_Lieder_Liste() {
     const Long gemerkt = Liste.Anzahl() > 0 && Liste.gewählt() >= 0 ? Lied_Nr(Liste.gewählt()) : 0;
-    const auto nummern = gefilterte_Lieder(modell_, sortierung_, Schnellsuche.text(),
-                                           [this](int k) { return kategorien_.zeige_Kategorie(k).wert(); });
+    const auto nummern = ordnung_.gefilterte_Lieder(modell_, sortierung_, Schnellsuche.text(),
+                                                    [this](int k) { return kategorien_.zeige_Kategorie(k).wert(); });
     Nr_Liste_setzen(nummern);
     if (!nummern.empty()) {
         erstelle_Liste_von_Nr_Liste();
@@ -151,7 +163,7 @@ void Listenbereich::erstelle_Liste_von_Nr_Liste() {
     std::vector<Text> zeilen;
     zeilen.reserve(Nr_Liste.zeilen().size());
     for (const Text& nr : Nr_Liste.zeilen()) {
-        const Lied& lied = modell_.Lieder[gerundet(Zahlwert(nr))];
+        const Lied& lied = std::as_const(modell_).Lieder[Nummer_von(nr)];
         zeilen.push_back(Listenzeile(lied, sortierung_));
         summe.dazu(lied);
     }
@@ -213,7 +225,7 @@ void Listenbereich::Einzelheiten_leeren() {
     kategorien_.Farben_zurücksetzen();
 }
 
-Long Listenbereich::Lied_Nr(int Index) const { return gerundet(Zahlwert(Nr_Liste.zeile(Index))); }
+Long Listenbereich::Lied_Nr(int Index) const { return Nummer_von(Nr_Liste.zeile(Index)); }
 
 Long Listenbereich::gewähltes_Lied() const {
     if (Datenbank_Modus.wert() == 1) return Album_Lied_Nr();

@@ -94,6 +94,7 @@ private:
     const Einstellungen& einstellungen_;
     const Albenbestand& alben_;
     Kategorienbereich& kategorien_;
+    Liederordnung ordnung_;
     Sortierung sortierung_ = Sortierung::Artist;
     Long angezeigtes_Lied_ = 0;
 };

@@ -2,6 +2,9 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "grundlagen/text.hpp"
@@ -14,19 +17,23 @@ class Sortier_Liste {
 public:
     // Room for that many lines of that many bytes.
     void vormerken(std::size_t zeilen, std::size_t bytes);
-    // A line of the text and the number, which is written with `stellen` digits (not at all when it has more).
-    void hinzufügen(std::string_view text, long long nummer, int stellen);
+    // A line of the texts, joined, and the number, which is written with `stellen` digits (not at all when it has more). The
+    // number takes part in the order, as the last characters of the line.
+    void hinzufügen(std::string_view text, std::string_view dahinter, long long nummer, int stellen);
     std::size_t Anzahl() const noexcept { return zeilen_.size(); }
     // The numbers of the lines, in order.
     std::vector<long long> sortierte_Nummern();
 
 private:
     struct Zeile {
-        unsigned long long anfang;  // first eight bytes of the key, the first one highest: decides most comparisons
-        std::size_t stelle;
-        std::size_t länge;
+        std::uint64_t teil;  // the eight bytes of the key that are being compared, the first one highest
+        std::uint32_t stelle, länge;
         long long nummer;
     };
+    void Text_anhängen(std::string_view text);
+    std::uint64_t Teil(const Zeile& zeile, std::size_t tiefe) const;
+    void sortieren(std::size_t von, std::size_t bis, std::size_t tiefe);
+
     std::string schlüssel_;  // the keys one behind the other
     std::vector<Zeile> zeilen_;
 };
