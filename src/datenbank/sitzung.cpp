@@ -1,5 +1,7 @@
 #include "datenbank/sitzung.hpp"
 
+#include <optional>
+
 #include "datenbank/info_datei.hpp"
 #include "datenbank/version.hpp"
 #include "datenbank/zugriffsdatei.hpp"
@@ -29,6 +31,15 @@ void Sitzung::Verzeichnis_setzen(const Text& Pfad) {
     if (!Pfad.empty()) plattform_.Dateisystem.aktuellen_Ordner_setzen(modell_.Datenbank_Verzeichnis);
 }
 
+// From the change of folder until memory holds what belongs to it.
+struct Sitzung::Wechsel {
+    bool& an;
+    explicit Wechsel(bool& flagge) : an(flagge) { an = true; }
+    ~Wechsel() { an = false; }
+    Wechsel(const Wechsel&) = delete;
+    Wechsel& operator=(const Wechsel&) = delete;
+};
+
 // Asks when the access file says that the collection is open already.
 bool Sitzung::Zugriff_erlaubt() {
     const Text datei = modell_.Pfad(Zugriffsdatei_Name);
@@ -48,6 +59,7 @@ bool Sitzung::Zugriff_erlaubt() {
 }
 
 bool Sitzung::lade_Datenbank() {
+    std::optional<Wechsel> wechsel(std::in_place, wechselt_);
     if (!Zugriff_erlaubt()) return false;
     Text datei = modell_.Pfad(Info_Datei_Name);
     if (!plattform_.Dateisystem.Datei_da(datei)) {
@@ -68,6 +80,7 @@ bool Sitzung::lade_Datenbank() {
         modell_.Datenbank_offen = false;
         return false;
     }
+    wechsel.reset();
     modell_.Datenbank_offen = true;
     zugriff_.schreibe_Zugriffsdatei();
     if (einstellungen_.Lieder_Namen_lesen && Lieder_einlesen) Lieder_einlesen();
@@ -130,12 +143,14 @@ bool Sitzung::Datenbank_erstellen(bool fragen, bool Kategorien_übernehmen) {
         return false;
     }
     Verzeichnis_setzen(pfad);
+    std::optional<Wechsel> wechsel(std::in_place, wechselt_);
     if (fragen)
         Kategorien_übernehmen = ansicht_.fragen(
             Titel_erstellen, "Wollen sie die Kategorien aus der aktuellen Datenbank in die neue übernehmen?");
     // A run that has had no collection yet has no categories to take over.
     const bool neue_Kategorien = !Kategorien_übernehmen || modell_.Anzahl_Kategorien == 0;
     Standard_Datenbank(modell_, neue_Kategorien);
+    wechsel.reset();
     modell_.konvertiert_in_Temp = false;
     andere_Speicher_vergessen();
     modell_.Datenbank_offen = true;

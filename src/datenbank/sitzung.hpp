@@ -38,6 +38,10 @@ public:
     // The open folder moves to the first place of the recent list.
     void Datenbank_Liste_nachführen();
 
+    // The folder is the new collection's already, memory is not: what is asked meanwhile may end the program, and then
+    // nothing may be saved.
+    bool wechselt() const noexcept { return wechselt_; }
+
     // Start parameter I: the access file of the first collection of the run is ignored.
     bool Zugriffsdatei_ignorieren = false;
     // Re-reads names, sizes and times of all songs, when the setting asks for it.
@@ -48,6 +52,8 @@ public:
     Ereignis<bool> geladen;
 
 private:
+    struct Wechsel;
+
     bool Zugriff_erlaubt();
     bool gespeichert_oder_verzichtet(const Text& titel, const Text& frage);
     void andere_Speicher_vergessen();
@@ -58,6 +64,7 @@ private:
     Zugriffsdatei& zugriff_;
     const Plattform& plattform_;
     Ansicht& ansicht_;
+    bool wechselt_ = false;
 };
 
 }  // namespace tonkartei

@@ -163,6 +163,10 @@ bool Programm::Teile::darf_schließen(Schließgrund grund) {
         splash.aufgeben();
         return von_außen;
     }
+    if (sitzung.wechselt()) {
+        if (splash.geladen()) Einstellungen_werden_geschrieben = false;
+        return true;
+    }
     if (!modell.Datenbank_offen || sitzung.schreibe_Datenbank(!von_außen)) return true;
     modell.Meldung = "Wollen sie das Prorgamm wirklich beenden, ohne das die alten Informationen gespeichert wurden?";
     return ansicht.fragen("Programm beenden", modell.Meldung);

@@ -324,6 +324,56 @@ TEST_F(Sitzung, Ende_von_außen) {
     }
 }
 
+// Under the boxes of opening nothing stands in memory that belongs to the folder: an end from outside must not save it
+// there.
+TEST_F(Sitzung, Ende_von_außen_unter_den_Fragen_des_Öffnens) {
+    Sammlung falsch;
+    falsch.Lieder[1].Kategorie = 9;
+    const Sammlung andere{.Lieder = {{"Ganz", "anders"}, {"Noch", "eins"}}};
+    sammlung("a", andere);
+    struct Fall {
+        const char* name;
+        Sammlung inhalt;
+        std::string zugriff;
+    };
+    for (const Fall& f : {Fall{"Zugriffsdatei", {}, Zugriffsdatei_Bytes()}, Fall{"kaputte Zugriffsdatei", {}, "x"},
+                          Fall{"alte Version", {.Version = "V 1.02 15"}, ""}, Fall{"fremd", {.Version = "V 9"}, ""},
+                          Fall{"falscher Titel", {.Titel = "x"}, ""}, Fall{"Kategorie", falsch, ""}})
+        for (const bool erste : {true, false}) {
+            SCOPED_TRACE(std::string(f.name) + (erste ? ", erste" : ", zweite"));
+            sammlung("neu", f.inhalt);
+            std::filesystem::remove(ordner.pfad("neu/MP3_Info.DBG"));
+            if (!f.zugriff.empty()) ordner.datei("neu/MP3_Info.DBG", f.zugriff);
+            öffnen(erste ? ordner.pfad("neu/") : a);
+            if (!erste) wechseln(ordner.pfad("neu"));
+            ASSERT_EQ(b->bereit(), "meldung");
+            hand("schließe Tonkartei extern");
+            EXPECT_EQ(b->bereit(), "ende");
+            EXPECT_EQ(b->Ende_abwarten(), 0);
+            EXPECT_EQ(mdb("neu"), f.inhalt.bytes());
+            EXPECT_EQ(mdb(), andere.bytes());
+            EXPECT_FALSE(ordner.da("neu/MP3_Bak.MDB"));
+            EXPECT_EQ(ordner.inhalt("neu/MP3_Info.DBG"), f.zugriff.empty() ? "(fehlt)" : f.zugriff);
+            std::filesystem::remove_all(ordner.pfad("wurzel"));
+        }
+    const std::string leer = ordner.ordner("leer");
+    for (const bool erste : {true, false}) {
+        öffnen(erste ? leer : a);
+        if (!erste) wechseln(leer);
+        ASSERT_EQ(b->bereit(), "meldung");
+        hand("schließe Tonkartei extern");
+        EXPECT_EQ(b->Ende_abwarten(), 0);
+        EXPECT_TRUE(std::filesystem::is_empty(leer));
+        std::filesystem::remove_all(ordner.pfad("wurzel"));
+    }
+    öffnen(a);
+    hände({"klick Tonkartei.Datenbank_neu", "antwort OK", "pfad " + Bediener::zitiert(ordner.pfad()), "eingabe Anfang"});
+    ASSERT_EQ(b->bereit(), "meldung");
+    hand("schließe Tonkartei extern");
+    EXPECT_EQ(b->Ende_abwarten(), 0);
+    EXPECT_TRUE(std::filesystem::is_empty(ordner.pfad("Anfang")));
+}
+
 TEST_F(Sitzung, neue_Datenbank) {
     for (const bool übernehmen : {true, false}) {
         const std::string name = übernehmen ? "mit" : "ohne";
