@@ -199,6 +199,32 @@ TEST_F(Desktop, SlidersAndCombosReportTheHandAlone) {
     EXPECT_EQ(wahl, 2);
 }
 
+// The button of the mouse stays down, as it does for the bar when a box has taken the release.
+TEST_F(Desktop, AScrollBarThatIsPutBackStepsOnce) {
+    fenster.Bildlauf.wert(10);
+    abgleichen();
+    int schritte = 0;
+    fenster.Bildlauf.Geändert.verbinden([&] {
+        if (fenster.Bildlauf.wert() == 10) return;
+        ++schritte;
+        fenster.Bildlauf.wert(10);
+    });
+    auto& leiste = widget<QAbstractSlider>(fenster.Bildlauf);
+    Maus(leiste, QEvent::MouseButtonPress, QPoint(2, leiste.height() / 2));
+    QElapsedTimer uhr;
+    for (uhr.start(); uhr.elapsed() < 700;) ansicht.Ereignisse_laufen_lassen();
+    EXPECT_EQ(schritte, 1);
+    EXPECT_EQ(leiste.value(), 10);
+}
+
+TEST_F(Desktop, CaptionsThatAreDataKeepTheirAmpersand) {
+    fenster.Pop.Beschriftung_wörtlich = true;
+    fenster.Pop.beschriftung("R &B");
+    abgleichen();
+    EXPECT_EQ(widget<QAbstractButton>(fenster.Pop).text(), QStringLiteral("R &&B"));
+    EXPECT_TRUE(widget<QAbstractButton>(fenster.Pop).shortcut().isEmpty());
+}
+
 TEST_F(Desktop, FilesFromTheFileManagerKeepTheirBytes) {
     std::vector<Text> pfade;
     fenster.Liste.Dateien_abgelegt.verbinden([&](const std::vector<Text>& p) { pfade = p; });

@@ -31,7 +31,7 @@ protected:
     bool klickt_selbst() const override { return true; }
     void Aussehen_zeigen() override {
         Bauteil::Aussehen_zeigen();
-        const QString text = Anzeigetext(element().beschriftung());
+        const QString text = Beschriftungstext(element());
         if (knopf_->text() != text) knopf_->setText(text);
     }
     QAbstractButton* knopf_;

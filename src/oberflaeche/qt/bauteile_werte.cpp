@@ -1,8 +1,10 @@
 // Text fields, sliders and scroll bars.
 #include <QLineEdit>
+#include <QPointer>
 #include <QScrollBar>
 #include <QSlider>
 #include <algorithm>
+#include <functional>
 
 #include "oberflaeche/elemente.hpp"
 #include "oberflaeche/hand.hpp"
@@ -38,21 +40,47 @@ private:
     QLineEdit* zeile_;
 };
 
+// A scroll bar whose repeating rests while a handler works: a box that the handler opens takes the release of the button
+// away, and the bar would go on stepping behind it.
+class Bildlaufleiste : public QScrollBar {
+public:
+    using QScrollBar::QScrollBar;
+    // `handler` tells whether the value was left as it is.
+    void in_Ruhe(const std::function<bool()>& handler) {
+        const SliderAction aktion = repeatAction();
+        setRepeatAction(SliderNoAction);
+        const QPointer<Bildlaufleiste> selbst(this);
+        if (handler() && selbst != nullptr) selbst->setRepeatAction(aktion, Wiederholung_nach);
+    }
+
+private:
+    static constexpr int Wiederholung_nach = 250;  // milliseconds
+};
+
 class Regler_Bauteil : public Bauteil {
 public:
     Regler_Bauteil(Umfeld& umfeld, Fensterwidget& fenster, Regler& regler)
         : Bauteil(umfeld, fenster, regler), schieber_(Widget(regler)) {
         aufnehmen(schieber_);
         schieber_->setContextMenuPolicy(Qt::NoContextMenu);
-        QObject::connect(schieber_, &QAbstractSlider::valueChanged, this,
-                         [this](int neu) { umfeld_.von_Hand([&] { Hand::schieben(element(), neu); }); });
+        QObject::connect(schieber_, &QAbstractSlider::valueChanged, this, [this](int neu) { geschoben(neu); });
     }
 
 private:
+    void geschoben(int neu) {
+        const auto schieben = [&umfeld = umfeld_, &regler = static_cast<Regler&>(element()), neu] {
+            umfeld.von_Hand([&] { Hand::schieben(regler, neu); });
+            return regler.wert() == neu;
+        };
+        if (auto* leiste = dynamic_cast<Bildlaufleiste*>(schieber_))
+            leiste->in_Ruhe(schieben);
+        else
+            schieben();
+    }
     static QAbstractSlider* Widget(const Regler& regler) {
         const auto richtung = regler.senkrecht ? Qt::Vertical : Qt::Horizontal;
         if (regler.form() == Regler::Form::Schieber) return new QSlider(richtung);
-        auto* w = new QScrollBar(richtung);
+        auto* w = new Bildlaufleiste(richtung);
         w->setFocusPolicy(Qt::StrongFocus);
         return w;
     }

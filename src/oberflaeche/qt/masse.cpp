@@ -67,7 +67,7 @@ struct Maße::Innen {
         QAbstractButton& vorlage = k.klein ? static_cast<QAbstractButton&>(kleiner_Knopf) : knopf;
         vorlage.setFont(font);
         if (!k.Bild.empty()) return k.klein ? QSize(28, 26) : QSize(34, 28);
-        vorlage.setText(Anzeigetext(k.beschriftung()));
+        vorlage.setText(Beschriftungstext(k));
         const QFontMetrics maße(font);
         const int text = maße.size(Qt::TextShowMnemonic, vorlage.text()).width();
         return k.klein ? QSize(std::max(text + 12, maße.height() + 8), maße.height() + 8)
@@ -81,11 +81,11 @@ struct Maße::Innen {
             case Elementart::Knopf: return Knopfgröße(static_cast<const Knopf&>(e), font);
             case Elementart::Kasten:
                 kasten.setFont(font);
-                kasten.setText(Anzeigetext(e.beschriftung()));
+                kasten.setText(Beschriftungstext(e));
                 return kasten.sizeHint();
             case Elementart::Option:
                 option.setFont(font);
-                option.setText(Anzeigetext(e.beschriftung()));
+                option.setText(Beschriftungstext(e));
                 return option.sizeHint();
             case Elementart::Schrift: {
                 const auto& feld = static_cast<const Schriftfeld&>(e);
@@ -140,6 +140,7 @@ int Maße::Texthöhe(int punkte) const { return Twips(QFontMetrics(Schrift(punkt
 Größe Maße::Wunschgröße(const Element& e) const {
     if (e.art() == Elementart::Fläche) return static_cast<const Bildfläche&>(e).Wunsch;
     Merkmal merkmal{e.art(), e.beschriftung(), e.schrift(), 0, e.fett()};
+    if (e.Beschriftung_wörtlich) merkmal.text = und_verdoppelt(merkmal.text);
     if (e.art() == Elementart::Knopf) {
         const auto& knopf = static_cast<const Knopf&>(e);
         merkmal.text += knopf.Bild;

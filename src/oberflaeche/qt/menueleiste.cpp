@@ -49,8 +49,7 @@ void anpassen(Ziel& ziel, const Einträge& einträge) {
         QAction& aktion = *aktionen.at(static_cast<qsizetype>(i));
         const Menüpunkt& punkt = *einträge[i];
         if (!punkt.ist_Strich()) {
-            aktion.setText(
-                Anzeigetext(punkt.Beschriftung_wörtlich ? und_verdoppelt(punkt.beschriftung()) : punkt.beschriftung()));
+            aktion.setText(Beschriftungstext(punkt));
             aktion.setEnabled(punkt.aktiv());
             aktion.setCheckable(punkt.haken());
             aktion.setChecked(punkt.haken());

@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "grundlagen/text.hpp"
+#include "oberflaeche/element.hpp"
 #include "oberflaeche/farbe.hpp"
 #include "oberflaeche/geometrie.hpp"
 
@@ -25,6 +26,11 @@ inline QRect Pixel(const Bereich& b) {
 }
 
 inline QString Anzeigetext(const Text& text) { return QString::fromStdString(anzeigbar(text)); }
+
+// A caption as Qt reads it, where "&" marks the access key.
+inline QString Beschriftungstext(const Element& element) {
+    return Anzeigetext(element.Beschriftung_wörtlich ? und_verdoppelt(element.beschriftung()) : element.beschriftung());
+}
 
 // CR, CR LF and LF alike end a line.
 inline QString Anzeigeabsätze(const Text& text) {
