@@ -1,9 +1,12 @@
+#include <utility>
+
 #include "datenbank/fortschritt.hpp"
 #include "datenbank/info_datei.hpp"
 #include "datenbank/version.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "plattform/dateisystem.hpp"
 #include "plattform/kanaele.hpp"
+#include "plattform/zeilenbau.hpp"
 
 namespace tonkartei {
 
@@ -68,19 +71,21 @@ void Info_Datei::Körper_schreiben(int nummer, bool Fortschritt_zeigen) {
     kanäle_.schreibe_Zahl(nummer, modell_.Backup_Warnungs_Grenze);
     kanäle_.schreibe_Zahl(nummer, modell_.Anzahl_Lieder);
     if (Fortschritt_zeigen && modell_.Anzahl_Lieder > 0) fortschritt_.Text_setzen("Datenbank speichern...");
+    Zeilenbau zeilen(kanäle_, nummer);
     for (Long n = 1; n <= modell_.Anzahl_Lieder; ++n) {
-        const Lied& lied = modell_.Lieder[n];
-        kanäle_.schreibe_Zahl(nummer, lied.Anzahl);
-        kanäle_.schreibe_Zeile(nummer, lied.Artist);
-        kanäle_.schreibe_Zahl(nummer, lied.Größe);
-        kanäle_.schreibe_Zahl(nummer, lied.Kategorie);
-        kanäle_.schreibe_Zeile(nummer, lied.Titel);
+        const Lied& lied = std::as_const(modell_).Lieder[n];
         const Long sekunden = Sekunden_von(lied.Zeit);
-        kanäle_.schreibe_reine_Zahl(nummer, sekunden / 3600);
-        kanäle_.schreibe_reine_Zahl(nummer, sekunden / 60 % 60);
-        kanäle_.schreibe_reine_Zahl(nummer, sekunden % 60);
+        zeilen.Zahl(lied.Anzahl);
+        zeilen.Zeile(lied.Artist);
+        zeilen.Zahl(lied.Größe);
+        zeilen.Zahl(lied.Kategorie);
+        zeilen.Zeile(lied.Titel);
+        zeilen.reine_Zahl(sekunden / 3600);
+        zeilen.reine_Zahl(sekunden / 60 % 60);
+        zeilen.reine_Zahl(sekunden % 60);
         if (Fortschritt_zeigen) fortschritt_.anzeigen(Prozent(n, modell_.Anzahl_Lieder));
     }
+    zeilen.übergeben();
 }
 
 }  // namespace tonkartei

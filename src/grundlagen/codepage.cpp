@@ -90,14 +90,28 @@ Text aus_1252(std::string_view bytes) {
     return text;
 }
 
-std::string nach_1252(std::string_view text) {
-    std::string bytes;
-    bytes.reserve(text.size());
+char* nach_1252(std::string_view text, char* ziel) {
     for (std::size_t i = 0; i < text.size();) {
-        const auto zeichen = nächstes_Zeichen(text, i);
-        const auto code = zeichen ? Unicode_zu_Seite(*zeichen) : std::nullopt;
-        bytes.push_back(code ? static_cast<char>(*code) : '?');
+        const auto byte = static_cast<unsigned char>(text[i]);
+        const auto folge = static_cast<unsigned char>(i + 1 < text.size() ? text[i + 1] : 0);
+        if (byte < 0x80) {
+            *ziel++ = text[i++];
+        } else if (byte == 0xC3 && ist_Folge(folge)) {
+            // The letters of the page's upper quarter, which are nearly all that occur, by their bits.
+            *ziel++ = static_cast<char>(folge | 0x40U);
+            i += 2;
+        } else {
+            const auto zeichen = nächstes_Zeichen(text, i);
+            const auto code = zeichen ? Unicode_zu_Seite(*zeichen) : std::nullopt;
+            *ziel++ = code ? static_cast<char>(*code) : '?';
+        }
     }
+    return ziel;
+}
+
+std::string nach_1252(std::string_view text) {
+    std::string bytes(text.size(), '\0');
+    bytes.resize(static_cast<std::size_t>(nach_1252(text, bytes.data()) - bytes.data()));
     return bytes;
 }
 

@@ -14,6 +14,8 @@ Text aus_1252(std::string_view bytes);
 
 // Text to bytes of the page; characters outside it, and bytes that are not UTF-8, become "?".
 std::string nach_1252(std::string_view text);
+// The same into a place of at least as many bytes as the text has; the end of what was put there.
+char* nach_1252(std::string_view text, char* ziel);
 
 // The text as the page can hold it: what lies outside becomes "?". Applied when a text enters a record or a list, so
 // that memory equals disk.

@@ -30,32 +30,6 @@ bool nur_ASCII(std::string_view bytes) {
 
 Text als_Text(std::string_view bytes) { return nur_ASCII(bytes) ? Text(bytes) : aus_1252(bytes); }
 
-// nach_1252 into a place that is large enough; the end of what was put there. Plain letters go eight at a time, those of the
-// page's upper half, which are most of the rest, by their bits.
-char* als_Seite(std::string_view text, char* ziel) {
-    std::size_t i = 0;
-    for (std::uint64_t acht; i + 8 <= text.size(); i += 8, ziel += 8) {
-        std::memcpy(&acht, text.data() + i, 8);
-        if (acht & 0x8080808080808080U) break;
-        std::memcpy(ziel, &acht, 8);
-    }
-    while (i < text.size()) {
-        const auto byte = static_cast<unsigned char>(text[i]);
-        const auto folge = static_cast<unsigned char>(i + 1 < text.size() ? text[i + 1] : 0);
-        if (byte < 0x80) {
-            *ziel++ = text[i++];
-        } else if (byte == 0xC3 && (folge & 0xC0U) == 0x80) {
-            *ziel++ = static_cast<char>(folge | 0x40U);
-            i += 2;
-        } else {
-            const auto zeichen = nächstes_Zeichen(text, i);
-            const auto code = zeichen ? Unicode_zu_Seite(*zeichen) : std::nullopt;
-            *ziel++ = code ? static_cast<char>(*code) : '?';
-        }
-    }
-    return ziel;
-}
-
 std::string_view ohne_Blanks_dahinter(std::string_view bytes) {
     while (!bytes.empty() && bytes.back() == ' ') bytes.remove_suffix(1);
     return bytes;
@@ -243,7 +217,7 @@ void Kanäle::Zeile_beenden(Kanal& kanal, char* ende) {
 void Kanäle::schreibe_Zeile(int nummer, const Text& text) {
     Kanal& kanal = zum_Schreiben(nummer);
     // No character is longer on the page than in UTF-8.
-    Zeile_beenden(kanal, als_Seite(text, Platz_für_Zeile(kanal, text.size())));
+    Zeile_beenden(kanal, nach_1252(text, Platz_für_Zeile(kanal, text.size())));
 }
 
 void Kanäle::schreibe_Rohzeile(int nummer, const std::string& bytes) {
@@ -264,6 +238,14 @@ void Kanäle::schreibe_reine_Zahl(int nummer, std::int64_t wert) {
     Kanal& kanal = zum_Schreiben(nummer);
     char* ziel = Platz_für_Zeile(kanal, längste_Zahl);
     Zeile_beenden(kanal, std::to_chars(ziel, ziel + längste_Zahl, wert).ptr);
+}
+
+void Kanäle::schreibe_Bytes(int nummer, std::string_view bytes) {
+    Kanal& kanal = zum_Schreiben(nummer);
+    ausschreiben(kanal);
+    if (bytes.empty()) return;
+    dateien_.schreiben(kanal.griff, kanal.position, std::span<const char>(bytes.data(), bytes.size()));
+    kanal.position += bytes.size();
 }
 
 }  // namespace tonkartei

@@ -57,6 +57,8 @@ public:
     void schreibe_Zahl(int nummer, std::int64_t wert);
     // "45".
     void schreibe_reine_Zahl(int nummer, std::int64_t wert);
+    // The file's own bytes as they are, line ends included.
+    void schreibe_Bytes(int nummer, std::string_view bytes);
 
 private:
     struct Kanal;
