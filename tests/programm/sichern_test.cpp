@@ -53,7 +53,6 @@ protected:
 // Each way of saving, with the answers that its failure may ask for.
 const std::vector<std::pair<const char*, Zeilen>> Wege{
     {"Ende", {"schließe Tonkartei"}},
-    {"von außen", {"schließe Tonkartei extern"}},
     {"von Hand", {"klick Tonkartei.Menü_schreibe_Datenbank", "antwort OK"}},
 };
 

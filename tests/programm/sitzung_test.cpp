@@ -204,6 +204,21 @@ TEST_F(Sitzung, zuletzt_geöffnete) {
         EXPECT_EQ(wert("geöffnete Datenbanken\\Nr. " + std::to_string(i)), erwartet[static_cast<std::size_t>(i - 1)]);
 }
 
+// A path's bytes go through folder choice, registry and list unchanged, whatever they mean.
+TEST_F(Sitzung, Ordner_mit_fremden_Bytes) {
+    const std::string fremd = sammlung("\xff\xe4 & b");
+    starten({.setze = zuletzt({ordner.pfad("weg/")})});
+    hände({"klick Splash.Button(2)", "pfad " + Bediener::zitiert(fremd)});
+    ASSERT_EQ(b->bereit(), "schleife");
+    hand("klick Tonkartei.MP_Beenden");
+    starten({.setze = {"geöffnete Datenbanken\\Anzahl=1"}});
+    ASSERT_EQ(b->bereit(), "schleife");
+    EXPECT_EQ(Bediener::Pfadbytes(b->text("Tonkartei.Datenbank")), fremd);
+    EXPECT_TRUE(std::filesystem::exists(fremd + "MP3_Info.DBG"));
+    hand("setze Tonkartei.Datenbank #0");
+    EXPECT_EQ(geschehen(), Zeilen{Geladen});
+}
+
 TEST_F(Sitzung, Dialog_Datenbank_wählen) {
     starten({.setze = zuletzt({a, zweite})});
     geschehen();
