@@ -202,6 +202,11 @@ private:
         const auto Farbwahl = [this](const char* name, const char* text, Long Einstellungen::*farbe) {
             return Befehl(name, text, [this, farbe] { t.fenster.Kategorien.Farbe_ändern(farbe); });
         };
+        const auto Markierungsfarbe = [this](const char* name, const char* text, Long Einstellungen::*farbe) {
+            return Befehl(name, text, [this, farbe] {
+                if (const auto neue = t.ansicht.Farbe_wählen(t.einstellungen.*farbe)) t.einstellungen.*farbe = *neue;
+            });
+        };
         return Untermenü(
             "UMP_Allgemeines", "&Allgemeines...",
             {Untermenü("UMP_Lieder_Namen", "Lieder &Namen/Größe...",
@@ -216,8 +221,9 @@ private:
                        {Farbwahl("Kategorie_Farbe", "hervorgehobene &Kategorie...", &Einstellungen::Kategorie_Farbe),
                         Farbwahl("automatische_Kategorie_Farbe", "&automatische Kategorien...",
                                  &Einstellungen::automatische_Kategorien_Farbe),
-                        Befehl("markierte_Farbe", "&markierte Farbe..."),
-                        Befehl("markierte_Listen_Farbe", "markierte &Listen-Farbe")}),
+                        Markierungsfarbe("markierte_Farbe", "&markierte Farbe...", &Einstellungen::Markierte_Farbe),
+                        Markierungsfarbe("markierte_Listen_Farbe", "markierte &Listen-Farbe",
+                                         &Einstellungen::Markierte_Listen_Farbe)}),
              Befehl("Systray_always", "System-&Tray Symbol immer sichtbar",
                     [this] {
                         bool& immer = t.einstellungen.Systray_immer_sichtbar;

@@ -97,6 +97,10 @@ TEST_F(Kategorien, Farben) {
     EXPECT_EQ(b->zeige(Kasten(2))["farbe"], 16711680);
     hände({"klick Tonkartei.Kategorie_Farbe", "abbrechen"});
     EXPECT_EQ(b->zeige(Kasten(2))["farbe"], 16711680);
+    hände({"klick Tonkartei.markierte_Listen_Farbe", "farbe 255", "klick Tonkartei.MP_Beenden"});
+    öffnen(ordner.pfad("a/"));
+    EXPECT_EQ(wert("Kategorie-Farbe"), "16711680");
+    EXPECT_EQ(wert("Markierte Listen-Farbe"), "255");
 }
 
 TEST_F(Kategorien, Schemas) {
