@@ -20,7 +20,7 @@ Modell mit_Liedern(const std::vector<std::pair<Text, Text>>& artist_titel) {
 }
 
 Nummern alle(const Modell& modell, Sortierung sortierung, const Text& suche = {}) {
-    return gefilterte_Lieder(modell, sortierung, suche, [](int k) { return k == 1; });
+    return Liederordnung().gefilterte_Lieder(modell, sortierung, suche, [](int k) { return k == 1; });
 }
 
 TEST(Lieder_Liste, Reihenfolge) {
@@ -82,13 +82,46 @@ TEST(Lieder_Liste, Kategorien) {
     modell.Lieder[2].Kategorie = 3;
     modell.Lieder[3].Kategorie = 255;  // a category that is being asked for
     const auto mit = [&](std::vector<int> kästen) {
-        return gefilterte_Lieder(modell, Sortierung::Artist, {},
-                                 [&](int k) { return std::find(kästen.begin(), kästen.end(), k) != kästen.end(); });
+        return Liederordnung().gefilterte_Lieder(modell, Sortierung::Artist, {}, [&](int k) {
+            return std::find(kästen.begin(), kästen.end(), k) != kästen.end();
+        });
     };
     EXPECT_EQ(mit({1}), (Nummern{1, 2, 3}));
     EXPECT_EQ(mit({1, 2}), (Nummern{1, 2, 3}));
     EXPECT_EQ(mit({2, 3}), (Nummern{2}));
     EXPECT_EQ(mit({}), Nummern{});
+}
+
+// The order is kept from one build to the next: every change of the songs must show all the same.
+TEST(Lieder_Liste, GemerkteOrdnungFolgtJederAenderung) {
+    Modell modell = mit_Liedern({{"b", "x"}, {"a", "x"}, {"c", "x"}});
+    Liederordnung ordnung;
+    const auto prüfen = [&](const char* was) {
+        for (const Text suche : {"", "x", "bx", "q"})
+            for (const Sortierung sortierung : {Sortierung::Artist, Sortierung::Titel})
+                EXPECT_EQ(ordnung.gefilterte_Lieder(modell, sortierung, suche, [](int k) { return k == 1; }),
+                          alle(modell, sortierung, suche))
+                    << was << " \"" << suche << '"';
+    };
+    prüfen("at first");
+    modell.Lieder[3].Artist = "A";
+    prüfen("another case only");
+    modell.Lieder[2].Titel = "q";
+    prüfen("another title");
+    std::swap(modell.Lieder[1], modell.Lieder[3]);
+    prüfen("numbers exchanged");
+    modell.Lieder[1].Artist = "Ax";
+    modell.Lieder[1].Titel = "";
+    modell.Lieder[2].Artist = "bx";
+    modell.Lieder[2].Titel = "";
+    prüfen("the seam elsewhere");
+    --modell.Anzahl_Lieder;
+    prüfen("one less");
+    modell.Lieder[++modell.Anzahl_Lieder].Artist = "";
+    modell.Lieder[modell.Anzahl_Lieder].Titel = "Bx";
+    prüfen("one more");
+    modell.Anzahl_Lieder = 0;
+    prüfen("none");
 }
 
 TEST(Lieder_Liste, Zeilen) {
