@@ -83,5 +83,31 @@ int main() {
             std::sort(kopie.begin(), kopie.end());
             return kopie.front().size();
         });
+
+    std::vector<std::string> albumschlüssel;
+    f.alben.Anzahl = Alben_maximal;
+    for (int n = 1; n <= Alben_maximal; ++n) {
+        Album& album = f.alben.Alben[n];
+        album.Interpret = "Some Band With A Name " + std::to_string(n * 7919 % 997);
+        album.Titel = "An album of the usual length no. " + std::to_string(n * 31 % 5003);
+        albumschlüssel.push_back(groß(album.Interpret + album.Titel) + Zahl_mit_Nullen(n, 4));
+    }
+    f.modell.Alben_geladen = true;
+    f.lieder.Alben_öffnen = [] { return true; };
+    v.höchstens(
+        "Öffnen des Reiters mit 5000 Alben", 2, "std::sort derselben Schlüssel",
+        [&] {
+            // Back and forth; the way back to the songs found by the search is part of it.
+            f.lieder.Schnellsuche.text("nichts dergleichen");
+            f.lieder.Datenbank_Modus.wert(1);
+            const int zeilen = f.lieder.Liste.Anzahl();
+            f.lieder.Datenbank_Modus.wert(0);
+            return zeilen;
+        },
+        [&] {
+            std::vector<std::string> kopie = albumschlüssel;
+            std::sort(kopie.begin(), kopie.end());
+            return kopie.front().size();
+        });
     return v.Ergebnis();
 }

@@ -13,7 +13,7 @@ pakete="$pakete libgtest-dev libgmock-dev nlohmann-json3-dev"
 
 for gruppe in "$@"; do
     case $gruppe in
-        leistung) pakete="$pakete libbenchmark-dev libtag1-dev" ;;
+        leistung) pakete="$pakete libtag1-dev" ;;
         format) pakete="$pakete clang-format" ;;
         paket) pakete="$pakete dpkg-dev file" ;;
         *)

@@ -7,12 +7,9 @@ namespace tonkartei {
 std::vector<long long> sortierte_Alben(const Albenbestand& bestand) {
     Sortier_Liste sortiert;
     sortiert.vormerken(static_cast<std::size_t>(bestand.Anzahl), static_cast<std::size_t>(bestand.Anzahl) * 48);
-    Text schlüssel;
     for (Long n = 1; n <= bestand.Anzahl; ++n) {
         const Album& album = bestand.Alben[n];
-        schlüssel = album.Interpret;
-        schlüssel += album.Titel;
-        sortiert.hinzufügen(schlüssel, {}, n, 4);
+        sortiert.hinzufügen(album.Interpret, album.Titel, n, 4);
     }
     return sortiert.sortierte_Nummern();
 }

@@ -59,8 +59,12 @@ void Sortier_Liste::hinzufügen(std::string_view text, std::string_view dahinter
 std::uint64_t Sortier_Liste::Teil(const Zeile& zeile, std::size_t tiefe) const {
     const char* bytes = schlüssel_.data() + zeile.stelle + tiefe;
     const std::size_t rest = tiefe < zeile.länge ? zeile.länge - tiefe : 0;
+    const auto Byte_von = [bytes](std::size_t i) { return std::uint64_t{static_cast<unsigned char>(bytes[i])}; };
+    if (rest >= Teillänge)
+        return Byte_von(0) << 56 | Byte_von(1) << 48 | Byte_von(2) << 40 | Byte_von(3) << 32 | Byte_von(4) << 24 |
+               Byte_von(5) << 16 | Byte_von(6) << 8 | Byte_von(7);
     std::uint64_t teil = 0;
-    for (std::size_t i = 0; i < Teillänge; ++i) teil = teil << 8 | (i < rest ? static_cast<unsigned char>(bytes[i]) : 0U);
+    for (std::size_t i = 0; i < Teillänge; ++i) teil = teil << 8 | (i < rest ? Byte_von(i) : 0U);
     return teil;
 }
 

@@ -14,6 +14,7 @@
 #include "plattform/kanaele.hpp"
 #include "plattform/linux/dateisystem_linux.hpp"
 #include "plattform/plattform.hpp"
+#include "probe/stumme_ansicht.hpp"
 #include "testordner.hpp"
 #include "wiedergabe/wiedergabe.hpp"
 
@@ -21,18 +22,13 @@ namespace tonkartei {
 
 using Aufzeichnung = std::vector<Text>;
 
-class Ansicht_Bühne : public Ansicht {
+class Ansicht_Bühne : public Stumme_Ansicht {
 public:
-    Aufzeichnung Meldungen;       // "title|text"
     std::deque<Text> Antworten;   // to input boxes and folder choices; cancelled when there is none
     Text gefragt;                 // "title|text|preset" of the last input box or folder choice
     int Ereignisrunden = 0;       // how often events were let run
     std::function<void()> Runde;  // what happens meanwhile
 
-    Antwort melden(const Meldungsfeld& feld) override {
-        Meldungen.push_back(feld.titel + "|" + feld.text);
-        return feld.vorgabe;
-    }
     Text eingeben(const Text& text, const Text& titel, const Text& vorgabe) override {
         gefragt = titel + "|" + text + "|" + vorgabe;
         return nächste();
@@ -45,25 +41,6 @@ public:
         ++Ereignisrunden;
         if (Runde) Runde();
     }
-
-    Text Datei_wählen(const Dateiwahl&) override { return {}; }
-    std::optional<Farbe> Farbe_wählen(Farbe) override { return std::nullopt; }
-    void Fenster_geändert(Fenster&) override {}
-    void Element_geändert(Element&, unsigned) override {}
-    void Fenster_malen(Fenster&) override {}
-    void modal_laufen(Fenster&) override {}
-    void Menü_zeigen(Menüpunkt&) override {}
-    void Zwischenablage_setzen(const Text&) override {}
-    int Textbreite(const Text&, int) const override { return 0; }
-    int Texthöhe(int) const override { return 0; }
-    Größe Wunschgröße(const Element&) const override { return {}; }
-    Größe Bildschirm() const override { return {}; }
-    Bereich Rahmenrand(const Element&) const override { return {}; }
-    int Zeilenhöhe(int) const override { return 0; }
-    void warten_bis(Fenster&, const std::function<bool()>&) override {}
-    void Zeitgeber_gestellt(Zeitgeber&) override {}
-    void Zeitgeber_entfernt(Zeitgeber&) override {}
-    [[noreturn]] void an_Laufzeitfehler_enden(const Laufzeitfehler& fehler) override { throw fehler; }
 
 private:
     Text nächste() {
