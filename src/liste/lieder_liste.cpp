@@ -8,14 +8,18 @@ namespace tonkartei {
 
 namespace {
 
+// Stands for an artist that is empty: in front of every character that a name can begin with, so that these songs come
+// first, as their lines do to the eye, and not under the letter of their titles.
+constexpr std::string_view kein_Artist = "\x01";
+
 struct Felder {
-    const Text& vorne;
-    const Text& hinten;
+    std::string_view vorne;
+    std::string_view hinten;
 };
 
 Felder Felder_von(const Lied& lied, Sortierung sortierung) {
     if (sortierung == Sortierung::Titel) return {lied.Titel, lied.Artist};
-    return {lied.Artist, lied.Titel};
+    return {lied.Artist.empty() ? kein_Artist : std::string_view(lied.Artist), lied.Titel};
 }
 
 }  // namespace
