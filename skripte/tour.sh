@@ -1,13 +1,16 @@
 #!/bin/bash
 # Plays the main job without a screen, with real files, the real player and the real windows drawn off-screen: a new
-# collection, songs added, sorted, searched, cut by categories, played and counted; then all of it once more after a new
-# start. Prints what happens and leaves a picture of every window in build/tour. Fails when something is not as it should.
+# collection, songs added, sorted, searched, cut by categories, played and counted; then the counts, albums, the editor of
+# categories and the menus after a new start; then all windows once more at twice the scale. Prints what happens and leaves
+# a picture of every window in build/tour. Fails when something is not as it should.
 set -eu
 wurzel=$(cd "$(dirname "$0")/.." && pwd)
 bediener=${1:-$wurzel/build/release/bin/tonkartei-bediener}
 bilder=$wurzel/build/tour
 arbeit=$(mktemp -d)
-trap 'kill "${bediener_prozess:-0}" 2>/dev/null || true; rm -rf "$arbeit"' EXIT
+bediener_prozess=
+aufraeumen='[ -z "$bediener_prozess" ] || kill "$bediener_prozess" 2>/dev/null; rm -rf "$arbeit"'
+trap "$aufraeumen" EXIT
 mkdir -p "$bilder" "$arbeit/wurzel" "$arbeit/sammlungen" "$arbeit/laufzeit"
 chmod 700 "$arbeit/laufzeit"
 
@@ -103,6 +106,89 @@ rundgang() {
     erwarte Tonkartei.Liste_Anzahl '"text":"6"'
 }
 
+# The number under which the song is stored; every song has eight lines in the info file, the fifth is its title.
+nummer() {
+    local datei=$1 anfang=$2 zeile
+    zeile=$(LC_ALL=C grep -an "^$anfang" "$datei" | head -n 1 | cut -d : -f 1)
+    [ -n "$zeile" ] || { echo "no such song in the info file: $anfang" >&2; exit 1; }
+    echo $((6 - ($(wc -l <"$datei") - zeile - 3) / 8))
+}
+
+# Three albums of the songs and of titles that the collection does not have; bytes of the page 1252.
+alben_anlegen() {
+    local ordner=$1 info=$1/MP3_Info.MDB
+    zeilen() { local zeile; for zeile in "$@"; do printf '%b\r\n' "$zeile"; done; }
+    # Artist, minutes, seconds, title; and the beginning of the song's title in the info file when it is there.
+    titel() {
+        if [ $# -gt 4 ]; then
+            local nr
+            nr=$(nummer "$info" "$5")
+            zeilen "$1" 0 "$2" "$3" T " $nr " "$4"
+        else
+            zeilen "$1" 0 "$2" "$3" F " 0 " "$4"
+        fi
+    }
+    {
+        zeilen Tonkartei 'V 1.02 16' 'Datenbank Alben-Verwaltung' ' 3 '
+        zeilen ' 5 ' 'K\0344the \0326hlmann' ' 1998 ' F '\0334ber den D\0344chern'
+        titel 'K\0344the \0326hlmann' 0 18 'Morgens \0374ber den D\0344chern' Morgens
+        titel 'K\0344the \0326hlmann' 3 41 'Stra\0337enbahn nach S\0374den'
+        titel 'K\0344the \0326hlmann' 0 18 'Regen im Treppenhaus' Regen
+        titel 'K\0344the \0326hlmann' 0 18 'Kurzes Klingeln' Kurzes
+        titel 'J\0366rg & \0304nne S\0374\0337' 4 12 'Z\0344hes Wachs'
+        zeilen ' 3 ' 'Das Zettelkasten-Trio' ' 2003 ' F 'Von A bis Z'
+        titel 'Das Zettelkasten-Trio' 0 18 'Kartenwalzer' Kartenwalzer
+        titel 'Das Zettelkasten-Trio' 0 18 'Schublade A bis K' Schublade
+        titel 'Das Zettelkasten-Trio' 2 55 'Schublade L bis Z'
+        zeilen ' 2 ' 'J\0366rg & \0304nne S\0374\0337' ' 2001 ' T 'Laternenlied'
+        titel 'J\0366rg & \0304nne S\0374\0337' 0 18 'Laternenlied f\0374r zwei' Laternenlied
+        titel 'J\0366rg & \0304nne S\0374\0337' 5 3 'Laternenlied (lange Fassung)'
+    } >"$ordner/MP3_Info.ALB"
+}
+
+# What there is to see of a whole collection.
+ansichten() {
+    local anhang=$1
+    tu "klick Tonkartei.sortieren(1)"
+    tu "wähle Tonkartei.Liste 0"
+    bild Tonkartei "tonkartei$anhang"
+    echo "== Albums"
+    tu "wähle Tonkartei.Datenbank_Modus 1"
+    erwarte Tonkartei.Liste '["Das Zettelkasten-Trio - Von A bis Z","Jörg & Änne Süß - Laternenlied","Käthe Öhlmann - Über den Dächern"]'
+    tu "wähle Tonkartei.Liste 2"
+    erwarte Tonkartei.Liste2 'Jörg & Änne Süß - Zähes Wachs'
+    tu "wähle Tonkartei.Liste2 2"
+    erwarte Tonkartei.Titel '"text":"Regen im Treppenhaus"'
+    bild Tonkartei "alben$anhang"
+    tu "wähle Tonkartei.Liste2 1"
+    erwarte Tonkartei.Titel 'nicht in Datenbank'
+    tu "klick Tonkartei.Menü_starte_Album"
+    bild Album_wählen "album_wählen$anhang"
+    tu "klick Album_wählen.Abbruch"
+    tu "wähle Tonkartei.Datenbank_Modus 0"
+    tu "wähle Tonkartei.Liste 0"
+    echo "== Categories, the about box, menus"
+    tu "klick Tonkartei.Kategorie_Edit"
+    tu "wähle Kategorie_bearbeiten.Liste 2"
+    erwarte Kategorie_bearbeiten.Kategorie_Name '"text":"Hip-Hop/Rap"'
+    bild Kategorie_bearbeiten "kategorien$anhang"
+    tu "klick Kategorie_bearbeiten.Ok"
+    tu "klick Tonkartei.zeige_Info"
+    bild Infofenster "info$anhang"
+    tu "klick Infofenster.Ok"
+    tu "klick Tonkartei.Anz_Kat_Schemas(2)"
+    tu "rechtsklick Tonkartei.SysTray"
+    bild Kontextmenüs.Tray_Menü "menü_tray$anhang"
+    bild Kontextmenüs.Tray_Kategorien "menü_tray_kategorien$anhang"
+    tu "rechtsklick Tonkartei.Liste 0"
+    bild Kontextmenüs.Lied_Menü "menü_lied$anhang"
+    for name in OMP_Datei OMP_Lieder OMP_Optionen UMP_Kategorien UMP_Allgemeines UMP_WinAmp; do
+        bild "Tonkartei.$name" "menü_${name#*_}$anhang"
+    done
+    # With the buttons of two schemes.
+    bild Tonkartei "tonkartei_schemas$anhang"
+}
+
 rundgang "" Tour
 echo "== Sorting, searching, categories"
 tu "klick Tonkartei.sortieren(1)"
@@ -128,14 +214,13 @@ tu "klick Tonkartei.Lied_starten"
 tu "warte 500"
 tu "wähle Tonkartei.Liste 0"
 erwarte Tonkartei.Anzahl '"text":"1"'
-bild Tonkartei tonkartei
 tu "klick Tonkartei.Menü_WinAmp_Beenden(2)"
 ende
+alben_anlegen "$arbeit/sammlungen/Tour"
 echo "== The next start"
 starten
 erwarte Tonkartei.Liste_Anzahl '"text":"6"'
-tu "klick Tonkartei.sortieren(1)"
-tu "wähle Tonkartei.Liste 0"
+ansichten ""
 erwarte Tonkartei.Anzahl '"text":"1"'
 ende
 [ -f "$arbeit/sammlungen/Tour/MP3_Info.MDB" ] || { echo "no info file was saved"; fehler=1; }
@@ -145,9 +230,11 @@ echo "== The same windows at twice the scale"
 export QT_SCALE_FACTOR=2
 rm -rf "$arbeit/wurzel"
 mkdir "$arbeit/wurzel"
-rundgang "@2x" Doppelt >"$arbeit/doppelt" || { cat "$arbeit/doppelt"; exit 1; }
-tu "wähle Tonkartei.Liste 0" >/dev/null
-bild Tonkartei "tonkartei@2x"
+rundgang "@2x" Doppelt
+ende
+alben_anlegen "$arbeit/sammlungen/Doppelt"
+starten
+ansichten "@2x"
 ende
 
 echo

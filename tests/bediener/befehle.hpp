@@ -11,11 +11,15 @@ namespace tonkartei {
 
 class Ansicht_Bediener;
 class Fenster;
+class Menüpunkt;
 struct Maschine;
 
 using Befehlstafel = std::map<Text, std::function<void(Befehlszeile&)>>;
-// Saves a picture of the window; false when that fails. Empty without a toolkit.
-using Bildspeicher = std::function<bool(Fenster&, const Text&)>;
+// Save a picture of a window, or of the menu below an entry; false when that fails. Empty without a toolkit.
+struct Bildspeicher {
+    std::function<bool(Fenster&, const Text&)> fenster;
+    std::function<bool(const Menüpunkt&, const Text&)> menü;
+};
 
 // What the hand does.
 void Handbefehle_eintragen(Befehlstafel& tafel, Ansicht_Bediener& ansicht);

@@ -20,7 +20,8 @@ public:
         };
     }
     Bildspeicher bild() override {
-        return [this](Fenster& fenster, const Text& datei) { return maler_.Bild_speichern(fenster, datei); };
+        return {[this](Fenster& fenster, const Text& datei) { return maler_.Bild_speichern(fenster, datei); },
+                [this](const Menüpunkt& wurzel, const Text& datei) { return maler_.Bild_speichern(wurzel, datei); }};
     }
 
 private:

@@ -5,6 +5,7 @@
 #include "bediener/namen.hpp"
 #include "bediener/schau.hpp"
 #include "oberflaeche/fenster.hpp"
+#include "oberflaeche/menue.hpp"
 
 namespace tonkartei {
 namespace {
@@ -69,6 +70,20 @@ Text Menü_beschreiben(const Ansicht& ansicht, const Text& name) {
         }
     }
     throw Befehlsfehler("kein solches Menü: " + name);
+}
+
+// A name without a dot is a window's, else a menu's.
+bool Bild_machen(const Ansicht& ansicht, const Bildspeicher& bild, const Text& name, const Text& datei) {
+    if (name.find('.') == Text::npos) {
+        Fenster& fenster = Fenster_suchen(ansicht, name);
+        if (!fenster.geladen()) throw Befehlsfehler("das Fenster ist nicht geladen: " + name);
+        return bild.fenster(fenster, datei);
+    }
+    const Element& element = Element_suchen(ansicht, name);
+    if (element.art() != Elementart::Menü) throw Befehlsfehler("kein Menü: " + name);
+    const auto& menü = static_cast<const Menüpunkt&>(element);
+    if (menü.einträge().empty()) throw Befehlsfehler("das Menü ist leer: " + name);
+    return bild.menü(menü, datei);
 }
 
 Text Registrierung_beschreiben(const Maschine& maschine) {
@@ -137,12 +152,11 @@ void Schaubefehle_eintragen(Befehlstafel& tafel, Ansicht_Bediener& ansicht, Masc
         ansicht.ausgeben(Objekt().roh("registrierung", Registrierung_beschreiben(maschine)).text());
     };
     tafel["bild"] = [&ansicht, bild](Befehlszeile& z) {
-        Fenster& fenster = Fenster_suchen(ansicht, z.nächstes("Fenster"));
+        const Text name = z.nächstes("Fenster oder Menü");
         const Text datei = z.nächstes("Datei");
         z.zu_Ende();
-        if (!bild) throw Befehlsfehler("Bilder gibt es nur mit --ansicht qt");
-        if (!fenster.geladen()) throw Befehlsfehler("das Fenster ist nicht geladen: " + fenster.Name());
-        if (!bild(fenster, datei)) throw Befehlsfehler("das Bild ließ sich nicht schreiben: " + datei);
+        if (!bild.fenster) throw Befehlsfehler("Bilder gibt es nur mit --ansicht qt");
+        if (!Bild_machen(ansicht, bild, name, datei)) throw Befehlsfehler("das Bild ließ sich nicht schreiben: " + datei);
     };
     tafel["spieler"] = [&ansicht, &maschine](Befehlszeile& z) {
         z.zu_Ende();

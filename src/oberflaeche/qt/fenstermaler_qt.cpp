@@ -9,6 +9,7 @@
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/qt/fensterwidget.hpp"
 #include "oberflaeche/qt/masse.hpp"
+#include "oberflaeche/qt/menueleiste.hpp"
 #include "oberflaeche/qt/umfeld.hpp"
 
 namespace tonkartei {
@@ -16,6 +17,10 @@ namespace {
 
 // How long a new window may take to come up before it is painted for the first time.
 constexpr int Geduld_ms = 250;
+
+bool schreiben(const QPixmap& bild, const Text& datei) {
+    return bild.save(QFile::decodeName(QByteArray::fromStdString(datei)), "PNG");
+}
 
 }  // namespace
 
@@ -96,7 +101,11 @@ bool Fenstermaler_Qt::Bild_speichern(Fenster& fenster, const Text& datei) {
     Fensterwidget* widget = innen_->umfeld.widget(fenster);
     if (widget == nullptr || !fenster.geladen()) return false;
     abgleichen();
-    return widget->grab().save(QFile::decodeName(QByteArray::fromStdString(datei)), "PNG");
+    return schreiben(widget->grab(), datei);
+}
+
+bool Fenstermaler_Qt::Bild_speichern(const Menüpunkt& wurzel, const Text& datei) {
+    return schreiben(Menübild(wurzel), datei);
 }
 
 QWidget* Fenstermaler_Qt::Widget(Fenster& fenster) const { return innen_->umfeld.widget(fenster); }

@@ -12,6 +12,7 @@ class QWidget;
 namespace tonkartei {
 
 class Ansicht;
+class Menüpunkt;
 
 class Fenstermaler_Qt : public Fenstermaler {
 public:
@@ -35,6 +36,8 @@ public:
     void abgleichen();
     // The inside of a loaded window as PNG, in the pixels of the screen; false when the file cannot be written.
     bool Bild_speichern(Fenster& fenster, const Text& datei);
+    // The menu below that entry.
+    bool Bild_speichern(const Menüpunkt& wurzel, const Text& datei);
     // The window's widget, null before its first loading; parent of boxes.
     QWidget* Widget(Fenster& fenster) const;
     // The control's widget, null when it has none.

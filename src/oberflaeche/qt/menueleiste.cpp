@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPixmap>
 #include <QPointer>
 #include <QVariant>
 
@@ -127,6 +128,13 @@ Menüpunkt* Kontextmenü_zeigen(const Menüpunkt& wurzel, QWidget* eltern) {
     Menüpunkt* punkt = gewählt == nullptr ? nullptr : punkt_von(*gewählt);
     delete menü;
     return punkt;
+}
+
+QPixmap Menübild(const Menüpunkt& wurzel) {
+    QMenu menü;
+    anpassen(menü, wurzel.einträge());
+    menü.adjustSize();
+    return menü.grab();
 }
 
 }  // namespace tonkartei

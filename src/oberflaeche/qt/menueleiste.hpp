@@ -4,8 +4,8 @@
 #include <memory>
 #include <vector>
 
-class QMenu;
 class QMenuBar;
+class QPixmap;
 class QWidget;
 
 namespace tonkartei {
@@ -29,5 +29,7 @@ private:
 
 // A pop-up menu with the entries of `wurzel`, shown at the mouse. The entry that was chosen, or null.
 Menüpunkt* Kontextmenü_zeigen(const Menüpunkt& wurzel, QWidget* eltern);
+// The same menu as it would come up, without showing it; submenus stay shut.
+QPixmap Menübild(const Menüpunkt& wurzel);
 
 }  // namespace tonkartei
