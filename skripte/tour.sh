@@ -11,6 +11,7 @@ arbeit=$(mktemp -d)
 bediener_prozess=
 aufraeumen='[ -z "$bediener_prozess" ] || kill "$bediener_prozess" 2>/dev/null; rm -rf "$arbeit"'
 trap "$aufraeumen" EXIT
+rm -f "$bilder"/*.png
 mkdir -p "$bilder" "$arbeit/wurzel" "$arbeit/sammlungen" "$arbeit/laufzeit"
 chmod 700 "$arbeit/laufzeit"
 
@@ -163,7 +164,7 @@ ansichten() {
     tu "wähle Tonkartei.Liste2 1"
     erwarte Tonkartei.Titel 'nicht in Datenbank'
     tu "klick Tonkartei.Menü_starte_Album"
-    bild Album_wählen "album_wählen$anhang"
+    bild Album_wählen "album_wahl$anhang"
     tu "klick Album_wählen.Abbruch"
     tu "wähle Tonkartei.Datenbank_Modus 0"
     tu "wähle Tonkartei.Liste 0"
@@ -178,13 +179,15 @@ ansichten() {
     tu "klick Infofenster.Ok"
     tu "klick Tonkartei.Anz_Kat_Schemas(2)"
     tu "rechtsklick Tonkartei.SysTray"
-    bild Kontextmenüs.Tray_Menü "menü_tray$anhang"
-    bild Kontextmenüs.Tray_Kategorien "menü_tray_kategorien$anhang"
+    bild Kontextmenüs.Tray_Menü "menue_tray$anhang"
+    bild Kontextmenüs.Tray_Kategorien "menue_tray_kategorien$anhang"
     tu "rechtsklick Tonkartei.Liste 0"
-    bild Kontextmenüs.Lied_Menü "menü_lied$anhang"
+    bild Kontextmenüs.Lied_Menü "menue_lied$anhang"
     for name in OMP_Datei OMP_Lieder OMP_Optionen UMP_Kategorien UMP_Allgemeines UMP_WinAmp; do
-        bild "Tonkartei.$name" "menü_${name#*_}$anhang"
+        bild "Tonkartei.$name" "menue_${name#*_}$anhang"
     done
+    # A rebuilt list brings the selection back, not what it says about the song.
+    tu "wähle Tonkartei.Liste 0"
     # With the buttons of two schemes.
     bild Tonkartei "tonkartei_schemas$anhang"
 }

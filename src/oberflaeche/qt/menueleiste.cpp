@@ -133,7 +133,8 @@ Menüpunkt* Kontextmenü_zeigen(const Menüpunkt& wurzel, QWidget* eltern) {
 QPixmap Menübild(const Menüpunkt& wurzel) {
     QMenu menü;
     anpassen(menü, wurzel.einträge());
-    menü.adjustSize();
+    // Not adjustSize: that keeps within two thirds of the screen.
+    menü.resize(menü.sizeHint());
     return menü.grab();
 }
 
