@@ -88,7 +88,8 @@ TEST_F(Nachrichten, Springen) {
         Befehl(f, fall.Code);
         EXPECT_EQ(fall.nach, Position(f)) << "under way: the target";
         std::this_thread::sleep_for(150ms);
-        EXPECT_NEAR(fall.nach, Position(f), 60);
+        // As far as the sound has got: a machine under load is behind by a few buffers, never by a step.
+        EXPECT_NEAR(fall.nach, Position(f), 500);
         Befehl(f, 40045);
     }
     for (int i = 0; i < 3; ++i) Befehl(f, 40148);
