@@ -8,7 +8,6 @@
 #include <unistd.h>
 
 #include <cstring>
-#include <ctime>
 #include <functional>
 
 #include "grundlagen/fehler.hpp"
