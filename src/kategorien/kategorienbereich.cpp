@@ -18,10 +18,10 @@ struct Kategorienbereich::Stille {
 };
 
 Kategorienbereich::Kategorienbereich(Fenster& fenster, Modell& modell, Einstellungen& einstellungen)
-    : Kategorien_Rahmen(fenster, "Kategorien_Rahmen", "Kategorien"),
+    : Lied_Kategorie(fenster, "Lied_Kategorie"),
+      Kategorien_Rahmen(fenster, "Kategorien_Rahmen", "Kategorien"),
       Schema_Rahmen(fenster, "Schema_Rahmen"),
       Kategorie_Edit(fenster, "Kategorie_Edit", "Kategorien b&earbeiten..."),
-      Lied_Kategorie(fenster, "Lied_Kategorie"),
       fenster_(fenster),
       modell_(modell),
       einstellungen_(einstellungen) {

@@ -20,12 +20,13 @@ class Kategorienbereich {
 public:
     Kategorienbereich(Fenster& fenster, Modell& modell, Einstellungen& einstellungen);
 
+    // First: its label stands at the end of the list area, and the label's access key goes to what follows it.
+    Auswahlfeld Lied_Kategorie;
     Rahmen Kategorien_Rahmen;
     Rahmen Schema_Rahmen;
     Kasten& zeige_Kategorie(int k) const;
     Knopf& Kategorie_Schema(int n) const;
     Knopf Kategorie_Edit;
-    Auswahlfeld Lied_Kategorie;
 
     // All controls in line with the table of categories; box 1 is checked, or the stored boxes with `Startkategorien_setzen`
     // and the setting. Ends in a rebuild of the list.

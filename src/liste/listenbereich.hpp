@@ -35,8 +35,9 @@ public:
 
     Rahmen Lied_Rahmen;
     Schriftfeld Titel_Text, Titel, Artist_Text, Artist, Anzahl_Text, Anzahl, Lied_Größe_Text, Lied_Größe, Lied_Zeit_Text,
-        Lied_Zeit, Lied_Kategorie_Text;
+        Lied_Zeit;
     Knopf Reset_Anzahl;
+    Schriftfeld Lied_Kategorie_Text;
 
     // Rebuilds what the present tab shows.
     void aktualisiere_Liste();

@@ -21,6 +21,7 @@ Knoten Infofenster::anordnung() {
                        Spalte({Programm_Name, Programm_Version, Autor, Copyright, Knoten(Kontakt).zeichen(36)}).dehnen(1)})
                     .lücke(300),
                 Zeile({Feder(), Ok, Feder()})})
+        .lücke(240)
         .rand(240);
 }
 

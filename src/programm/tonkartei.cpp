@@ -9,8 +9,8 @@ namespace tonkartei {
 Tonkartei::Tonkartei(Ansicht& ansicht, Modell& modell, Einstellungen& einstellungen, const Albenbestand& alben,
                      Spielzählung& zählung)
     : Fenster(ansicht, "Tonkartei", Programmtitel),
-      Kategorien(*this, modell, einstellungen),
       Lieder(*this, modell, einstellungen, alben, Kategorien),
+      Kategorien(*this, modell, einstellungen),
       Wiedergabe(*this, zählung),
       modell_(modell),
       einstellungen_(einstellungen) {

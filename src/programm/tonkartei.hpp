@@ -25,8 +25,9 @@ public:
 
     Schriftfeld Datenbank_Text{*this, "Datenbank_Text", "D&atenbank:"};
     Auswahlfeld Datenbank{*this, "Datenbank"};
-    Kategorienbereich Kategorien;
+    // The order of making is the tab order; `Lieder` only keeps its reference to `Kategorien` while it is made.
     Listenbereich Lieder;
+    Kategorienbereich Kategorien;
     Rahmen Wiedergabe_Rahmen{*this, "Wiedergabe_Rahmen", "Wiedergabe"};
     Wiedergabebereich Wiedergabe;
     Traysymbol SysTray{*this, "SysTray"};

@@ -2,10 +2,12 @@
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
+#include <QColorDialog>
 #include <QComboBox>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QElapsedTimer>
+#include <QImage>
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
@@ -372,16 +374,67 @@ TEST_F(Desktop, AWindowThatDiesTakesItsWidgetsAlong) {
     EXPECT_EQ(fenster.ok, 1);
 }
 
-TEST_F(Desktop, PicturesAreSaved) {
+// A picture to look at where TONKARTEI_BILDER names a folder; gone again without.
+struct Bilddatei {
     const char* gewünscht = std::getenv("TONKARTEI_BILDER");
-    const std::filesystem::path ordner =
-        gewünscht ? std::filesystem::path(gewünscht) : std::filesystem::temp_directory_path();
+    std::filesystem::path pfad;
+    explicit Bilddatei(const char* name)
+        : pfad((gewünscht ? std::filesystem::path(gewünscht) : std::filesystem::temp_directory_path()) / name) {}
+    ~Bilddatei() {
+        std::error_code egal;
+        if (gewünscht == nullptr) std::filesystem::remove(pfad, egal);
+    }
+    Bilddatei(const Bilddatei&) = delete;
+    Bilddatei& operator=(const Bilddatei&) = delete;
+};
+
+TEST_F(Desktop, PicturesAreSaved) {
     Zeilen(5000);
     fenster.Liste.wähle(4);
-    const auto bild = ordner / "schaufenster.png";
-    ASSERT_TRUE(ansicht.maler().Bild_speichern(fenster, bild.string()));
-    EXPECT_GT(std::filesystem::file_size(bild), 5000U);
-    if (gewünscht == nullptr) std::filesystem::remove(bild);
+    const Bilddatei bild("schaufenster.png");
+    ASSERT_TRUE(ansicht.maler().Bild_speichern(fenster, bild.pfad.string()));
+    EXPECT_GT(std::filesystem::file_size(bild.pfad), 5000U);
+}
+
+TEST_F(Desktop, AMenusPictureShowsItsMarksAndGrowsWithItsEntries) {
+    Menüpunkt& datei = fenster.menü_tabelle("Datei");
+    const Bilddatei bild("menue.png");
+    const auto malen = [&] {
+        EXPECT_TRUE(ansicht.maler().Bild_speichern(datei, bild.pfad.string()));
+        return QImage(QString::fromStdString(bild.pfad.string()));
+    };
+    const QImage vorher = malen();
+    Menüpunkt& neu = datei.anfügen({"Neu", "&Übermäßig langer Eintrag eines Menüs", 1, [] {}, {}});
+    const QImage länger = malen();
+    EXPECT_GT(länger.height(), vorher.height());
+    EXPECT_GT(länger.width(), vorher.width());
+    neu.haken(true);
+    const QImage mit_Haken = malen();
+    EXPECT_EQ(mit_Haken.height(), länger.height());
+    EXPECT_NE(mit_Haken, länger);
+}
+
+TEST_F(Desktop, ColoursAreChosenInGermanAndBeginWithTheOldOne) {
+    const Farbe alte = RGB(200, 120, 10);
+    const Bilddatei bild("farbwahl.png");
+    QStringList knöpfe;
+    const auto bedienen = [&](bool annehmen) {
+        QTimer::singleShot(20, [&, annehmen] {
+            auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr) return;
+            EXPECT_EQ(dialog->currentColor(), QColor(200, 120, 10));
+            EXPECT_EQ(dialog->windowTitle().toStdString(), "Farbauswahl");
+            for (const QAbstractButton* knopf : dialog->findChildren<QAbstractButton*>())
+                knöpfe << knopf->text().remove(QLatin1Char('&'));
+            EXPECT_TRUE(dialog->grab().save(QString::fromStdString(bild.pfad.string())));
+            dialog->setCurrentColor(QColor(1, 2, 3));
+            annehmen ? dialog->accept() : dialog->reject();
+        });
+        return ansicht.Farbe_wählen(alte);
+    };
+    EXPECT_EQ(bedienen(false), std::nullopt);
+    EXPECT_EQ(bedienen(true), RGB(1, 2, 3));
+    EXPECT_TRUE(knöpfe.contains(QStringLiteral("Abbrechen"))) << knöpfe.join(QLatin1Char('|')).toStdString();
 }
 
 TEST(Kästen, FiltersMatchWhateverTheCase) {

@@ -32,6 +32,9 @@ struct Merkmal {
     bool operator==(const Merkmal&) const = default;
 };
 
+// Pixels; so that "Ok" alone is no harder to hit than its neighbours.
+constexpr int Knopf_mindestens = 76;
+
 struct Eintrag {
     Merkmal merkmal;
     Größe größe;
@@ -71,7 +74,7 @@ struct Maße::Innen {
         const QFontMetrics maße(font);
         const int text = maße.size(Qt::TextShowMnemonic, vorlage.text()).width();
         return k.klein ? QSize(std::max(text + 12, maße.height() + 8), maße.height() + 8)
-                       : QSize(std::max(text + 26, 34), maße.height() + 13);
+                       : QSize(std::max(text + 26, Knopf_mindestens), maße.height() + 13);
     }
 
     QSize messen(const Element& e) {

@@ -1,5 +1,6 @@
 #include "oberflaeche/qt/stil.hpp"
 
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QPainter>
 #include <QPainterPath>
@@ -198,6 +199,8 @@ void Stil::drawPrimitive(PrimitiveElement was, const QStyleOption* option, QPain
         case PE_FrameDefaultButton:
         case PE_FrameFocusRect: return;  // the frames themselves show the focus
         case PE_PanelLineEdit: {
+            // Within a spin box, which has a frame of its own.
+            if (widget != nullptr && qobject_cast<const QAbstractSpinBox*>(widget->parentWidget()) != nullptr) return;
             const bool aktiv = hat(*option, State_Enabled);
             const bool fokus = aktiv && hat(*option, State_HasFocus);
             const QColor füllung =
@@ -264,12 +267,20 @@ int Stil::pixelMetric(PixelMetric was, const QStyleOption* option, const QWidget
         case PM_ExclusiveIndicatorWidth:
         case PM_ExclusiveIndicatorHeight: return 14;
         case PM_FocusFrameHMargin: return 5;
+        case PM_MenuHMargin:
+        case PM_MenuVMargin: return 4;
         case PM_TabBarTabHSpace: return 26;
         case PM_TabBarTabVSpace: return 10;
         case PM_TabBarTabShiftVertical:
         case PM_TabBarBaseOverlap: return 0;
         default: return QProxyStyle::pixelMetric(was, option, widget);
     }
+}
+
+QRect Stil::subElementRect(SubElement was, const QStyleOption* option, const QWidget* widget) const {
+    const QRect platz = QProxyStyle::subElementRect(was, option, widget);
+    // Texts of fields begin where those of lists and values do.
+    return was == SE_LineEditContents ? platz.adjusted(2, 0, -2, 0) : platz;
 }
 
 int Stil::styleHint(StyleHint was, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* zurück) const {

@@ -26,6 +26,7 @@ public:
     void drawComplexControl(ComplexControl was, const QStyleOptionComplex* option, QPainter* maler,
                             const QWidget* widget) const override;
     int pixelMetric(PixelMetric was, const QStyleOption* option, const QWidget* widget) const override;
+    QRect subElementRect(SubElement was, const QStyleOption* option, const QWidget* widget) const override;
     QIcon standardIcon(StandardPixmap was, const QStyleOption* option, const QWidget* widget) const override;
     int styleHint(StyleHint was, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* zurück) const override;
 };
