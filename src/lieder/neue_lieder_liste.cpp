@@ -51,16 +51,15 @@ neue_Lieder_Liste::neue_Lieder_Liste(Ansicht& ansicht, Dateisystem& dateien, MP3
         helfer->unsichtbarer_Helfer = true;
         helfer->sichtbar(false);
     }
-    // Their work comes with the tag dialog, the albums and the list files.
-    for (Element* später : {static_cast<Element*>(&Tag_ändern), static_cast<Element*>(&Album_erstellen),
-                            static_cast<Element*>(&Playlist_erstellen)})
-        später->aktiv(false);
+    // Their work comes with the albums and the list files.
+    for (Kasten* später : {&Album_erstellen, &Playlist_erstellen}) später->aktiv(false);
 
     add_alle.Klick.verbinden([this] { alle_hinzufügen(); });
     add_dieses.Klick.verbinden([this] { dieses_hinzufügen(); });
     del_dieses.Klick.verbinden([this] { dieses_entfernen(); });
     del_alle.Klick.verbinden([this] { alle_entfernen(); });
     MP3_Tags_lesen.Klick.verbinden([this] { Tags_lesen(); });
+    Tag_ändern.Klick.verbinden([this] { Tag_des_gewählten_ändern(); });
     abspielen_1.Klick.verbinden([this] { Lied_abspielen(gefundene_Lieder.gewählt() + 1); });
     abspielen_2.Klick.verbinden([this] {
         if (Lieder_hinzufügen.gewählt() >= 0) Lied_abspielen(Nr_von(Lieder_hinzufügen.gewählt()));
@@ -206,6 +205,22 @@ void neue_Lieder_Liste::Tags_lesen() {
         neue.push_back(namen[static_cast<std::size_t>(Nr_von(zeile) - 1)]);
     ersetzen(gefundene_Lieder, std::move(namen));
     ersetzen(Lieder_hinzufügen, std::move(neue));
+    Summen_zeigen();
+}
+
+void neue_Lieder_Liste::Tag_des_gewählten_ändern() {
+    const int zeile = gefundene_Lieder.gewählt();
+    if (zeile < 0 || !Tag_ändern_Dialog) return;
+    const Text& pfad = Funde_[zeile + 1].Pfad;
+    Text titel, artist;
+    mp3_.Lied_Tag_lesen(pfad, titel, artist);
+    if (!Tag_ändern_Dialog(pfad, artist, titel)) return;
+    const Text neu = artist + " - " + titel;
+    MP3_Tags.zeile(zeile, neu);
+    MP3_DGröße.zeile(zeile, Dezimaltext(static_cast<double>(std::max<std::int64_t>(0, dateien_.Dateilänge(pfad))) / 1024.0));
+    gefundene_Lieder.zeile(zeile, neu);
+    for (int i = 0; i < Nr_Liste.Anzahl(); ++i)
+        if (Nr_von(i) == zeile + 1) Lieder_hinzufügen.zeile(i, neu);
     Summen_zeigen();
 }
 

@@ -59,6 +59,8 @@ public:
     std::function<void(bool gesperrt)> Hauptfenster_sperren;
     std::function<void()> Liste_fokussieren;
     std::function<void(const Text& Datei)> Datei_abspielen;
+    // The tag dialog on a file: true when its tag was written, and the texts are the new ones.
+    std::function<bool(const Text& Datei, Text& Artist, Text& Titel)> Tag_ändern_Dialog;
 
     // Loads the window, hidden, with nothing found.
     void Reset();
@@ -83,6 +85,7 @@ private:
     void dieses_entfernen();
     void alle_entfernen();
     void Tags_lesen();
+    void Tag_des_gewählten_ändern();
     void Lied_abspielen(Long Nr);
     void Summen_zeigen();
     void übernehmen();

@@ -86,9 +86,18 @@ Listenbereich::Listenbereich(Fenster& f, Modell& modell, const Einstellungen& ei
             taste.erledigt = true;
             Zeile_ausführen();
         });
-    Reset_Anzahl.Klick.verbinden([this] {
-        if (angezeigtes_Lied_ > 0) Anzahl_ändern(angezeigtes_Lied_);
-    });
+    const auto für_das_gezeigte = [this](Element& element, Ereignis<Long>& befehl) {
+        element.Klick.verbinden([this, &befehl] {
+            if (angezeigtes_Lied_ > 0) befehl(angezeigtes_Lied_);
+        });
+    };
+    für_das_gezeigte(Reset_Anzahl, Anzahl_ändern);
+    für_das_gezeigte(Anzahl, Anzahl_ändern);
+    für_das_gezeigte(Titel, Titel_ändern);
+    für_das_gezeigte(Artist, Artist_ändern);
+    Titel.tooltip("ändert den Titel des Liedes");
+    Artist.tooltip("ändert den Artist des Liedes");
+    Anzahl.tooltip(Reset_Anzahl.tooltip());
 }
 
 Knoten Listenbereich::Listenknoten() {
@@ -230,6 +239,20 @@ Long Listenbereich::Lied_Nr(int Index) const { return Nummer_von(Nr_Liste.zeile(
 Long Listenbereich::gewähltes_Lied() const {
     if (Datenbank_Modus.wert() == 1) return Album_Lied_Nr();
     return Liste.gewählt() >= 0 ? Lied_Nr(Liste.gewählt()) : 0;
+}
+
+std::vector<Long> Listenbereich::Lieder_in_Liste() const {
+    std::vector<Long> nummern;
+    // The numbers of the other tab are those of albums.
+    if (Datenbank_Modus.wert() != 0 || !modell_.Datenbank_offen) return nummern;
+    std::vector<bool> dabei(static_cast<std::size_t>(modell_.Anzahl_Lieder) + 1);
+    for (const Text& zeile : Nr_Liste.zeilen()) {
+        const Long nr = Nummer_von(zeile);
+        if (nr < 1 || nr > modell_.Anzahl_Lieder || dabei[static_cast<std::size_t>(nr)]) continue;
+        dabei[static_cast<std::size_t>(nr)] = true;
+        nummern.push_back(nr);
+    }
+    return nummern;
 }
 
 Long Listenbereich::Album_Nr() const {

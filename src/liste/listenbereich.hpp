@@ -52,6 +52,8 @@ public:
     // In the album tab: number of the album chosen in Liste, and of the song of the title chosen in Liste2; 0 none.
     Long Album_Nr() const;
     Long Album_Lied_Nr() const;
+    // The songs on the lines of the song tab, in their order, each once; those that the collection no longer has left out.
+    std::vector<Long> Lieder_in_Liste() const;
     // Number of the song whose details are shown; 0 none.
     Long angezeigtes_Lied() const noexcept { return angezeigtes_Lied_; }
     void zeige_Lied(Long Nr);
@@ -68,9 +70,10 @@ public:
     // After the window's layout: the places that the tree does not tell.
     void freie_Lage();
 
-    Ereignis<Long> Lied_starten;   // double click or Return, by the setting
-    Ereignis<Long> zur_Playlist;   // the same
-    Ereignis<Long> Anzahl_ändern;  // Reset_Anzahl
+    Ereignis<Long> Lied_starten;                 // double click or Return, by the setting
+    Ereignis<Long> zur_Playlist;                 // the same
+    Ereignis<Long> Anzahl_ändern;                // Reset_Anzahl, and a click on the number
+    Ereignis<Long> Titel_ändern, Artist_ändern;  // a click on the field of the song that is shown
     // Return in the search: as the start button, which knows what to do without a song.
     Ereignis<> Start_gewünscht;
     // Opens the album view; false: the tab falls back to the songs.

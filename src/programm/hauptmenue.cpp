@@ -36,15 +36,16 @@ public:
     }
 
     Menüzeile Bearbeiten() {
-        return Untermenü(
-            "OMP_Bearbeiten", "&Bearbeiten",
-            {Befehl("Artist_Titel_Clipboard", "aktueller Artist und Titel in Zwischenablage"), Strich("Bearbeiten_Strich1"),
-             Befehl("zeige_Playlist", "eigene WinAmp &Playlist..."), Befehl("zentriere_Playlist", "Playliste &zentrieren"),
-             Strich("Bearbeiten_Strich2"), Befehl("zeige_Alben_Verwaltung", "&Alben-Verwaltung..."),
-             Befehl("Alben_Verwaltung_zentrieren", "Alben-&Verwaltung zentrieren"),
-             Befehl("Menü_starte_Album", "Album &spielen...", [this] { t.alben_befehle.Menü_starte_Album(); }),
-             Strich("Bearbeiten_Strich3"),
-             Befehl("zentrieren", "Datenbank &zentrieren", [this] { t.fenster.zentrieren(); })});
+        return Untermenü("OMP_Bearbeiten", "&Bearbeiten",
+                         {Befehl("Artist_Titel_Clipboard", "aktueller Artist und Titel in Zwischenablage",
+                                 [this] { t.lied_befehle.Artist_Titel_Clipboard(); }),
+                          Strich("Bearbeiten_Strich1"), Befehl("zeige_Playlist", "eigene WinAmp &Playlist..."),
+                          Befehl("zentriere_Playlist", "Playliste &zentrieren"), Strich("Bearbeiten_Strich2"),
+                          Befehl("zeige_Alben_Verwaltung", "&Alben-Verwaltung..."),
+                          Befehl("Alben_Verwaltung_zentrieren", "Alben-&Verwaltung zentrieren"),
+                          Befehl("Menü_starte_Album", "Album &spielen...", [this] { t.alben_befehle.Menü_starte_Album(); }),
+                          Strich("Bearbeiten_Strich3"),
+                          Befehl("zentrieren", "Datenbank &zentrieren", [this] { t.fenster.zentrieren(); })});
     }
 
     Menüzeile Lieder() {
@@ -97,21 +98,29 @@ private:
                           Befehl("Kategorie_abgleich", "&Kategorien vergleichen")});
     }
 
-    static Menüzeile aktuelles() {
-        return Untermenü("UMP_aktuelles", "&aktuelles...",
-                         {Befehl("Menü_Lied_kopieren", "&kopieren"), Befehl("Menü_Lied_löschen", "&löschen"),
-                          Befehl("aktuellen_Namen_einlesen", "Name/Größe/Zeit &neu einlesen"),
-                          Befehl("Menü_Lied_Kategorie", "Kategorie &ändern"), Befehl("Menü_Lied_Anzahl", "&Anzahl Reset"),
-                          Befehl("Menü_Lied_Info", "&Info"), Befehl("Menü_Lied_tauschen", "aus&tauschen"),
-                          Strich("aktuelles_Strich1"), Befehl("Menü_add_to_Playlist", "zur &Playlist hinzufügen")});
+    Menüzeile aktuelles() {
+        return Untermenü(
+            "UMP_aktuelles", "&aktuelles...",
+            {Befehl("Menü_Lied_kopieren", "&kopieren", [this] { t.lied_befehle.Lied_kopieren(); }),
+             Befehl("Menü_Lied_löschen", "&löschen", [this] { t.lied_befehle.Lied_löschen(); }),
+             Befehl("aktuellen_Namen_einlesen", "Name/Größe/Zeit &neu einlesen",
+                    [this] { t.lied_befehle.aktuellen_Namen_einlesen(); }),
+             Befehl("Menü_Lied_Kategorie", "Kategorie &ändern", [this] { t.lied_befehle.Menü_Lied_Kategorie(); }),
+             Befehl("Menü_Lied_Anzahl", "&Anzahl Reset", [this] { t.lied_befehle.Menü_Lied_Anzahl(); }),
+             Befehl("Menü_Lied_Info", "&Info", [this] { t.lied_befehle.Menü_Lied_Info(); }),
+             Befehl("Menü_Lied_tauschen", "aus&tauschen", [this] { t.lied_befehle.Lied_tauschen(); }),
+             Strich("aktuelles_Strich1"), Befehl("Menü_add_to_Playlist", "zur &Playlist hinzufügen")});
     }
 
-    static Menüzeile Liste() {
+    Menüzeile Liste() {
         return Untermenü(
             "UMP_Liste", "alle in der &Liste...",
-            {Befehl("Lieder_kopieren", "&kopieren"), Befehl("alle_Lieder_löschen", "&löschen"),
-             Befehl("Lieder_Kategorie_ändern", "Kategorie &ändern"), Befehl("Lieder_Anzahl", "&Anzahl Reset"),
-             Befehl("alle_Anzahl_ändern", "An&zahl ändern"), Befehl("Liste_einlesen", "Namen/Größen/Zeiten &neu einlesen"),
+            {Befehl("Lieder_kopieren", "&kopieren", [this] { t.lied_befehle.Lieder_kopieren(); }),
+             Befehl("alle_Lieder_löschen", "&löschen", [this] { t.lied_befehle.alle_Lieder_löschen(); }),
+             Befehl("Lieder_Kategorie_ändern", "Kategorie &ändern", [this] { t.lied_befehle.Lieder_Kategorie_ändern(); }),
+             Befehl("Lieder_Anzahl", "&Anzahl Reset", [this] { t.lied_befehle.Lieder_Anzahl(); }),
+             Befehl("alle_Anzahl_ändern", "An&zahl ändern", [this] { t.lied_befehle.alle_Anzahl_ändern(); }),
+             Befehl("Liste_einlesen", "Namen/Größen/Zeiten &neu einlesen"),
              Befehl("Durchschnitts_Anzahl", "&Durchschnitts-Anzahl"), Strich("Liste_Strich1"),
              Befehl("Lieder_add_to_Playlist", "zur &Playlist hinzufügen"),
              Befehl("Lieder_add_to_Album", "zum aktuellen &Album hinzufügen"),
@@ -122,7 +131,8 @@ private:
         return Untermenü(
             "UMP_Wartung", "&Wartung/Fehlersuche",
             {Befehl("Check_DB", "Namen/Größen/Zeiten mit MP3's &vergleichen"),
-             Befehl("Lücken_füllen", "&Lücken suchen/auffüllen"), Strich("Wartung_Strich1"),
+             Befehl("Lücken_füllen", "&Lücken suchen/auffüllen", [this] { t.lied_befehle.Lücken_füllen(); }),
+             Strich("Wartung_Strich1"),
              Befehl("zeige_Kategorie_Alle", "zeige falsche &Kategorien (Alle)",
                     [this] { Lieder_zeigen([](const Lied& lied) { return lied.Kategorie == 1; }); }),
              Befehl("zeige_Zeit_null", "zeige mit &Zeit 00:00",

@@ -74,6 +74,13 @@ void Programm::Teile::verbinden() {
         return true;
     };
 
+    lieder_entfernen.Winamp_anhalten = [this] { wiedergabe.Spieler.für_Dateiarbeit_anhalten(); };
+    lied_austauschen.Lied_kopieren = [this](Long nr) { lied_kopieren.ausführen(nr); };
+    lied_befehle.verbinden();
+    neue_Lieder.Tag_ändern_Dialog = [this](const Text& datei, Text& artist, Text& titel) {
+        return tag_ändern.Tag_ändern(datei, artist, titel);
+    };
+
     const auto anhören = [this](const Text& datei) { wiedergabe.Starter.starte_WinAmp_Datei(datei); };
     kategorie_wahl.Datei_abspielen = anhören;
     neue_Lieder.Datei_abspielen = anhören;

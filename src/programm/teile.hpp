@@ -15,15 +15,25 @@
 #include "kategorien/kategorie_bearbeiten.hpp"
 #include "kategorien/kategorie_wahl.hpp"
 #include "lieder/dateien_uebernehmen.hpp"
+#include "lieder/lied_anzahl.hpp"
+#include "lieder/lied_austauschen.hpp"
+#include "lieder/lied_bearbeiten.hpp"
+#include "lieder/lied_einlesen.hpp"
+#include "lieder/lied_kopieren.hpp"
+#include "lieder/lied_nachruecken.hpp"
 #include "lieder/lieder_eintragen.hpp"
+#include "lieder/lieder_entfernen.hpp"
 #include "lieder/lieder_hinzufuegen.hpp"
 #include "lieder/lieder_uebernahme.hpp"
+#include "lieder/luecken.hpp"
+#include "lieder/mp3_tag_aendern.hpp"
 #include "lieder/neue_lieder_liste.hpp"
 #include "lieder/verzeichnis_add.hpp"
 #include "mp3/mp3_taghead.hpp"
 #include "plattform/kanaele.hpp"
 #include "programm/infofenster.hpp"
 #include "programm/kontextmenues.hpp"
+#include "programm/lied_befehle.hpp"
 #include "programm/programm.hpp"
 #include "programm/splash.hpp"
 #include "programm/startparameter.hpp"
@@ -78,6 +88,17 @@ struct Programm::Teile {
     Lieder_Übernahme übernahme{ansicht, modell, plattform.Dateisystem, dateien_übernehmen, lieder_eintragen};
     Verzeichnis_add verzeichnis_add{ansicht, plattform.Dateisystem, einstellungen};
     neue_Lieder_Liste neue_Lieder{ansicht, plattform.Dateisystem, taghead, fortschritt, übernahme};
+
+    Lied_nachrücken nachrücken{modell, alben_datei, wiedergabe.ABR};
+    Lieder_entfernen lieder_entfernen{modell, einstellungen, plattform, ansicht, nachrücken};
+    Lücken lücken{modell, plattform.Dateisystem, plattform.Shell, fortschritt, nachrücken};
+    Lied_kopieren lied_kopieren{modell, plattform.Shell, fortschritt};
+    Lied_austauschen lied_austauschen{modell, plattform, taghead, ansicht, lieder_entfernen};
+    Lied_bearbeiten lied_bearbeiten{modell, taghead, ansicht};
+    Lied_Anzahl lied_anzahl{modell, ansicht};
+    MP3_Tag_ändern tag_ändern{ansicht, taghead};
+    Lied_Befehle lied_befehle{*this};
+
     // What the menu's handlers work with, kept for as long as the menu.
     std::shared_ptr<void> menübefehle;
     // Made as soon as the menu bar is there, whose commands it runs.

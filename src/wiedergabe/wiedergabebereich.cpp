@@ -25,8 +25,7 @@ Wiedergabebereich::Wiedergabebereich(Fenster& fenster, Spielzählung& zählung)
     Autoplay.tooltip("spielt nach jedem Lied gleich das nächste");
     Autoplay_Random.tooltip("wählt das nächste Lied durch Zufall statt der Reihe nach");
     // Their work is not there yet.
-    for (Element* element : {static_cast<Element*>(&Lied_kopieren), static_cast<Element*>(&Lied_löschen),
-                             static_cast<Element*>(&Zufallslied_starten), static_cast<Element*>(&Zufalls_Playlist),
+    for (Element* element : {static_cast<Element*>(&Zufallslied_starten), static_cast<Element*>(&Zufalls_Playlist),
                              static_cast<Element*>(&add_to_Playlist), static_cast<Element*>(&Autoplay),
                              static_cast<Element*>(&Autoplay_Random)})
         element->aktiv(false);

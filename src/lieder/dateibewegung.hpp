@@ -1,0 +1,14 @@
+// One file by the shell: whole operations with the default questions, the answer says whether it was done.
+#pragma once
+
+#include "grundlagen/text.hpp"
+
+namespace tonkartei {
+
+class Shell;
+
+bool Datei_bewegen(Shell& shell, const Text& von, const Text& nach);
+bool Datei_kopieren(Shell& shell, const Text& von, const Text& nach);
+bool in_den_Papierkorb(Shell& shell, const Text& pfad);
+
+}  // namespace tonkartei
