@@ -51,10 +51,8 @@ neue_Lieder_Liste::neue_Lieder_Liste(Ansicht& ansicht, Dateisystem& dateien, MP3
         helfer->unsichtbarer_Helfer = true;
         helfer->sichtbar(false);
     }
-    // Their work comes with the tag dialog, the albums and the list files.
-    for (Element* später : {static_cast<Element*>(&Tag_ändern), static_cast<Element*>(&Album_erstellen),
-                            static_cast<Element*>(&Playlist_erstellen)})
-        später->aktiv(false);
+    // Its work comes with the tag dialog.
+    Tag_ändern.aktiv(false);
 
     add_alle.Klick.verbinden([this] { alle_hinzufügen(); });
     add_dieses.Klick.verbinden([this] { dieses_hinzufügen(); });
