@@ -4,13 +4,19 @@
 
 namespace tonkartei {
 
-void Lieder_eintragen::ausführen(Long A, Übernahmeart modus, Begleitung begleitung) {
+void Lieder_eintragen::ausführen(Long A, Übernahmeart modus, const Begleitung& begleitung) {
     if (A < 1) return;
-    const Byte gemeinsame = gemeinsame_Kategorie(A, modus);
-    for (Long i = 1; i <= A; ++i) {
+    mit_Kategorien(std::vector<Byte>(static_cast<std::size_t>(A), gemeinsame_Kategorie(A, modus)), begleitung);
+}
+
+void Lieder_eintragen::mit_Kategorien(const std::vector<Byte>& Kategorien, Begleitung begleitung) {
+    if (Kategorien.empty()) return;
+    Long i = 0;
+    for (const Byte kategorie : Kategorien) {
         const Long nr = ++modell_.Anzahl_Lieder;
+        ++i;
         try {
-            eintragen(nr, gemeinsame);
+            eintragen(nr, kategorie);
             if (begleitung.Album_Eintrag) begleitung.Album_Eintrag(i, nr);
             if (begleitung.Playlist_Zeile) begleitung.Playlist_Zeile(nr);
         } catch (const Laufzeitfehler&) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include "datenbank/modell.hpp"
 #include "kategorien/kategorie_wahl.hpp"
@@ -18,7 +19,9 @@ public:
     std::function<void()> Liste_neu_aufbauen;
 
     // Enters the files behind Anzahl_Lieder, `A` of them, and counts them in.
-    void ausführen(Long A, Übernahmeart modus, Begleitung begleitung);
+    void ausführen(Long A, Übernahmeart modus, const Begleitung& begleitung);
+    // The same with a category for each new song, 0 where it is to be asked for; nothing is said about the number.
+    void mit_Kategorien(const std::vector<Byte>& Kategorien, Begleitung begleitung);
 
 private:
     // The category of all, 0 when each song is to be asked for.

@@ -7,18 +7,15 @@
 namespace tonkartei {
 namespace {
 
+constexpr int Fehler_Dateiende = 62;
+
 bool ist_MP3_Name(const Text& name) { return groß(rechts(name, 4)) == ".MP3"; }
 
 }  // namespace
 
 void Lieder_hinzufügen::Lieder_hinzufügen_Verzeichnis() {
     if (!modell_.Datenbank_offen) return;
-    if (liste_.Hauptfenster_sperren) liste_.Hauptfenster_sperren(true);
-    liste_.Reset();
-    const auto aufgeben = [this] {
-        liste_.entladen();
-        if (liste_.Liste_fokussieren) liste_.Liste_fokussieren();
-    };
+    beginnen();
     const Text pfad = verzeichnis_.Dialog();
     if (pfad.empty()) return aufgeben();
     Verzeichnis_merken(pfad);
@@ -27,13 +24,61 @@ void Lieder_hinzufügen::Lieder_hinzufügen_Verzeichnis() {
     try {
         einträge = dateien_.auflisten(pfad);
     } catch (const Dateifehler& fehler) {
-        liste_.ansicht().informieren(Programmtitel, fehler.Beschreibung() + "\r\r" + anzeigbar(pfad));
+        liste_.ansicht().informieren(Programmtitel, fehler.Beschreibung() + Text(CRCR) + anzeigbar(pfad));
         return aufgeben();
     }
     for (const Dateisystem::Eintrag& eintrag : einträge)
-        if (!eintrag.ist_Ordner && ist_MP3_Name(eintrag.Name) && hat_Inhalt(pfad + eintrag.Name))
+        if (!eintrag.ist_Ordner && ist_MP3_Name(eintrag.Name) && Länge_wenn_lesbar(pfad + eintrag.Name) > 0)
             liste_.add_Lied(pfad + eintrag.Name);
     liste_.activate(Quelle_Dateien, true);
+}
+
+void Lieder_hinzufügen::Lieder_hinzufügen_Playlist() {
+    if (!modell_.Datenbank_offen) return;
+    beginnen();
+    Dateiwahl wahl;
+    wahl.filter = Playlist_Filter;
+    wahl.muss_existieren = true;
+    const Text datei = liste_.ansicht().Datei_wählen(wahl);
+    if (datei.empty()) return aufgeben();
+    int nummer = 0;
+    try {
+        nummer = kanäle_.öffnen_zum_Lesen(datei);
+        Playlist_lesen(datei, nummer);
+        kanäle_.schließen(nummer);
+    } catch (const Dateifehler& fehler) {
+        kanäle_.aufgeben(nummer);
+        liste_.ansicht().informieren(Programmtitel, fehler.Beschreibung() + Text(CRCR) + anzeigbar(datei));
+        return aufgeben();
+    }
+    liste_.activate(Quelle_Dateien, true);
+}
+
+// Value by value, so that a path with a comma falls apart; what is no file (comments, pieces) drops out by itself.
+void Lieder_hinzufügen::Playlist_lesen(const Text& datei, int nummer) {
+    const Text ordner = Ordner_von(datei);
+    while (!kanäle_.am_Ende(nummer)) {
+        Text pfad;
+        try {
+            pfad = kanäle_.lese_Rohwert(nummer);
+        } catch (const Dateifehler& fehler) {
+            if (fehler.Nummer() != Fehler_Dateiende) throw;
+            return;  // blanks alone before the end
+        }
+        if (pfad.find('\0') != Text::npos) continue;  // would name another file than it says
+        if (!ist_absolut(pfad)) pfad.insert(0, ordner);
+        if (Länge_wenn_lesbar(pfad) >= 0) liste_.add_Lied(pfad);
+    }
+}
+
+void Lieder_hinzufügen::beginnen() {
+    if (liste_.Hauptfenster_sperren) liste_.Hauptfenster_sperren(true);
+    liste_.Reset();
+}
+
+void Lieder_hinzufügen::aufgeben() {
+    liste_.entladen();
+    if (liste_.Liste_fokussieren) liste_.Liste_fokussieren();
 }
 
 // The newest goes first. One that is known already changes places with the first; the others stay where they are.
@@ -50,15 +95,14 @@ void Lieder_hinzufügen::Verzeichnis_merken(const Text& pfad) {
     liste[1] = pfad;
 }
 
-// False also for what cannot be opened.
-bool Lieder_hinzufügen::hat_Inhalt(const Text& pfad) const {
+std::int64_t Lieder_hinzufügen::Länge_wenn_lesbar(const Text& pfad) const {
     try {
         const Dateisystem::Griff griff = dateien_.öffnen(pfad, Dateimodus::lesen);
         const std::uint64_t länge = dateien_.Länge(griff);
         dateien_.schließen(griff);
-        return länge > 0;
+        return static_cast<std::int64_t>(länge);
     } catch (const Dateifehler&) {
-        return false;
+        return -1;
     }
 }
 

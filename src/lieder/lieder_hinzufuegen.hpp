@@ -6,24 +6,37 @@
 #include "lieder/neue_lieder_liste.hpp"
 #include "lieder/verzeichnis_add.hpp"
 #include "plattform/dateisystem.hpp"
+#include "plattform/kanaele.hpp"
 
 namespace tonkartei {
 
 class Lieder_hinzufügen {
 public:
-    Lieder_hinzufügen(const Modell& modell, Dateisystem& dateien, Einstellungen& einstellungen, Verzeichnis_add& verzeichnis,
-                      neue_Lieder_Liste& liste)
-        : modell_(modell), dateien_(dateien), einstellungen_(einstellungen), verzeichnis_(verzeichnis), liste_(liste) {}
+    Lieder_hinzufügen(const Modell& modell, Dateisystem& dateien, Kanäle& kanäle, Einstellungen& einstellungen,
+                      Verzeichnis_add& verzeichnis, neue_Lieder_Liste& liste)
+        : modell_(modell),
+          dateien_(dateien),
+          kanäle_(kanäle),
+          einstellungen_(einstellungen),
+          verzeichnis_(verzeichnis),
+          liste_(liste) {}
 
-    // All MP3 files of one folder. Does nothing while no collection is open.
+    // All MP3 files of one folder. None of these does anything while no collection is open.
     void Lieder_hinzufügen_Verzeichnis();
+    // The files that a list file names.
+    void Lieder_hinzufügen_Playlist();
 
 private:
+    void beginnen();
+    void aufgeben();
+    void Playlist_lesen(const Text& datei, int nummer);
     void Verzeichnis_merken(const Text& pfad);
-    bool hat_Inhalt(const Text& pfad) const;
+    // Bytes of what can be opened as a file; -1 else.
+    std::int64_t Länge_wenn_lesbar(const Text& pfad) const;
 
     const Modell& modell_;
     Dateisystem& dateien_;
+    Kanäle& kanäle_;
     Einstellungen& einstellungen_;
     Verzeichnis_add& verzeichnis_;
     neue_Lieder_Liste& liste_;

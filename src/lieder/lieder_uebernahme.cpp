@@ -13,12 +13,14 @@ bool Lieder_Übernahme::ausführen(const Übernahme_Auftrag& auftrag) {
     if (!bestätigt(auftrag)) return false;
     if (Winamp_anhalten) Winamp_anhalten();
     const Long A = übernehmen_.ausführen(auftrag);
-    {
-        Begleitung begleitung;  // its end closes the list file
-        if (auftrag.Album_erstellen && Album_erstellen) Album_erstellen(A, begleitung);
-        if (auftrag.Playlist_erstellen && Playlist_erstellen) Playlist_erstellen(A, begleitung);
-        eintragen_.ausführen(A, auftrag.Modus, std::move(begleitung));
-    }
+    Begleitung begleitung;
+    if (auftrag.Album_erstellen && Album_erstellen) Album_erstellen(A, begleitung);
+    if (auftrag.Playlist_erstellen && Playlist_erstellen) Playlist_erstellen(A, begleitung);
+    if (auftrag.Quelle == Quelle_Datenbank && Kategorien_zuordnen)
+        eintragen_.mit_Kategorien(Kategorien_zuordnen(A, auftrag.Lieder), begleitung);
+    else
+        eintragen_.ausführen(A, auftrag.Modus, begleitung);
+    if (begleitung.Abschluss) begleitung.Abschluss();
     vor_Größe_warnen();
     return true;
 }

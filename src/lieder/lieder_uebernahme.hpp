@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <vector>
 
 #include "datenbank/modell.hpp"
 #include "lieder/dateien_uebernehmen.hpp"
@@ -25,6 +26,9 @@ public:
     // made.
     std::function<void(Long A, Begleitung&)> Album_erstellen;
     std::function<void(Long A, Begleitung&)> Playlist_erstellen;
+
+    // Songs of another collection: the category of each of the `A` new ones, 0 where it is to be asked for.
+    std::function<std::vector<Byte>(Long A, const std::vector<Lied_Fund>&)> Kategorien_zuordnen;
 
     // False when the user decided against it before anything happened.
     bool ausführen(const Übernahme_Auftrag& auftrag);

@@ -51,8 +51,6 @@ neue_Lieder_Liste::neue_Lieder_Liste(Ansicht& ansicht, Dateisystem& dateien, MP3
         helfer->unsichtbarer_Helfer = true;
         helfer->sichtbar(false);
     }
-    // Their work comes with the albums and the list files.
-    for (Kasten* später : {&Album_erstellen, &Playlist_erstellen}) später->aktiv(false);
 
     add_alle.Klick.verbinden([this] { alle_hinzufügen(); });
     add_dieses.Klick.verbinden([this] { dieses_hinzufügen(); });

@@ -15,6 +15,9 @@ enum class Übernahmeart : Byte { kopieren = 1, bewegen = 2 };
 inline constexpr Byte Quelle_Dateien = 1;  // files of a folder or of a list file
 inline constexpr Byte Quelle_Datenbank = 2;
 
+// For the file dialogs of list files.
+inline constexpr const char* Playlist_Filter = "WinAmp-Playlist (*.M3U)|*.M3U| Alle Dateien (*.*) |*.*";
+
 // A file that was found and is to become a song.
 struct Lied_Fund {
     Text Pfad;
@@ -34,6 +37,7 @@ struct Übernahme_Auftrag {
 struct Begleitung {
     std::function<void(Long i, Long Nr)> Album_Eintrag;  // i counts the new songs from 1
     std::function<void(Long Nr)> Playlist_Zeile;
+    std::function<void()> Abschluss;  // closes the list file
 };
 
 }  // namespace tonkartei

@@ -52,14 +52,18 @@ public:
         return Untermenü(
             "OMP_Lieder", "&Lieder",
             {Untermenü("UMP_Lieder_hinzufügen", "&hinzufügen...",
-                       {Befehl("add_Datenbank", "von &Datenbank"), Befehl("Lieder_hinzufügen_Playlist", "von &Playlist..."),
+                       {Befehl("add_Datenbank", "von &Datenbank", [this] { t.datenbank_quelle.add_Datenbank(); }),
+                        Befehl("Lieder_hinzufügen_Playlist", "von &Playlist...",
+                               [this] { t.hinzufügen.Lieder_hinzufügen_Playlist(); }),
                         Befehl("Lieder_hinzufügen_Verzeichnis", "von &Verzeichnis...",
                                [this] { t.hinzufügen.Lieder_hinzufügen_Verzeichnis(); })}),
              aktuelles(), Liste(), Strich("Lieder_Strich1"),
-             Befehl("Lieder_Namen_einlesen", "alle Namen/Größen/Zeiten &neu einlesen"),
+             Befehl("Lieder_Namen_einlesen", "alle Namen/Größen/Zeiten &neu einlesen",
+                    [this] { t.wartung.Lieder_Namen_einlesen(); }),
              Befehl("Statistik_anzeigen", "&Statistik"),
              Befehl("zeige_Random_Liste", "&Heute gespielten...", [this] { gespielte_zeigen(); }),
-             Befehl("Lieder_ab_Datum", "ab &Datum..."), Strich("Lieder_Strich2"), Wartung()});
+             Befehl("Lieder_ab_Datum", "ab &Datum...", [this] { t.wartung.Lieder_ab_Datum(); }), Strich("Lieder_Strich2"),
+             Wartung()});
     }
 
     Menüzeile Optionen() {
@@ -120,27 +124,31 @@ private:
              Befehl("Lieder_Kategorie_ändern", "Kategorie &ändern", [this] { t.lied_befehle.Lieder_Kategorie_ändern(); }),
              Befehl("Lieder_Anzahl", "&Anzahl Reset", [this] { t.lied_befehle.Lieder_Anzahl(); }),
              Befehl("alle_Anzahl_ändern", "An&zahl ändern", [this] { t.lied_befehle.alle_Anzahl_ändern(); }),
-             Befehl("Liste_einlesen", "Namen/Größen/Zeiten &neu einlesen"),
-             Befehl("Durchschnitts_Anzahl", "&Durchschnitts-Anzahl"), Strich("Liste_Strich1"),
-             Befehl("Lieder_add_to_Playlist", "zur &Playlist hinzufügen"),
+             Befehl("Liste_einlesen", "Namen/Größen/Zeiten &neu einlesen", [this] { t.wartung.Liste_einlesen(); }),
+             Befehl("Durchschnitts_Anzahl", "&Durchschnitts-Anzahl", [this] { t.wartung.Durchschnitts_Anzahl(); }),
+             Strich("Liste_Strich1"), Befehl("Lieder_add_to_Playlist", "zur &Playlist hinzufügen"),
              Befehl("Lieder_add_to_Album", "zum aktuellen &Album hinzufügen"),
              Befehl("ASCII_Datei", "Liedernamen in &Datei ausgeben")});
     }
 
     Menüzeile Wartung() {
+        const auto Doppelte = [this](const char* name, const char* text, Zwillingsart art) {
+            return Befehl(name, text, [this, art] { t.wartung.doppelte_anzeigen(art); });
+        };
         return Untermenü(
             "UMP_Wartung", "&Wartung/Fehlersuche",
-            {Befehl("Check_DB", "Namen/Größen/Zeiten mit MP3's &vergleichen"),
+            {Befehl("Check_DB", "Namen/Größen/Zeiten mit MP3's &vergleichen", [this] { t.vergleichsbericht.Check_DB(); }),
              Befehl("Lücken_füllen", "&Lücken suchen/auffüllen", [this] { t.lied_befehle.Lücken_füllen(); }),
              Strich("Wartung_Strich1"),
              Befehl("zeige_Kategorie_Alle", "zeige falsche &Kategorien (Alle)",
                     [this] { Lieder_zeigen([](const Lied& lied) { return lied.Kategorie == 1; }); }),
              Befehl("zeige_Zeit_null", "zeige mit &Zeit 00:00",
                     [this] { Lieder_zeigen([](const Lied& lied) { return Sekunden_von(lied.Zeit) == 0; }); }),
-             Strich("Wartung_Strich2"), Befehl("doppelte_Namen_anzeigen", "doppelte (Artist &und Titel) anzeigen"),
-             Befehl("doppelte_Artisten", "doppelte &Artisten anzeigen"),
-             Befehl("doppelte_Titel", "doppelte &Titel anzeigen"),
-             Befehl("doppelte_anzeigen", "&doppelte (Datum und Größe) anzeigen")});
+             Strich("Wartung_Strich2"),
+             Doppelte("doppelte_Namen_anzeigen", "doppelte (Artist &und Titel) anzeigen", Zwillingsart::Namen),
+             Doppelte("doppelte_Artisten", "doppelte &Artisten anzeigen", Zwillingsart::Artisten),
+             Doppelte("doppelte_Titel", "doppelte &Titel anzeigen", Zwillingsart::Titel),
+             Doppelte("doppelte_anzeigen", "&doppelte (Datum und Größe) anzeigen", Zwillingsart::Datum_Größe)});
     }
 
     Menüzeile Listeneinstellungen() {
@@ -209,6 +217,15 @@ private:
                 },
                 n);
         };
+        const auto Einlesen = [this](int n, const char* text) {
+            return Befehl(
+                "LN_lesen", text,
+                [this, n] {
+                    t.einstellungen.Lieder_Namen_lesen = n == 1;
+                    menü().nur_Haken("LN_lesen", n, 1, 2);
+                },
+                n);
+        };
         const auto Farbwahl = [this](const char* name, const char* text, Long Einstellungen::*farbe) {
             return Befehl(name, text, [this, farbe] { t.fenster.Kategorien.Farbe_ändern(farbe); });
         };
@@ -220,8 +237,7 @@ private:
         return Untermenü(
             "UMP_Allgemeines", "&Allgemeines...",
             {Untermenü("UMP_Lieder_Namen", "Lieder &Namen/Größe...",
-                       {Befehl("LN_lesen", "bei jedem &Start neu einlesen", nullptr, 1),
-                        Befehl("LN_lesen", "beim Start von &Datei lesen", nullptr, 2)}),
+                       {Einlesen(1, "bei jedem &Start neu einlesen"), Einlesen(2, "beim Start von &Datei lesen")}),
              Untermenü("UMP_Fenster_minimieren", "Fenster &minimieren...",
                        {Minimieren(1, "nur in die &Taskleiste"), Minimieren(2, "nur in den &System-Tray"),
                         Minimieren(3, "in &beide"), Strich("Fenster_minimieren_Strich1"),

@@ -88,6 +88,20 @@ void Programm::Teile::verbinden() {
     neue_Lieder.Liste_fokussieren = [this] { ansicht.fokus(fenster.Lieder.Liste); };
     // A foreign player may hold a file that is about to be taken.
     übernahme.Winamp_anhalten = [this] { wiedergabe.Steuerung.WinAmp_Befehl_Standard(WinAmp_Code_Stop); };
+    übernahme.Album_erstellen = [this](Long A, Begleitung& b) { neues_album.erstellen(A, b); };
+    übernahme.Playlist_erstellen = [this](Long, Begleitung& b) { neue_playlist.erstellen(b); };
+    übernahme.Kategorien_zuordnen = [this](Long A, const std::vector<Lied_Fund>& lieder) {
+        return dbadd_kategorien.Init(A, lieder);
+    };
+    dbadd_kategorien.Kategorien_bearbeiten = [this] {
+        kategorie_bearbeiten.öffnen(Kategorie_bearbeiten::von_DBadd_Kategorien);
+    };
+    kategorie_bearbeiten.zurück[Kategorie_bearbeiten::von_DBadd_Kategorien] = [this] {
+        dbadd_kategorien.nach_dem_Bearbeiten();
+        return true;
+    };
+    sitzung.Lieder_einlesen = [this] { einlesen.alle_Lieder_einlesen(); };
+    wartung.zeigt_Kategorie = [this](int k) { return fenster.Kategorien.zeige_Kategorie(k).wert(); };
     lieder_eintragen.Liste_neu_aufbauen = [this] { fenster.Lieder.aktualisiere_Liste(); };
 }
 

@@ -15,12 +15,17 @@
 #include "kategorien/kategorie_bearbeiten.hpp"
 #include "kategorien/kategorie_wahl.hpp"
 #include "lieder/dateien_uebernehmen.hpp"
+#include "lieder/datenbank_quelle.hpp"
+#include "lieder/datum_eingeben.hpp"
+#include "lieder/db_add_start_kategorien.hpp"
+#include "lieder/dbadd_kategorien.hpp"
 #include "lieder/lied_anzahl.hpp"
 #include "lieder/lied_austauschen.hpp"
 #include "lieder/lied_bearbeiten.hpp"
 #include "lieder/lied_einlesen.hpp"
 #include "lieder/lied_kopieren.hpp"
 #include "lieder/lied_nachruecken.hpp"
+#include "lieder/lieder_einlesen.hpp"
 #include "lieder/lieder_eintragen.hpp"
 #include "lieder/lieder_entfernen.hpp"
 #include "lieder/lieder_hinzufuegen.hpp"
@@ -28,7 +33,11 @@
 #include "lieder/luecken.hpp"
 #include "lieder/mp3_tag_aendern.hpp"
 #include "lieder/neue_lieder_liste.hpp"
+#include "lieder/neue_playlist.hpp"
+#include "lieder/neues_album.hpp"
+#include "lieder/vergleichsbericht.hpp"
 #include "lieder/verzeichnis_add.hpp"
+#include "lieder/wartung.hpp"
 #include "mp3/mp3_taghead.hpp"
 #include "plattform/kanaele.hpp"
 #include "programm/infofenster.hpp"
@@ -104,7 +113,19 @@ struct Programm::Teile {
     // Made as soon as the menu bar is there, whose commands it runs.
     std::unique_ptr<Kontextmenüs> kontextmenüs;
 
-    Lieder_hinzufügen hinzufügen{modell, plattform.Dateisystem, einstellungen, verzeichnis_add, neue_Lieder};
+    Lieder_hinzufügen hinzufügen{modell, plattform.Dateisystem, kanäle, einstellungen, verzeichnis_add, neue_Lieder};
+    Neues_Album neues_album{modell, alben, alben_datei, ansicht};
+    Neue_Playlist neue_playlist{modell, kanäle, ansicht};
+    DB_add_start_Kategorien start_kategorien{ansicht};
+    DBadd_Kategorien dbadd_kategorien{ansicht, modell};
+    Datenbank_Quelle datenbank_quelle{modell,      plattform.Dateisystem, kanäle,           plattform.Rechner,
+                                      fortschritt, datenbank_öffnen,      start_kategorien, dbadd_kategorien,
+                                      neue_Lieder};
+
+    Lieder_einlesen einlesen{modell, taghead, fortschritt};
+    Vergleichsbericht vergleichsbericht{modell, kanäle, plattform.Dateisystem, taghead, fortschritt};
+    Datum_eingeben datum_eingeben{ansicht, plattform.Rechner};
+    Wartung wartung{modell, plattform.Dateisystem, einlesen, fortschritt, datum_eingeben, fenster.Lieder};
 
 private:
     void verbinden();

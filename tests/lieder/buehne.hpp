@@ -144,6 +144,7 @@ struct Bühne {
     Modell modell;
     Einstellungen einstellungen;
     MP3_TagHead mp3{dateien};
+    Kanäle kanäle{dateien};
     Fortschritts_Fenster fortschritt{ansicht};
     Kategorie_Wahl wahl{ansicht, modell};
     Dateien_übernehmen übernehmen{modell, dateien, shell, mp3, fortschritt};
@@ -151,7 +152,7 @@ struct Bühne {
     Lieder_Übernahme übernahme{ansicht, modell, dateien, übernehmen, eintragen};
     neue_Lieder_Liste fenster{ansicht, dateien, mp3, fortschritt, übernahme};
     Verzeichnis_add verzeichnis{ansicht, dateien, einstellungen};
-    tonkartei::Lieder_hinzufügen befehle{modell, dateien, einstellungen, verzeichnis, fenster};
+    tonkartei::Lieder_hinzufügen befehle{modell, dateien, kanäle, einstellungen, verzeichnis, fenster};
     bool Haupt_gesperrt = false;
     int fokussiert = 0;
     std::vector<Text> gespielt;
