@@ -281,7 +281,7 @@ TEST_F(Lied_Bearbeiten, tauschen) {
 }
 
 TEST_F(Lied_Bearbeiten, Winamp_lässt_vorher_los) {
-    lege(3);
+    lege(4);
     const std::string winamp = ordner.ordner("winamp");
     ordner.datei("winamp/WinAmp.Exe");
     starte(false, {"WinAmp=" + winamp});
@@ -294,6 +294,14 @@ TEST_F(Lied_Bearbeiten, Winamp_lässt_vorher_los) {
     EXPECT_EQ(protokoll[0]["w"], 40047);
     EXPECT_EQ(protokoll[0]["fenster"], "Tonkartei");
     EXPECT_EQ(protokoll[1]["ms"], 1000);
+
+    // A song that was started twice stands twice in the list of this run, and goes once.
+    wähle(2);
+    hände(
+        {"klick Tonkartei.Lied_starten", "uhr +1000", "klick Tonkartei.Lied_starten", "klick Tonkartei.zeige_Random_Liste"});
+    EXPECT_EQ(b->zeilen("Tonkartei.Nr_Liste"), (Zeilen{"1", "2", "2"}));
+    hände({"klick Tonkartei.alle_Lieder_löschen", "antwort Ja"});
+    EXPECT_EQ(stand(), "3");
 }
 
 TEST_F(Lied_Bearbeiten, Tag_vor_dem_Hinzufügen) {
