@@ -1,5 +1,6 @@
 #include "lieder/lieder_eintragen.hpp"
 
+#include "lieder/lied_einlesen.hpp"
 #include "oberflaeche/ansicht.hpp"
 
 namespace tonkartei {
@@ -44,25 +45,12 @@ Byte Lieder_eintragen::gemeinsame_Kategorie(Long A, Übernahmeart modus) {
 
 void Lieder_eintragen::eintragen(Long Nr, Byte Kategorie) {
     Lied& lied = modell_.Lieder[Nr];
-    const Text datei = modell_.Lied_Pfad(Nr);
     lied.Anzahl = 0;
     // The song is counted already: a failure below, or the end of the program while its category is asked for, must leave a
     // record that holds together.
     lied.Kategorie = Kategorie == 0 ? Byte{1} : Kategorie;
-    lied.Zeit = 0;
-    try {
-        Lied_Daten daten = mp3_.Lied_Daten_lesen(datei);
-        lied.Titel = std::move(daten.Titel);
-        lied.Artist = std::move(daten.Artist);
-        lied.Größe = daten.Größe;
-        lied.Zeit = daten.Zeit;
-    } catch (const Laufzeitfehler&) {
-        // Only the time fails; names and size are there and the song keeps them.
-        mp3_.Lied_Tag_lesen(datei, lied.Titel, lied.Artist);
-        lied.Größe = mp3_.Lied_Größe_lesen(datei);
-        throw;
-    }
-    if (Kategorie == 0) lied.Kategorie = wahl_.wählen(lied.Titel, lied.Artist, datei);
+    Lied_einlesen(modell_, mp3_, Nr);
+    if (Kategorie == 0) lied.Kategorie = wahl_.wählen(lied.Titel, lied.Artist, modell_.Lied_Pfad(Nr));
 }
 
 }  // namespace tonkartei
