@@ -235,6 +235,22 @@ TEST_F(Quellen, andere_Datenbank_aufgegeben_fehlend_abgeschnitten) {
     EXPECT_EQ(b->bereit_name(), "neue_Lieder_Liste");
 }
 
+// The program ends from outside while its own collection is asked for as the other one: it is saved all the same.
+TEST_F(Quellen, Ende_von_außen_während_der_Wahl) {
+    öffnen(a);
+    hände({"klick Tonkartei.zeige_Kategorie(2)", "wähle Tonkartei.Liste 0", "setze Tonkartei.Lied_Kategorie Techno"});
+    if (b->bereit() == "meldung") hand("antwort Ja");
+    andere(a);
+    EXPECT_EQ(b->bereit_name(), "DB_add_start_Kategorien");
+    geschehen();
+    hand("schließe Tonkartei extern");
+    EXPECT_EQ(b->Ende_abwarten(), 0);
+    EXPECT_EQ(geschehen(), Zeilen{"ende"});
+    Sammlung erwartet;
+    erwartet.Lieder[0].Kategorie = 6;
+    EXPECT_EQ(mdb(), erwartet.bytes());
+}
+
 // Version 1.01 knows neither limit nor times; in a folder that cannot be written to it is converted elsewhere.
 TEST_F(Quellen, andere_Datenbank_alter_Version) {
     std::string alt = "Tonkartei\r\nV 1.01 05\r\n 2 \r\nAlle\r\nRock\r\n 0 \r\n";
