@@ -50,7 +50,7 @@ bool Datenbank_Quelle::sammeln(const Text& ordner, std::vector<Fund>& funde) {
     bool gelesen = false;
     if (info.pruefe_Info_Datei(datei, nummer)) {
         try {
-            gelesen = lesen(nummer, funde);
+            gelesen = lesen(datei, nummer, funde);
         } catch (const Laufzeitfehler&) {
             // Cut off, or numbers that cannot be: the open collection is none the worse for it.
             ansicht.informieren(Programmtitel, "Es ist ein Fehler beim öffnen der Informationsdatei aufgetreten!");
@@ -70,15 +70,28 @@ bool Datenbank_Quelle::sammeln(const Text& ordner, std::vector<Fund>& funde) {
     return gelesen;
 }
 
-// The body behind the head. False when the choice of categories was cancelled.
-bool Datenbank_Quelle::lesen(int nummer, std::vector<Fund>& funde) {
-    const Byte anzahl_kategorien = kanäle_.lese_Byte(nummer);
-    if (anzahl_kategorien > Kategorien_maximal) throw Laufzeitfehler(Fehler_Index);
+std::vector<Text> Datenbank_Quelle::Kategorien_lesen(int nummer) {
+    const Byte anzahl = kanäle_.lese_Byte(nummer);
+    if (anzahl > Kategorien_maximal) throw Laufzeitfehler(Fehler_Index);
     std::vector<Text> kategorien;
-    for (int k = 1; k <= anzahl_kategorien; ++k) kategorien.push_back(kanäle_.lese_Zeile(nummer));
-    zuordnung_.Quell_Kategorien = kategorien;
+    for (int k = 1; k <= anzahl; ++k) kategorien.push_back(kanäle_.lese_Zeile(nummer));
+    return kategorien;
+}
+
+// The body behind the head. False when the choice of categories was cancelled.
+bool Datenbank_Quelle::lesen(const Text& datei, int& nummer, std::vector<Fund>& funde) {
+    std::vector<Text> kategorien = Kategorien_lesen(nummer);
+    // While the user chooses the program may end and save; should the other collection be the open one, its file must be
+    // free for that.
+    kanäle_.schließen(nummer);
+    nummer = 0;
     const auto gewählt = start_Kategorien_.wählen(kategorien);
     if (!gewählt) return false;
+    nummer = kanäle_.öffnen_zum_Lesen(datei);
+    for (int kopfzeile = 1; kopfzeile <= 2; ++kopfzeile) kanäle_.lese_Wert(nummer);
+    kategorien = Kategorien_lesen(nummer);
+    const auto anzahl_kategorien = kategorien.size();
+    zuordnung_.Quell_Kategorien = std::move(kategorien);
 
     kanäle_.lese_Byte(nummer);  // schemes offered
     for (int s = 1; s <= Schemas_maximal; ++s) {

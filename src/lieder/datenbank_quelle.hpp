@@ -38,7 +38,8 @@ private:
         Byte Kategorie = 0;
     };
     bool sammeln(const Text& ordner, std::vector<Fund>& funde);
-    bool lesen(int nummer, std::vector<Fund>& funde);
+    bool lesen(const Text& datei, int& nummer, std::vector<Fund>& funde);
+    std::vector<Text> Kategorien_lesen(int nummer);
 
     const Modell& modell_;
     Dateisystem& dateien_;

@@ -46,6 +46,8 @@ std::optional<std::array<bool, Kategorien_maximal>> DB_add_start_Kategorien::wä
     }
     Kategorie(1).wert(true);
     neu_anordnen();
+    const Größe knapp = Mindestgröße();
+    größe(knapp.breite, knapp.höhe);
     zeigen();
     ansicht().fokus(Ok);
     ansicht().warten_bis(*this, [this] { return fertig_; });

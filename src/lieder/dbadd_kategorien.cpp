@@ -52,6 +52,7 @@ std::vector<Byte> DBadd_Kategorien::Init(Long A, const std::vector<Lied_Fund>& L
 // Those that the user chose follow their category by its name, which may stand elsewhere now or be gone. What had no target
 // takes a category of its name that has come up meanwhile.
 void DBadd_Kategorien::nach_dem_Bearbeiten() {
+    if (fertig_) return;  // closed from outside meanwhile
     const bool gleich_viele = alte_Namen_.size() == modell_.Anzahl_Kategorien;
     const int gewählt = Liste.gewählt();
     for (std::size_t k = 0; k < Quell_Kategorien.size(); ++k) {

@@ -67,7 +67,8 @@ void Lieder_hinzufügen::Playlist_lesen(const Text& datei, int nummer) {
         }
         if (pfad.find('\0') != Text::npos) continue;  // would name another file than it says
         if (!ist_absolut(pfad)) pfad.insert(0, ordner);
-        if (Länge_wenn_lesbar(pfad) >= 0) liste_.add_Lied(pfad);
+        // Asked first, since a failed opening costs far more, and a list may be nothing but lines that are no files.
+        if (dateien_.Datei_da(pfad) && Länge_wenn_lesbar(pfad) >= 0) liste_.add_Lied(pfad);
     }
 }
 
