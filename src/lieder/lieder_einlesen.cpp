@@ -3,23 +3,15 @@
 #include <numeric>
 
 #include "lieder/fortschritts_ende.hpp"
+#include "lieder/lied_einlesen.hpp"
 
 namespace tonkartei {
 
 void Lieder_einlesen::einlesen(Long Nr) {
-    Lied& lied = modell_.Lieder[Nr];
-    const Text datei = modell_.Lied_Pfad(Nr);
     try {
-        Lied_Daten daten = mp3_.Lied_Daten_lesen(datei);
-        lied.Titel = std::move(daten.Titel);
-        lied.Artist = std::move(daten.Artist);
-        lied.Größe = daten.Größe;
-        lied.Zeit = daten.Zeit;
+        Lied_einlesen(modell_, mp3_, Nr);
     } catch (const Laufzeitfehler&) {
-        // Only the time fails; one odd file must not keep the others from being read.
-        mp3_.Lied_Tag_lesen(datei, lied.Titel, lied.Artist);
-        lied.Größe = mp3_.Lied_Größe_lesen(datei);
-        lied.Zeit = 0;
+        // Only the time fails, and counts as unknown; one odd file must not keep the others from being read.
     }
 }
 
