@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "grundlagen/versuchen.hpp"
 #include "lieder/dateibewegung.hpp"
 #include "lieder/lied_nachruecken.hpp"
 #include "oberflaeche/ansicht.hpp"
@@ -11,17 +12,6 @@ namespace {
 
 // A file that somebody has just let go of may take so long to vanish.
 constexpr int Loslassen_ms = 1000;
-
-// Runs file work; true when it worked.
-template <class Arbeit>
-bool versuchen(Arbeit&& arbeit) {
-    try {
-        arbeit();
-        return true;
-    } catch (const Dateifehler&) {
-        return false;
-    }
-}
 
 }  // namespace
 

@@ -4,6 +4,7 @@
 
 #include "datenbank/modell.hpp"
 #include "grundlagen/fehler.hpp"
+#include "grundlagen/versuchen.hpp"
 #include "plattform/dateisystem.hpp"
 #include "plattform/kanaele.hpp"
 
@@ -19,17 +20,6 @@ constexpr const char* Kopie = "MP3_Bak.ABR";
 Text Zeile(Long Nr, const Text& ergebnis) {
     const Text ziffern = Zahltext(Nr);
     return Text(Nummer_Breite - std::min(Nummer_Breite, ziffern.size()), ' ') + ziffern + ": " + ergebnis;
-}
-
-// Runs file work whose failure changes nothing for what follows; true when it worked.
-template <class Arbeit>
-bool versuchen(Arbeit&& arbeit) {
-    try {
-        arbeit();
-        return true;
-    } catch (const Dateifehler&) {
-        return false;
-    }
 }
 
 }  // namespace
