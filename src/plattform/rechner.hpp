@@ -20,8 +20,8 @@ public:
     virtual void Sleep(int ms) = 0;
     // True when another instance of the program runs. The answer of the first call holds for the process.
     virtual bool andere_Instanz_läuft() = 0;
-    // Next value of the generator, 0 <= r < 1, and seeding from the clock.
-    virtual double Zufallszahl() = 0;
+    // Next value of the generator, in single precision, 0 <= r < 1; and seeding from the clock.
+    virtual float Zufallszahl() = 0;
     virtual void Zufall_säen() = 0;
     // Default of the setting for the player's folder, with trailing separator.
     virtual Text WinAmp_Vorgabe() = 0;

@@ -99,7 +99,7 @@ public:
     Zeitpunkt jetzt() override { return innen_.jetzt(); }
     void Sleep(int ms) override;
     bool andere_Instanz_läuft() override { return innen_.andere_Instanz_läuft(); }
-    double Zufallszahl() override { return innen_.Zufallszahl(); }
+    float Zufallszahl() override { return innen_.Zufallszahl(); }
     void Zufall_säen() override { innen_.Zufall_säen(); }
     Text WinAmp_Vorgabe() override { return innen_.WinAmp_Vorgabe(); }
 

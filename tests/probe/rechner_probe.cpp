@@ -1,6 +1,8 @@
 #include "probe/rechner_probe.hpp"
 
+#include <algorithm>
 #include <chrono>
+#include <cmath>
 
 namespace tonkartei {
 
@@ -27,14 +29,14 @@ Zeitpunkt Rechner_Probe::jetzt() {
             sekunde % 60};
 }
 
-double Rechner_Probe::Zufallszahl() {
+float Rechner_Probe::Zufallszahl() {
     if (!bestellt_.empty()) {
-        const double wert = bestellt_.front();
+        const auto wert = static_cast<float>(bestellt_.front());
         bestellt_.pop_front();
-        return wert;
+        // An ordered value just below 1 would be rounded up to it.
+        return std::min(wert, std::nextafter(1.0F, 0.0F));
     }
-    // 24 bits: exact in single precision, so never rounded up to 1.
-    return static_cast<double>(zahlen_() >> 8U) / 16777216.0;
+    return static_cast<float>(zahlen_() >> 8U) / 16777216.0F;
 }
 
 // The clock may stand still between two seedings; they are to differ all the same.

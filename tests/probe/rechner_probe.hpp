@@ -26,7 +26,7 @@ public:
     Zeitpunkt jetzt() override;
     void Sleep(int ms) override { Uhr_vor(ms); }
     bool andere_Instanz_läuft() override { return zweite_Instanz_; }
-    double Zufallszahl() override;
+    float Zufallszahl() override;
     void Zufall_säen() override;
     Text WinAmp_Vorgabe() override { return "C:\\Programme\\WinAmp\\"; }
 

@@ -67,7 +67,8 @@ bool Rechner_Linux::andere_Instanz_läuft() {
     return *andere_läuft_;
 }
 
-double Rechner_Linux::Zufallszahl() { return static_cast<double>(generator_()) / 4294967296.0; }
+// 24 bits: exact in single precision, so never rounded up to 1.
+float Rechner_Linux::Zufallszahl() { return static_cast<float>(generator_() >> 8U) / 16777216.0F; }
 
 void Rechner_Linux::Zufall_säen() {
     struct timespec uhr {};

@@ -22,7 +22,7 @@ public:
     void Sleep(int ms) override;
     // Holds the lock for as long as this object lives. Where no lock can be had at all, nobody else is assumed.
     bool andere_Instanz_läuft() override;
-    double Zufallszahl() override;
+    float Zufallszahl() override;
     void Zufall_säen() override;
     Text WinAmp_Vorgabe() override;
 
