@@ -119,8 +119,10 @@ Long Kategorienbereich::Kategorien_Maske() const {
 void Kategorienbereich::Kasten_geändert(int k) {
     if (k < 1 || k > modell_.Anzahl_Kategorien) return;
     melden();
-    // A click of the user's ends the automatic change, which sets the boxes by its table.
-    if (Kategorie_Ereignisse_an_) Auto_Wechsel_beenden(k);
+    if (Kategorie_Ereignisse_an_ && !Kategorie_intern && Auto_Wechsel_an()) {
+        Auto_Wechsel_beenden();
+        Pool_zeigen(k);
+    }
     {
         const Stille stille(Kategorie_Ereignisse_an_);
         if (zeige_Kategorie(k).wert()) {
@@ -136,9 +138,30 @@ void Kategorienbereich::Kasten_geändert(int k) {
     Suche_fokussieren();
 }
 
+void Kategorienbereich::Pool_übernehmen() {
+    {
+        const Stille stille(Kategorie_Ereignisse_an_);
+        Kategorie_intern = true;
+        for (int k = 2; k <= modell_.Anzahl_Kategorien; ++k) {
+            Auto_Wechsel_Kategorie[k] = zeige_Kategorie(1).wert() || zeige_Kategorie(k).wert();
+            zeige_Kategorie(k).wert(false);
+        }
+        Kategorie_intern = false;
+    }
+    zeige_Kategorie_Farben();
+}
+
+// The boxes as the categories of the automatic change, as if the user had changed box k there.
+void Kategorienbereich::Pool_zeigen(int k) {
+    const Stille stille(Kategorie_Ereignisse_an_);
+    for (int i = 1; i <= Kategorien_maximal; ++i)
+        if (i != k) zeige_Kategorie(i).wert(Auto_Wechsel_Kategorie[i]);
+    zeige_Kategorie(k).wert(!Auto_Wechsel_Kategorie[k]);
+}
+
 void Kategorienbereich::Rechtsklick_auf_Kasten(int k) {
     if (k > modell_.Anzahl_Kategorien) return;
-    if (Auto_Wechsel_an()) {
+    if (Auto_Wechsel_an() && !Kategorie_intern) {
         if (k != 1) {
             Auto_Wechsel_Kategorie[k] = !Auto_Wechsel_Kategorie[k];
         } else {

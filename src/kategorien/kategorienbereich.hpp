@@ -57,11 +57,17 @@ public:
     Ereignis<> Tabelle_geändert;
     // Number of the song whose details are shown; 0 none.
     std::function<Long()> angezeigtes_Lied = [] { return 0; };
-    // Whether the set of the automatic category change is being edited by right clicks, and its table.
+    // The automatic change of category: whether it is running, and the categories that take part in it.
     std::function<bool()> Auto_Wechsel_an = [] { return false; };
     Feld<bool, Kategorien_maximal> Auto_Wechsel_Kategorie;
-    // A box was changed by hand: a running automatic change ends and sets the boxes.
-    std::function<void(int k)> Auto_Wechsel_beenden = [](int) {};
+    // It is changing the boxes: they do not count as changed by the user.
+    bool Kategorie_intern = false;
+    // A box was changed by hand while it runs: it ends.
+    Ereignis<> Auto_Wechsel_beenden;
+    // The checked boxes from 2 on become its categories and are unchecked; with box 1 all of them do. No rebuild yet.
+    void Pool_übernehmen();
+    // What the right mouse button on box k does.
+    void Rechtsklick_auf_Kasten(int k);
 
     Knoten anordnung();
 
@@ -69,7 +75,7 @@ private:
     enum class Schema_Modus { wählen, speichern, beschreiben };
 
     void Kasten_geändert(int k);
-    void Rechtsklick_auf_Kasten(int k);
+    void Pool_zeigen(int k);
     void nur_oder_alle_anderen(int k);
     void Kategorie_des_Liedes_geändert();
     void Schema_wählen(int n);

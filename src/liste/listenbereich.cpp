@@ -255,6 +255,26 @@ std::vector<Long> Listenbereich::Lieder_in_Liste() const {
     return nummern;
 }
 
+std::vector<Listenlied> Listenbereich::Lieder_im_Blick() const {
+    std::vector<Listenlied> lieder;
+    if (Datenbank_Modus.wert() == 0) {
+        lieder.reserve(Nr_Liste.zeilen().size());
+        for (const Text& zeile : Nr_Liste.zeilen()) lieder.push_back({static_cast<int>(lieder.size()), Nummer_von(zeile)});
+    } else if (const Long album = Album_Nr(); album > 0) {
+        const Album& a = alben_.Alben[album];
+        for (int t = 1; t <= a.Titel_Anzahl; ++t)
+            if (const Long nr = Lied_von(modell_, a.Lieder[t]); nr > 0) lieder.push_back({t - 1, nr});
+    }
+    return lieder;
+}
+
+void Listenbereich::wähle_Lied(Long Nr) {
+    const auto& zeilen = Nr_Liste.zeilen();
+    int zeile = static_cast<int>(zeilen.size()) - 1;
+    while (zeile > 0 && Nummer_von(zeilen[static_cast<std::size_t>(zeile)]) != Nr) --zeile;
+    if (zeile >= 0) Liste.wähle(zeile);
+}
+
 Long Listenbereich::Album_Nr() const {
     if (Datenbank_Modus.wert() != 1 || !modell_.Alben_geladen || Liste.gewählt() < 0) return 0;
     const Long nr = Lied_Nr(Liste.gewählt());

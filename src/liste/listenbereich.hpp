@@ -18,6 +18,12 @@ namespace tonkartei {
 class Kategorienbereich;
 struct Albenbestand;
 
+// A song on a line of the list of the present tab.
+struct Listenlied {
+    int Zeile;
+    Long Nr;
+};
+
 class Listenbereich {
 public:
     Listenbereich(Fenster& fenster, Modell& modell, const Einstellungen& einstellungen, const Albenbestand& alben,
@@ -54,6 +60,11 @@ public:
     Long Album_Lied_Nr() const;
     // The songs on the lines of the song tab, in their order, each once; those that the collection no longer has left out.
     std::vector<Long> Lieder_in_Liste() const;
+    // What chance may draw from in the present tab: every line of Liste, or those titles of the chosen album that the
+    // collection has, with their lines of Liste2.
+    std::vector<Listenlied> Lieder_im_Blick() const;
+    // Chooses the last line of Liste that holds the song; the first line when none does.
+    void wähle_Lied(Long Nr);
     // Number of the song whose details are shown; 0 none.
     Long angezeigtes_Lied() const noexcept { return angezeigtes_Lied_; }
     void zeige_Lied(Long Nr);

@@ -259,7 +259,7 @@ private:
                     }),
              Befehl("Mousemove_markierung", "&Objekt unter der Maus markieren"),
              Schalter("Position_merken", "&Position beim beenden merken", &Einstellungen::Position_merken),
-             Befehl("Random_Prozent", "&Random-Einstellungen"),
+             Befehl("Random_Prozent", "&Random-Einstellungen", [this] { t.automatik.Optionen.Random_Prozent(); }),
              Befehl("Zeit_Anzahl", "&Zeit zum erhöhen der Anzahl", [this] { t.wiedergabe.Optionen.Zeit_Anzahl(); }),
              Schalter("Papierkorb_löschen", "Lieder &löschen in den Papierkorb", &Einstellungen::Papierkorb)});
     }

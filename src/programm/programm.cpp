@@ -147,6 +147,7 @@ void Programm::Teile::Einstellungen_setzen() {
     vorgaben.WinAmp_Verzeichnis = plattform.Rechner.WinAmp_Vorgabe();
     Einstellungen_lesen(registry, einstellungen, vorgaben);
     fenster.Wiedergabe.Autoplay_Random.wert(einstellungen.Random_Autoplay);
+    fenster.Wiedergabe.auto_Kat_Wechsel.wert(einstellungen.auto_Kat_Wechsel_Status);
     Menüs_nachführen();
 }
 

@@ -47,6 +47,7 @@
 #include "programm/splash.hpp"
 #include "programm/startparameter.hpp"
 #include "programm/tonkartei.hpp"
+#include "wiedergabe/liedautomatik.hpp"
 #include "wiedergabe/wiedergabe.hpp"
 
 namespace tonkartei {
@@ -88,7 +89,9 @@ struct Programm::Teile {
     Alben_Befehle alben_befehle{modell, alben_datei, album_wählen, album_start, ansicht};
 
     Wiedergabe wiedergabe{modell, einstellungen, plattform, kanäle, ansicht};
-    Tonkartei fenster{ansicht, modell, einstellungen, alben.eigene, wiedergabe.Zählung};
+    Tonkartei fenster{ansicht, modell, einstellungen, alben.eigene};
+    Liedautomatik automatik{modell,     einstellungen,  plattform,          ansicht,
+                            wiedergabe, fenster.Lieder, fenster.Kategorien, fenster.Wiedergabe};
     Infofenster infofenster{ansicht, modell};
     Splash splash{ansicht, modell, einstellungen, sitzung, kanäle, plattform};
 

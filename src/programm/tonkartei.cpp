@@ -6,12 +6,11 @@
 
 namespace tonkartei {
 
-Tonkartei::Tonkartei(Ansicht& ansicht, Modell& modell, Einstellungen& einstellungen, const Albenbestand& alben,
-                     Spielzählung& zählung)
+Tonkartei::Tonkartei(Ansicht& ansicht, Modell& modell, Einstellungen& einstellungen, const Albenbestand& alben)
     : Fenster(ansicht, "Tonkartei", Programmtitel),
       Lieder(*this, modell, einstellungen, alben, Kategorien),
       Kategorien(*this, modell, einstellungen),
-      Wiedergabe(*this, zählung),
+      Wiedergabe(*this),
       modell_(modell),
       einstellungen_(einstellungen) {
     Datenbank.tooltip("Die zuletzt geöffneten Datenbanken, die erste ist die geöffnete");
@@ -26,7 +25,6 @@ Tonkartei::Tonkartei(Ansicht& ansicht, Modell& modell, Einstellungen& einstellun
     Kategorien.angezeigtes_Lied = [this] { return Lieder.angezeigtes_Lied(); };
     Kategorien.Auswahl_geändert.verbinden([this] { Lieder.aktualisiere_Liste(); });
     Kategorien.Suche_fokussieren.verbinden([this] { Lieder.Schnellsuche_fokussieren(); });
-    Wiedergabe.gewähltes_Lied = [this] { return Lieder.gewähltes_Lied(); };
     Lieder.Start_gewünscht.verbinden([this] { Wiedergabe.Lied_starten.Klick(); });
 }
 

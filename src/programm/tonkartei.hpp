@@ -14,14 +14,12 @@
 namespace tonkartei {
 
 class Sitzung;
-class Spielzählung;
 class Startparameter;
 struct Albenbestand;
 
 class Tonkartei : public Fenster {
 public:
-    Tonkartei(Ansicht& ansicht, Modell& modell, Einstellungen& einstellungen, const Albenbestand& alben,
-              Spielzählung& zählung);
+    Tonkartei(Ansicht& ansicht, Modell& modell, Einstellungen& einstellungen, const Albenbestand& alben);
 
     Schriftfeld Datenbank_Text{*this, "Datenbank_Text", "D&atenbank:"};
     Auswahlfeld Datenbank{*this, "Datenbank"};

@@ -1,32 +1,23 @@
 // The main window's row of song buttons and the boxes of autoplay.
 #pragma once
 
-#include <functional>
-
-#include "grundlagen/zahl.hpp"
 #include "oberflaeche/anordnung.hpp"
 #include "oberflaeche/elemente.hpp"
 
 namespace tonkartei {
 
-class Spielzählung;
-
+// Only the controls: what they do is connected by the parts that do it.
 class Wiedergabebereich {
 public:
-    Wiedergabebereich(Fenster& fenster, Spielzählung& zählung);
+    explicit Wiedergabebereich(Fenster& fenster);
 
     Knopf Lied_starten, Lied_kopieren, Lied_löschen, Zufallslied_starten, Zufalls_Playlist, add_to_Playlist;
     Kasten Autoplay, Autoplay_Random;
-
-    // Number of the song on the chosen line of the list, 0 none.
-    std::function<Long()> gewähltes_Lied;
+    // The automatic change of category, offered while autoplay is on, and how many songs lie between two changes.
+    Kasten auto_Kat_Wechsel;
+    Knopf auto_Kat_Wechsel_Setup;
 
     Knoten anordnung();
-
-private:
-    void starte_gewähltes_Lied();
-
-    Spielzählung& zählung_;
 };
 
 }  // namespace tonkartei

@@ -4,6 +4,7 @@
 
 #include <deque>
 #include <functional>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -154,12 +155,19 @@ public:
         Uhr_ms += ms;
     }
     bool andere_Instanz_läuft() override { return false; }
-    double Zufallszahl() override { return 0; }
+    std::deque<float> Zufall;  // the next values of the generator; then it runs freely
+    float Zufallszahl() override {
+        if (Zufall.empty()) return static_cast<float>(generator_() >> 8U) / 16777216.0F;
+        const float zahl = Zufall.front();
+        Zufall.pop_front();
+        return zahl;
+    }
     void Zufall_säen() override {}
     Text WinAmp_Vorgabe() override { return {}; }
 
 private:
     Aufzeichnung& aufzeichnung_;
+    std::mt19937 generator_{4711};
 };
 
 class Registrierung_Bühne : public Registrierung {

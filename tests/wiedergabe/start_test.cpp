@@ -1,10 +1,7 @@
 // Starting the player, and the counting that hangs on it.
 #include <gtest/gtest.h>
 
-#include "oberflaeche/fenster.hpp"
-#include "oberflaeche/hand.hpp"
 #include "wiedergabe/buehne.hpp"
-#include "wiedergabe/wiedergabebereich.hpp"
 
 namespace tonkartei {
 namespace {
@@ -186,24 +183,6 @@ TEST(Spielzählung, Startwerte) {
     EXPECT_EQ(b.Spiel.Zählung.Letztes_Lied, 0);
     b.Spiel.Zählung.starte_Lied(1);
     EXPECT_EQ(b.Modell.Lieder[1].Anzahl, 1);
-}
-
-TEST(Wiedergabebereich, Lied_starten_spielt_die_gewählte_Zeile) {
-    Bühne b;
-    Fenster fenster(b.Ansicht, "Tonkartei", "Tonkartei");
-    Wiedergabebereich bereich(fenster, b.Spiel.Zählung);
-    Long gezählt = 0;
-    b.Spiel.Zählung.gezählt.verbinden([&](Long nr) { gezählt = nr; });
-    Hand::klicken(bereich.Lied_starten);
-    Long gewählt = 0;
-    bereich.gewähltes_Lied = [&] { return gewählt; };
-    Hand::klicken(bereich.Lied_starten);
-    EXPECT_TRUE(b.Protokoll.empty()) << "no chosen line, nothing happens";
-    gewählt = 4;
-    Hand::klicken(bereich.Lied_starten);
-    EXPECT_EQ(b.Protokoll.front(), Befehl(b, " \"" + b.Ordner.pfad("00000004.MP3\"")));
-    EXPECT_EQ(gezählt, 4);
-    EXPECT_EQ(b.Modell.Lieder[4].Anzahl, 1);
 }
 
 }  // namespace

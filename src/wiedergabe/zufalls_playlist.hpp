@@ -1,0 +1,43 @@
+// A list of seldom-heard songs, by the rule of the random choice: for the playlist window, or at once for the player.
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "grundlagen/text.hpp"
+#include "grundlagen/zahl.hpp"
+
+namespace tonkartei {
+
+class Ansicht;
+class Listenbereich;
+class Rechner;
+struct Einstellungen;
+struct Modell;
+
+class Zufalls_Playlist {
+public:
+    Zufalls_Playlist(Modell& modell, const Einstellungen& einstellungen, Listenbereich& lieder, Rechner& rechner,
+                     Ansicht& ansicht);
+
+    // The whole command, with its questions.
+    void erstellen();
+
+    // Writes the list file that the player gets and starts it there.
+    std::function<void(const std::vector<Long>&)> Liste_starten;
+    // Opens the playlist window and empties it; false: the user wants to keep what is in it.
+    std::function<bool()> Playlist_leeren;
+    std::function<void(const std::vector<Long>&)> in_Playlist;
+
+private:
+    // How many songs the user wants, at most `vorhanden`; below 1: none.
+    Long Menge_erfragen(int vorhanden);
+
+    Modell& modell_;
+    const Einstellungen& einstellungen_;
+    Listenbereich& lieder_;
+    Rechner& rechner_;
+    Ansicht& ansicht_;
+};
+
+}  // namespace tonkartei
