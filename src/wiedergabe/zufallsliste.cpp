@@ -1,25 +1,33 @@
 #include "wiedergabe/zufallsliste.hpp"
 
 #include <algorithm>
+#include <charconv>
+#include <iterator>
+#include <string_view>
 
 namespace tonkartei {
-namespace {
 
-constexpr int Feldbreite = 8;
-
-}  // namespace
+Zufallsliste::Zeile Zufallsliste::Zeile_aus(std::initializer_list<long long> felder) {
+    Zeile zeile{};
+    auto ziel = zeile.begin();
+    for (const long long wert : felder) {
+        char ziffern[24];
+        const auto ende = std::to_chars(std::begin(ziffern), std::end(ziffern), wert).ptr;
+        const auto länge = static_cast<std::size_t>(ende - ziffern);
+        if (länge > Feldbreite) continue;
+        std::uint64_t feld = 0;
+        for (std::size_t i = länge; i < Feldbreite; ++i) feld = feld << 8U | '0';
+        for (std::size_t i = 0; i < länge; ++i) feld = feld << 8U | static_cast<unsigned char>(ziffern[i]);
+        *ziel++ = feld;
+    }
+    return zeile;
+}
 
 void Zufallsliste::hinzufügen(Long Anzahl, Long Nr, int Titelzeile) {
-    hinzufügen(Anzahl, Nr);
-    zeilen_.back() += Zahl_mit_Nullen(Titelzeile, Feldbreite);
+    zeilen_.push_back(Zeile_aus({Anzahl, Nr, Titelzeile}));
 }
 
-void Zufallsliste::hinzufügen(Long Anzahl, Long Nr) {
-    std::string& neu = zeilen_.emplace_back();
-    neu.reserve(3 * Feldbreite);
-    neu += Zahl_mit_Nullen(Anzahl, Feldbreite);
-    neu += Zahl_mit_Nullen(Nr, Feldbreite);
-}
+void Zufallsliste::hinzufügen(Long Anzahl, Long Nr) { zeilen_.push_back(Zeile_aus({Anzahl, Nr})); }
 
 void Zufallsliste::sortieren() { std::sort(zeilen_.begin(), zeilen_.end()); }
 
@@ -29,15 +37,20 @@ int Zufallsliste::ziehe(int Prozent, float R) const {
     return std::min(static_cast<int>(anteil / 100.0 * R + 1.0), Anzahl());
 }
 
-Long Zufallsliste::Nr(int Index) const {
-    const std::string& text = zeile(Index);
-    return text.size() > Feldbreite ? gerundet(Zahlwert(std::string_view(text).substr(Feldbreite, Feldbreite))) : 0;
+Long Zufallsliste::Feldwert(int Index, std::size_t feld) const {
+    char text[Feldbreite];
+    std::uint64_t rest = zeilen_[static_cast<std::size_t>(Index - 1)][feld];
+    for (std::size_t i = Feldbreite; i-- > 0; rest >>= 8U) text[i] = static_cast<char>(rest & 0xFFU);
+    return gerundet(Zahlwert(std::string_view(text, Feldbreite)));
 }
 
+Long Zufallsliste::Nr(int Index) const { return Feldwert(Index, 1); }
+
 Long Zufallsliste::letztes_Feld(int Index) const {
-    const std::string& text = zeile(Index);
-    const std::size_t länge = std::min<std::size_t>(text.size(), Feldbreite);
-    return gerundet(Zahlwert(std::string_view(text).substr(text.size() - länge)));
+    const Zeile& zeile = zeilen_[static_cast<std::size_t>(Index - 1)];
+    std::size_t letztes = Felder_maximal - 1;
+    while (letztes > 0 && zeile[letztes] == 0) --letztes;
+    return Feldwert(Index, letztes);
 }
 
 void Zufallsliste::entfernen(int Index) { zeilen_.erase(zeilen_.begin() + (Index - 1)); }

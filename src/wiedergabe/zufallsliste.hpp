@@ -1,7 +1,10 @@
 // The sorted list from which chance draws: the songs in view, the seldom-heard first.
 #pragma once
 
-#include <string>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <initializer_list>
 #include <vector>
 
 #include "grundlagen/zahl.hpp"
@@ -32,9 +35,14 @@ public:
     void entfernen(int Index);
 
 private:
-    const std::string& zeile(int Index) const { return zeilen_[static_cast<std::size_t>(Index - 1)]; }
+    static constexpr std::size_t Feldbreite = 8, Felder_maximal = 3;
+    // The text of a line, field by field as numbers whose first character weighs most: they compare as the text does. What
+    // the line does not fill is 0.
+    using Zeile = std::array<std::uint64_t, Felder_maximal>;
+    static Zeile Zeile_aus(std::initializer_list<long long> felder);
+    Long Feldwert(int Index, std::size_t feld) const;
 
-    std::vector<std::string> zeilen_;
+    std::vector<Zeile> zeilen_;
 };
 
 }  // namespace tonkartei
