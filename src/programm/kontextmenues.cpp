@@ -96,8 +96,8 @@ void Kontextmenüs::nachführen() {
 
 void Kontextmenüs::Lied_zeigen(int zeile) {
     auto& liste = haupt_.Lieder.Liste;
-    // The commands work on the chosen song: it must be the one that the user points at.
-    if (zeile >= 0 && zeile != liste.gewählt()) liste.wähle(zeile);
+    // The commands work on the chosen song: it must be the one that the user points at, and its details must be there.
+    if (zeile >= 0 && (zeile != liste.gewählt() || haupt_.Lieder.angezeigtes_Lied() == 0)) liste.wähle(zeile);
     ansicht().Menü_zeigen(menü_("Lied_Menü"));
 }
 

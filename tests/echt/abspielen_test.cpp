@@ -1,0 +1,113 @@
+// The whole program in real time with the real player, which plays into nothing.
+#include <signal.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <cstring>
+
+#include "programm/buehne.hpp"
+#include "ton.hpp"
+
+namespace tonkartei {
+namespace {
+
+class Abspielen : public Bühne {
+protected:
+    std::string a;
+
+    // A collection of songs that last so many seconds.
+    void lege(int anzahl, double sekunden) {
+        Sammlung s;
+        s.Lieder.clear();
+        for (int n = 1; n <= anzahl; ++n) s.Lieder.push_back({"A" + std::to_string(n), "T"});
+        a = sammlung("a", s);
+        for (int n = 1; n <= anzahl; ++n) ordner.datei("a/0000000" + std::to_string(n) + ".MP3", Wav(sekunden));
+    }
+    void starte(std::vector<std::string> setze) {
+        ::mkdir(ordner.pfad("lauf").c_str(), 0700);
+        for (const auto& eintrag : zuletzt({a})) setze.push_back(eintrag);
+        setze.push_back("WinAmp beenden=2");
+        starten({.setze = setze,
+                 .maschine = "echt",
+                 .umgebung = {"XDG_RUNTIME_DIR=" + ordner.pfad("lauf"), "XDG_STATE_HOME=" + ordner.pfad("zustand"),
+                              "XDG_DATA_HOME=" + ordner.pfad("daten"), "TONKARTEI_TON=null"}});
+    }
+    void TearDown() override {
+        if (b && b->bereit() != "ende") hand("klick Tonkartei.MP_Beenden");
+        b.reset();
+    }
+    // The own player as it shows itself; null when there is none.
+    nlohmann::json spieler() {
+        for (const auto& s : b->spieler())
+            if (s["klasse"] == "Tonkartei") return s;
+        return nullptr;
+    }
+    // What is true within so many seconds.
+    template <class Bedingung>
+    bool bald(Bedingung bedingung, int sekunden = 8) {
+        for (int i = 0; i < sekunden * 20; ++i) {
+            if (bedingung()) return true;
+            hand("warte 50");
+        }
+        return false;
+    }
+    bool spielt() {
+        const auto s = spieler();
+        return !s.is_null() && s["status"] == 1;
+    }
+    // How often the songs were heard, "1 0 2".
+    std::string Anzahlen() {
+        std::string text;
+        for (int i = 0; i < static_cast<int>(b->zeilen("Tonkartei.Liste").size()); ++i) {
+            hand("wähle Tonkartei.Liste " + std::to_string(i));
+            text += (i > 0 ? " " : "") + b->text("Tonkartei.Anzahl");
+        }
+        return text;
+    }
+    // The player's process dies without a word.
+    void töten() {
+        const std::string fenster = ordner.pfad("lauf/tonkartei/fenster/");
+        int getötet = 0;
+        for (const auto& eintrag : std::filesystem::directory_iterator(fenster)) {
+            const int s = ::socket(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0);
+            sockaddr_un adresse{};
+            adresse.sun_family = AF_UNIX;
+            std::strncpy(adresse.sun_path, eintrag.path().c_str(), sizeof(adresse.sun_path) - 1);
+            ucred wer{};
+            socklen_t länge = sizeof(wer);
+            if (::connect(s, reinterpret_cast<sockaddr*>(&adresse), sizeof(adresse)) == 0 &&
+                ::getsockopt(s, SOL_SOCKET, SO_PEERCRED, &wer, &länge) == 0 && ::kill(wer.pid, SIGKILL) == 0)
+                ++getötet;
+            ::close(s);
+        }
+        EXPECT_EQ(getötet, 1);
+    }
+};
+
+TEST_F(Abspielen, Autoplay_durch_drei_Lieder_und_zwei_tote_Spieler) {
+    lege(3, 2.5);
+    starte({"Random-Autoplay=False", "Anzahl-Zeit=1"});
+    hand("klick Tonkartei.Autoplay");
+    const auto gewählt = [&] { return b->zeige("Tonkartei.Liste")["gewählt"].get<int>(); };
+    for (const int zeile : {0, 1, 2}) EXPECT_TRUE(bald([&] { return gewählt() == zeile && spielt(); })) << zeile;
+    // A player that dies is none, not a stopped one: nothing follows, and after four ticks autoplay ends.
+    töten();
+    EXPECT_TRUE(bald([&] { return !b->zeige("Tonkartei.Autoplay")["wert"].get<bool>(); }, 4));
+    EXPECT_EQ(gewählt(), 2);
+    EXPECT_TRUE(spieler().is_null());
+    EXPECT_EQ(Anzahlen(), "1 1 1");
+    // A start brings a new one up; and once more.
+    for (int i = 0; i < 2; ++i) {
+        hände({"wähle Tonkartei.Liste 0", "klick Tonkartei.Lied_starten"});
+        EXPECT_TRUE(spielt()) << "right after the start";
+        töten();
+        EXPECT_TRUE(bald([&] { return spieler().is_null(); }, 1));
+    }
+    hand("klick Tonkartei.MP_Beenden");
+    EXPECT_EQ(b->bereit(), "ende");
+}
+
+}  // namespace
+}  // namespace tonkartei
