@@ -39,13 +39,7 @@ bool Lied_austauschen::Lied_tauschen(Long Nr) {
 bool Lied_austauschen::ausführen(Long Nr, const Text& Datei) {
     modell_.Meldung = "Wollen sie die alte Version vorher noch irgendwohin kopieren?" + Text(CRCR) +
                       "Wenn sie das Lied jetzt austauschen, wird die alte Version gelöscht.";
-    Meldungsfeld feld;
-    feld.titel = Überschrift;
-    feld.text = modell_.Meldung;
-    feld.art = Meldungsfeld::Art::Frage;
-    feld.knöpfe = Meldungsfeld::Knöpfe::JaNeinAbbrechen;
-    feld.vorgabe = Antwort::Ja;
-    const Antwort antwort = ansicht_.melden(feld);
+    const Antwort antwort = ansicht_.fragen_oder_abbrechen(Überschrift, modell_.Meldung);
     if (antwort == Antwort::Ja)
         Lied_kopieren(Nr);
     else if (antwort != Antwort::Nein)

@@ -32,6 +32,17 @@ bool Ansicht::fragen(const Text& titel, const Text& text, Antwort vorgabe) {
     return melden(feld) == Antwort::Ja;
 }
 
+Antwort Ansicht::fragen_oder_abbrechen(const Text& titel, const Text& text, const Text& quelle) {
+    Meldungsfeld feld;
+    feld.titel = titel;
+    feld.text = text;
+    feld.art = Meldungsfeld::Art::Frage;
+    feld.knöpfe = Meldungsfeld::Knöpfe::JaNeinAbbrechen;
+    feld.vorgabe = Antwort::Ja;
+    feld.quelle = quelle;
+    return melden(feld);
+}
+
 void Ansicht::Fortschritt_beendet(const Text&, int) {}
 
 void Ansicht::ausführen(const std::function<void()>& handler) {

@@ -56,6 +56,8 @@ public:
     void informieren(const Text& titel, const Text& text);
     // Yes/No with the question icon; true for Yes.
     bool fragen(const Text& titel, const Text& text, Antwort vorgabe = Antwort::Ja);
+    // Yes/No/Cancel.
+    Antwort fragen_oder_abbrechen(const Text& titel, const Text& text, const Text& quelle = "programm");
 
     // --- windows (called by Fenster and Element) ---------------------------------------------------------------------
     virtual void Fenster_geändert(Fenster& fenster) = 0;                     // title, visible, state, place, size, enabled

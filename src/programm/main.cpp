@@ -19,14 +19,7 @@ using namespace tonkartei;
 
 // The shell asks with the program's own boxes.
 Shell_Antwort fragen(Ansicht& ansicht, const Text& titel, const Text& text) {
-    Meldungsfeld feld;
-    feld.titel = titel;
-    feld.text = text;
-    feld.art = Meldungsfeld::Art::Frage;
-    feld.knöpfe = Meldungsfeld::Knöpfe::JaNeinAbbrechen;
-    feld.vorgabe = Antwort::Ja;
-    feld.quelle = "shell";
-    switch (ansicht.melden(feld)) {
+    switch (ansicht.fragen_oder_abbrechen(titel, text, "shell")) {
         case Antwort::Ja: return Shell_Antwort::Ja;
         case Antwort::Nein: return Shell_Antwort::Nein;
         default: return Shell_Antwort::Abbrechen;

@@ -54,14 +54,7 @@ private:
 // Asks through the view, as one of the shell's boxes.
 Shell_Frage Frage_über(Ansicht& ansicht) {
     return [&ansicht](const Text& titel, const Text& text) {
-        Meldungsfeld feld;
-        feld.titel = titel;
-        feld.text = text;
-        feld.art = Meldungsfeld::Art::Frage;
-        feld.knöpfe = Meldungsfeld::Knöpfe::JaNeinAbbrechen;
-        feld.vorgabe = Antwort::Ja;
-        feld.quelle = "shell";
-        switch (ansicht.melden(feld)) {
+        switch (ansicht.fragen_oder_abbrechen(titel, text, "shell")) {
             case Antwort::Ja: return Shell_Antwort::Ja;
             case Antwort::Nein: return Shell_Antwort::Nein;
             default: return Shell_Antwort::Abbrechen;
