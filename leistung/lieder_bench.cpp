@@ -4,11 +4,22 @@
 #include <vector>
 
 #include "leistung/verhaeltnis.hpp"
+#include "lieder/doppelte_lieder.hpp"
 #include "lieder/zwillinge.hpp"
+#include "plattform/linux/dateisystem_linux.hpp"
 
 using namespace tonkartei;
 
 namespace {
+
+// Tells the times of song files that need not exist.
+struct Zeitenbuch : Dateisystem_Linux {
+    explicit Zeitenbuch(const std::vector<std::optional<Zeitpunkt>>& bekannte) : zeiten(bekannte) {}
+    std::optional<Zeitpunkt> Änderungszeit(const Text& pfad) override {
+        return zeiten[static_cast<std::size_t>(std::stol(pfad.substr(1))) - 1];
+    }
+    const std::vector<std::optional<Zeitpunkt>>& zeiten;
+};
 
 struct Vergleich {
     explicit Vergleich(Long anzahl) {
@@ -27,6 +38,16 @@ struct Vergleich {
         for (int n = 0; n < 5; ++n) summe += doppelte_suchen(modell, art, zeiten, [](Long) {}).size();
         return summe;
     }
+    // As many new files as there are songs, all of one size, so that only the times tell them apart.
+    std::size_t Doppelte() {
+        modell.Datenbank_Verzeichnis = "/";
+        for (Long n = 1; n <= modell.Anzahl_Lieder; ++n) modell.Lieder[n].Größe = 3000;
+        Zeitenbuch dateien(zeiten);
+        std::size_t summe = 0;
+        const Doppelte_Lieder doppelte(modell, dateien, [](Long) {});
+        for (const auto& zeit : zeiten) summe += doppelte.suchen(3000, *zeit).size();
+        return summe;
+    }
     Modell modell;
     std::vector<std::optional<Zeitpunkt>> zeiten;
 };
@@ -34,7 +55,7 @@ struct Vergleich {
 }  // namespace
 
 int main() {
-    const Vergleich ganz(Lieder_maximal), viertel(Lieder_maximal / 4);
+    Vergleich ganz(Lieder_maximal), viertel(Lieder_maximal / 4);
     Verhältnisse v(31);
     const struct {
         Zwillingsart art;
@@ -47,5 +68,8 @@ int main() {
         v.höchstens(
             was, 6, "dieselbe Suche in 1250", [&, art = art] { return ganz.suchen(art); },
             [&, art = art] { return viertel.suchen(art); });
+    v.höchstens(
+        "Prüfung von 5000 Dateien auf 5000 Lieder", 6, "die von 1250 auf 1250", [&] { return ganz.Doppelte(); },
+        [&] { return viertel.Doppelte(); });
     return v.Ergebnis();
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <functional>
-#include <optional>
+#include <span>
 #include <unordered_map>
 #include <vector>
 
@@ -18,15 +18,20 @@ public:
     Doppelte_Lieder(const Modell& modell, Dateisystem& dateien, const std::function<void(Long Nr)>& fortschritt);
 
     // Numbers in rising order.
-    std::vector<Long> suchen(Long KByte, const Zeitpunkt& zeit) const;
+    std::span<const Long> suchen(Long KByte, const Zeitpunkt& zeit) const;
 
 private:
-    struct Eintrag {
-        Long Nr;
+    struct Merkmal {
+        Long KByte;
         Zeitpunkt Zeit;
+        bool operator==(const Merkmal&) const = default;
     };
-    // By size. Songs without a file are no one's double.
-    std::unordered_map<Long, std::vector<Eintrag>> nach_Größe_;
+    struct Streuung {
+        std::size_t operator()(const Merkmal& merkmal) const noexcept;
+    };
+
+    // By both, since a collection may well hold thousands of songs of one size. Songs without a file are no one's double.
+    std::unordered_map<Merkmal, std::vector<Long>, Streuung> nummern_;
 };
 
 }  // namespace tonkartei

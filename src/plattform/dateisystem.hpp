@@ -23,6 +23,9 @@ Text Ordner_von(const Text& pfad);
 // True for a path that does not depend on the current folder.
 bool ist_absolut(const Text& pfad);
 
+// What stands under a path; devices and the like are nothing to us.
+enum class Pfadart { nichts, Datei, Ordner };
+
 enum class Dateimodus {
     lesen,      // must exist
     schreiben,  // created, or emptied if it exists
@@ -55,6 +58,10 @@ public:
 
     virtual bool Datei_da(const Text& pfad) = 0;   // a file, not a folder
     virtual bool Ordner_da(const Text& pfad) = 0;  // with or without trailing separator; "" is none
+    // Both at once.
+    virtual Pfadart Art_von(const Text& pfad) {
+        return Datei_da(pfad) ? Pfadart::Datei : Ordner_da(pfad) ? Pfadart::Ordner : Pfadart::nichts;
+    }
     // Bytes of a file; -1 when there is none.
     virtual std::int64_t Dateilänge(const Text& pfad) = 0;
     // Local time, whole seconds; none when there is no such file.

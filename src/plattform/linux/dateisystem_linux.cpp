@@ -121,6 +121,16 @@ Dateisystem::Griff Dateisystem_Linux::öffnen(const Text& pfad, Dateimodus modus
     return static_cast<Griff>(platz - offene_.begin()) + 1;
 }
 
+// Opens a full path for reading, in whatever case. Without a descriptor errno tells the failure.
+Deskriptor Dateisystem_Linux::öffne_Quelle(Text& pfad) {
+    Deskriptor fd = öffne(pfad, O_RDONLY);
+    if (fd || errno != ENOENT) return fd;
+    bool Ordner_fehlt = false;
+    if (anders_geschrieben(pfad, Ordner_fehlt)) return öffne(pfad, O_RDONLY);
+    errno = Ordner_fehlt ? ENOTDIR : ENOENT;
+    return fd;
+}
+
 // Opens a full path for writing, without emptying it: the existing file of that name, in whatever case, or a new one.
 // Without a descriptor errno tells the failure.
 Deskriptor Dateisystem_Linux::öffne_Ziel(Text& pfad, mode_t rechte) {
@@ -194,11 +204,14 @@ std::optional<Zeitpunkt> Dateisystem_Linux::Änderungszeit(const Text& pfad) {
     return örtlich(datei.st_mtim.tv_sec);
 }
 
-bool Dateisystem_Linux::Ordner_da(const Text& pfad) {
-    if (pfad.empty() || pfad.find('\0') != Text::npos) return false;
+bool Dateisystem_Linux::Ordner_da(const Text& pfad) { return Art_von(pfad) == Pfadart::Ordner; }
+
+Pfadart Dateisystem_Linux::Art_von(const Text& pfad) {
+    if (pfad.empty() || pfad.find('\0') != Text::npos) return Pfadart::nichts;
     Text ganzer = voll(pfad);
-    struct stat ordner {};
-    return ansehen(ganzer, ordner, false) == 0 && S_ISDIR(ordner.st_mode);
+    struct stat da {};
+    if (ansehen(ganzer, da, false) != 0) return Pfadart::nichts;
+    return S_ISREG(da.st_mode) ? Pfadart::Datei : S_ISDIR(da.st_mode) ? Pfadart::Ordner : Pfadart::nichts;
 }
 
 void Dateisystem_Linux::umbenennen(const Text& von, const Text& nach) {
@@ -281,8 +294,7 @@ void Dateisystem_Linux::kopieren(const Text& von, const Text& nach) {
     Text quelle = voll(von);
     Text ziel = voll(nach);
     struct stat datei {};
-    if (const int fehler = ansehen(quelle, datei, false); fehler != 0) werfen(fehler, von);
-    const Deskriptor aus = öffne(quelle, O_RDONLY);
+    const Deskriptor aus = öffne_Quelle(quelle);
     if (!aus || ::fstat(aus.fd(), &datei) != 0) werfen(errno, von);
     if (!S_ISREG(datei.st_mode)) throw Dateifehler(75, von);
     if (const Offen* offen = offen_hier(datei); offen != nullptr && offen->schreibend) throw Dateifehler(55, von);

@@ -31,6 +31,7 @@ public:
 
     bool Datei_da(const Text& pfad) override;
     bool Ordner_da(const Text& pfad) override;
+    Pfadart Art_von(const Text& pfad) override;
     std::int64_t Dateilänge(const Text& pfad) override;
     std::optional<Zeitpunkt> Änderungszeit(const Text& pfad) override;
 
@@ -66,6 +67,7 @@ private:
     Text voll(const Text& pfad) const;
     bool anders_geschrieben(Text& pfad, bool& Ordner_fehlt);
     int ansehen(Text& pfad, struct stat& ergebnis, bool Verweis_selbst);
+    Deskriptor öffne_Quelle(Text& pfad);
     Deskriptor öffne_Ziel(Text& pfad, mode_t rechte);
 
     Text aktueller_Ordner_;

@@ -102,8 +102,11 @@ void Shell_Dateivorgang::umbenennen() {
     if (vorgang_.von.size() != 1 || vorgang_.nach.size() != 1) throw Fehlschlag{FEHLER_PARAMETER};
     const Text von = ohne_Trenner(vorgang_.von.front());
     const Text neu = ohne_Trenner(vorgang_.nach.front());
-    if (!da(von)) throw Fehlschlag{FEHLER_DATEI_FEHLT};
-    einen_übertragen(von, ist_absolut(neu) ? neu : Ordner_von(von) + Dateiname_von(neu));
+    const Pfadart art = dateien_.Art_von(von);
+    if (art == Pfadart::nichts) throw Fehlschlag{FEHLER_DATEI_FEHLT};
+    Text nach = ist_absolut(neu) ? neu : Ordner_von(von) + Dateiname_von(neu);
+    const Pfadart dort = dateien_.Art_von(nach);
+    einen_übertragen(von, art, std::move(nach), dort);
 }
 
 void Shell_Dateivorgang::übertragen() {
@@ -113,15 +116,19 @@ void Shell_Dateivorgang::übertragen() {
     if (nach.empty() || (einzeln ? nach.size() != von.size() : nach.size() != 1)) throw Fehlschlag{FEHLER_PARAMETER};
     for (std::size_t i = 0; i < von.size(); ++i) {
         const Text quelle = ohne_Trenner(von[i]);
-        if (!da(quelle)) throw Fehlschlag{FEHLER_DATEI_FEHLT};
+        const Pfadart art = dateien_.Art_von(quelle);
+        if (art == Pfadart::nichts) throw Fehlschlag{FEHLER_DATEI_FEHLT};
         Text ziel = einzeln ? nach[i] : nach.front();
         // One target for several sources is their folder; so is a folder that exists, or what is written as one.
-        const bool in_Ordner =
-            !einzeln && (von.size() > 1 || dateien_.Ordner_da(ziel) || (!ziel.empty() && ziel.back() == Trenner));
-        if (in_Ordner) ziel = mit_Trenner(ziel) + Dateiname_von(quelle);
+        const bool als_Ordner = !einzeln && (von.size() > 1 || (!ziel.empty() && ziel.back() == Trenner));
         ziel = ohne_Trenner(ziel);
-        if (const Text ordner = Ordner_von(ziel); !ordner.empty()) Zielordner_anlegen(ordner);
-        einen_übertragen(quelle, ziel);
+        Pfadart dort = dateien_.Art_von(ziel);
+        if (als_Ordner || (!einzeln && dort == Pfadart::Ordner)) {
+            ziel = mit_Trenner(ziel) + Dateiname_von(quelle);
+            dort = dateien_.Art_von(ziel);
+        }
+        if (const Text ordner = Ordner_von(ziel); dort == Pfadart::nichts && !ordner.empty()) Zielordner_anlegen(ordner);
+        einen_übertragen(quelle, art, std::move(ziel), dort);
     }
 }
 
@@ -146,8 +153,8 @@ Text Shell_Dateivorgang::freier_Name(const Text& ziel) {
     }
 }
 
-void Shell_Dateivorgang::einen_übertragen(const Text& von, Text nach) {
-    const bool Ordner = !dateien_.Datei_da(von);
+void Shell_Dateivorgang::einen_übertragen(const Text& von, Pfadart art, Text nach, Pfadart dort) {
+    const bool Ordner = art == Pfadart::Ordner;
     const bool verschieben = vorgang_.Code != FO_COPY;
     if (Ordner && mit_Trenner(nach).rfind(mit_Trenner(von), 0) == 0 && nach != von) throw Fehlschlag{FEHLER_ZIEL_IM_ORDNER};
     // Only the spelling changes: the target that would be found is the source itself.
@@ -156,12 +163,12 @@ void Shell_Dateivorgang::einen_übertragen(const Text& von, Text nach) {
         return;
     }
     bool ersetzen = false;
-    if (da(nach)) {
+    if (dort != Pfadart::nichts) {
         if (hat(FOF_RENAMEONCOLLISION)) {
             nach = freier_Name(nach);
         } else {
             if (groß(nach) == groß(von)) throw Fehlschlag{FEHLER_GLEICHE_DATEI};
-            const bool Zielordner = !dateien_.Datei_da(nach);
+            const bool Zielordner = dort == Pfadart::Ordner;
             if (Ordner && !Zielordner) throw Fehlschlag{FEHLER_DATEI_STATT_ORDNER};
             if (!Ordner && Zielordner) throw Fehlschlag{FEHLER_ORDNER_STATT_DATEI};
             const Text frage =

@@ -23,14 +23,14 @@ public:
 
 private:
     bool hat(std::uint16_t flag) const { return (vorgang_.Flags & flag) != 0; }
-    bool da(const Text& pfad) { return dateien_.Datei_da(pfad) || dateien_.Ordner_da(pfad); }
+    bool da(const Text& pfad) { return dateien_.Art_von(pfad) != Pfadart::nichts; }
     bool ja(const Text& titel, const Text& text);
 
     void löschen();
     void umbenennen();
     void übertragen();
     void Zielordner_anlegen(const Text& ordner);
-    void einen_übertragen(const Text& von, Text nach);
+    void einen_übertragen(const Text& von, Pfadart art, Text nach, Pfadart dort);
     void Datei_übertragen(const Text& von, const Text& nach, bool ersetzen);
     void Ordner_übertragen(const Text& von, const Text& nach, int tiefe);
     void Ordner_entfernen(const Text& ordner, int tiefe);
