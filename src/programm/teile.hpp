@@ -43,6 +43,7 @@
 #include "programm/infofenster.hpp"
 #include "programm/kontextmenues.hpp"
 #include "programm/lied_befehle.hpp"
+#include "programm/mausmarkierung.hpp"
 #include "programm/programm.hpp"
 #include "programm/splash.hpp"
 #include "programm/startparameter.hpp"
@@ -88,7 +89,8 @@ struct Programm::Teile {
     Alben_Befehle alben_befehle{modell, alben_datei, album_wählen, album_start, ansicht};
 
     Wiedergabe wiedergabe{modell, einstellungen, plattform, kanäle, ansicht};
-    Tonkartei fenster{ansicht, modell, einstellungen, alben.eigene, wiedergabe.Zählung};
+    Tonkartei fenster{ansicht, modell, einstellungen, alben.eigene, wiedergabe, plattform.Rechner};
+    Mausmarkierung markierung{fenster, einstellungen, fenster.Fernsteuerung};
     Infofenster infofenster{ansicht, modell};
     Splash splash{ansicht, modell, einstellungen, sitzung, kanäle, plattform};
 

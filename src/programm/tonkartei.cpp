@@ -3,15 +3,17 @@
 #include "datenbank/version.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "programm/startparameter.hpp"
+#include "wiedergabe/wiedergabe.hpp"
 
 namespace tonkartei {
 
 Tonkartei::Tonkartei(Ansicht& ansicht, Modell& modell, Einstellungen& einstellungen, const Albenbestand& alben,
-                     Spielzählung& zählung)
+                     tonkartei::Wiedergabe& spiel, Rechner& rechner)
     : Fenster(ansicht, "Tonkartei", Programmtitel),
       Lieder(*this, modell, einstellungen, alben, Kategorien),
       Kategorien(*this, modell, einstellungen),
-      Wiedergabe(*this, zählung),
+      Wiedergabe(*this, spiel.Zählung),
+      Fernsteuerung(*this, einstellungen, spiel.Spieler, rechner, Wiedergabe.Lied_starten),
       modell_(modell),
       einstellungen_(einstellungen) {
     Datenbank.tooltip("Die zuletzt geöffneten Datenbanken, die erste ist die geöffnete");
@@ -27,6 +29,10 @@ Tonkartei::Tonkartei(Ansicht& ansicht, Modell& modell, Einstellungen& einstellun
     Kategorien.Auswahl_geändert.verbinden([this] { Lieder.aktualisiere_Liste(); });
     Kategorien.Suche_fokussieren.verbinden([this] { Lieder.Schnellsuche_fokussieren(); });
     Wiedergabe.gewähltes_Lied = [this] { return Lieder.gewähltes_Lied(); };
+    Fernsteuerung.Zufallslied_gewünscht.verbinden([this] {
+        if (Wiedergabe.Zufallslied_starten.aktiv()) Wiedergabe.Zufallslied_starten.Klick();
+    });
+    Fernsteuerung.Fokus_frei.verbinden([this] { Lieder.Schnellsuche_fokussieren(); });
     Lieder.Start_gewünscht.verbinden([this] { Wiedergabe.Lied_starten.Klick(); });
 }
 
@@ -36,11 +42,11 @@ void Tonkartei::Menü_anlegen(const std::vector<Menüzeile>& tabelle) {
 }
 
 Knoten Tonkartei::anordnung() {
-    return Spalte(
-               {Zeile({Datenbank_Text, Knoten(Datenbank).dehnen(1)}),
-                Zeile({Lieder.Listenknoten(), Spalte({Lieder.Liedknoten(Kategorien.Lied_Kategorie), Kategorien.anordnung(),
-                                                      Feder(0, 1), Gruppe(Wiedergabe_Rahmen, Wiedergabe.anordnung())})})
-                    .dehnen(1, 1)})
+    return Spalte({Zeile({Datenbank_Text, Knoten(Datenbank).dehnen(1)}),
+                   Zeile({Lieder.Listenknoten(),
+                          Spalte({Lieder.Liedknoten(Kategorien.Lied_Kategorie), Kategorien.anordnung(), Feder(0, 1),
+                                  Gruppe(Wiedergabe_Rahmen, Wiedergabe.anordnung(Fernsteuerung))})})
+                       .dehnen(1, 1)})
         .rand(120);
 }
 
@@ -109,6 +115,8 @@ void Tonkartei::bei_neuer_Größe() {
     Lieder.freie_Lage();
     Tray_nachführen();
 }
+
+void Tonkartei::bei_neuer_Anordnung() { Fernsteuerung.Lage_nachführen(); }
 
 void Tonkartei::bei_neuem_Zustand() {
     Tray_nachführen();

@@ -1,5 +1,6 @@
 #include "wiedergabe/wiedergabebereich.hpp"
 
+#include "wiedergabe/fernsteuerung.hpp"
 #include "wiedergabe/spielzaehlung.hpp"
 
 namespace tonkartei {
@@ -37,11 +38,14 @@ void Wiedergabebereich::starte_gewähltes_Lied() {
     if (nr > 0) zählung_.starte_Lied(nr);
 }
 
-Knoten Wiedergabebereich::anordnung() {
+Knoten Wiedergabebereich::anordnung(Fernsteuerung& fernsteuerung) {
     return Spalte({
-        Gitter(3, {Knoten(Lied_starten).dehnen(1), Knoten(Lied_kopieren).dehnen(1), Knoten(Lied_löschen).dehnen(1),
-                   Knoten(Zufallslied_starten).dehnen(1), Knoten(Zufalls_Playlist).dehnen(1),
-                   Knoten(add_to_Playlist).dehnen(1)}),
+        Überlagerung({Zeile({Gitter(3, {Knoten(Lied_starten).dehnen(1), Knoten(Lied_kopieren).dehnen(1),
+                                        Knoten(Lied_löschen).dehnen(1), Knoten(Zufallslied_starten).dehnen(1),
+                                        Knoten(Zufalls_Playlist).dehnen(1), Knoten(add_to_Playlist).dehnen(1)})
+                                 .dehnen(1),
+                             fernsteuerung.Markenknoten()}),
+                      fernsteuerung.Tafelknoten()}),
         Zeile({Autoplay, Autoplay_Random, Feder()}),
     });
 }

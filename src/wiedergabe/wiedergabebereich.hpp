@@ -9,6 +9,7 @@
 
 namespace tonkartei {
 
+class Fernsteuerung;
 class Spielzählung;
 
 class Wiedergabebereich {
@@ -21,7 +22,8 @@ public:
     // Number of the song on the chosen line of the list, 0 none.
     std::function<Long()> gewähltes_Lied;
 
-    Knoten anordnung();
+    // The remote control's panel lies over the six song buttons, its marker beside them.
+    Knoten anordnung(Fernsteuerung& fernsteuerung);
 
 private:
     void starte_gewähltes_Lied();
