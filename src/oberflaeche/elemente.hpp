@@ -138,6 +138,7 @@ public:
         : Element(f, Elementart::Fläche, std::move(name), {}, index), Bild(std::move(bild)) {}
     Text Bild;
     Größe Wunsch{720, 720};
+    bool eingerahmt = false;  // on a small panel of its own
 };
 
 // Tray symbol: Klick is its left button, Rechtsklick its right one. Hidden at first.

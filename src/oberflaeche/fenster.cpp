@@ -169,6 +169,7 @@ void Fenster::neu_anordnen() {
     }
     anordnung_->anordnen({lage_.breite, lage_.höhe});
     ordnet_ = false;
+    bei_neuer_Anordnung();
 }
 
 void Fenster::malen() {

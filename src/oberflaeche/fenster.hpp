@@ -100,6 +100,8 @@ protected:
     virtual void beim_Entladen() {}
     virtual void bei_neuer_Größe() {}
     virtual void bei_neuem_Zustand() {}
+    // The layout has given the controls their places, perhaps the same as before.
+    virtual void bei_neuer_Anordnung() {}
     // Set in the constructor of a window with a menu bar.
     void Menü_setzen(const Menü& menü) { menü_ = &menü; }
 

@@ -136,7 +136,12 @@ void Taste_drücken(Element& element, Taste taste) {
     }
 }
 
-void Maus_bewegen(Element& element) { element.Mausbewegung(); }
+void Maus_bewegen(Element& element) {
+    if (element.bedienbar())
+        element.Mausbewegung();
+    else
+        element.fenster().Mausbewegung();
+}
 
 void ablegen(Element& quelle, Element& ziel) {
     quelle.Ziehen_beginnt();

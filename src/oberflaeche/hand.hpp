@@ -23,7 +23,7 @@ void schieben(Element& element, int wert);
 // A key while the control has the focus: its handlers first, then the usual effect (Return and Escape press the window's
 // default and cancel button, arrows move a choice, Alt+x an access key, characters go into text fields).
 void Taste_drücken(Element& element, Taste taste);
-// The mouse moves over the control.
+// The mouse moves over the control; one that is disabled is like the free ground around it.
 void Maus_bewegen(Element& element);
 void ablegen(Element& quelle, Element& ziel);
 void Dateien_ablegen(Element& ziel, const std::vector<Text>& pfade);

@@ -257,7 +257,7 @@ private:
                         menü()("Systray_always").haken(immer);
                         t.fenster.SysTray.sichtbar(immer);
                     }),
-             Befehl("Mousemove_markierung", "&Objekt unter der Maus markieren"),
+             Schalter("Mousemove_markierung", "&Objekt unter der Maus markieren", &Einstellungen::Objekt_Markierung_aktiv),
              Schalter("Position_merken", "&Position beim beenden merken", &Einstellungen::Position_merken),
              Befehl("Random_Prozent", "&Random-Einstellungen", [this] { t.automatik.Optionen.Random_Prozent(); }),
              Befehl("Zeit_Anzahl", "&Zeit zum erhöhen der Anzahl", [this] { t.wiedergabe.Optionen.Zeit_Anzahl(); }),
@@ -276,8 +276,12 @@ private:
         return Untermenü(
             "UMP_WinAmp", "&Winamp...",
             {Befehl("WinAmp_Verzeichnis_wählen", "&Verzeichnis...", [&optionen] { optionen.WinAmp_Verzeichnis_wählen(); }),
-             Strich("WinAmp_Strich1"), Befehl("Menü_WinAmp_Fernsteuerung", "&Fernsteuerung"),
-             Befehl("Menü_WinAmp_Fernsteuerung_animiert", "Fernsteuerung &animiert auf und zu"),
+             Strich("WinAmp_Strich1"),
+             Schalter("Menü_WinAmp_Fernsteuerung", "&Fernsteuerung", &Einstellungen::WinAmp_Fernsteuerung,
+                      [this] { t.fenster.Fernsteuerung.Fernsteuerung_umgeschaltet(); }),
+             Schalter("Menü_WinAmp_Fernsteuerung_animiert", "Fernsteuerung &animiert auf und zu",
+                      &Einstellungen::WinAmp_Fernsteuerung_animiert,
+                      [this] { t.fenster.Fernsteuerung.Animation_umgeschaltet(); }),
              Befehl("WinAmp_FS_Lautstärke", "Fernsteuerung-&Lautstärke bei WinAmp-Start setzen",
                     [&optionen] { optionen.WinAmp_FS_Lautstärke(); }),
              Strich("WinAmp_Strich2"),
@@ -285,12 +289,14 @@ private:
              Untermenü("UMP_WinAmp_beenden", "Be&enden...", std::move(beenden))});
     }
 
-    // A switch of a setting, with its check mark.
-    Menüzeile Schalter(const char* name, const char* text, bool Einstellungen::*schalter) {
-        return Befehl(name, text, [this, name, schalter] {
+    // A switch of a setting, with its check mark, and what follows it.
+    Menüzeile Schalter(const char* name, const char* text, bool Einstellungen::*schalter,
+                       const std::function<void()>& danach = nullptr) {
+        return Befehl(name, text, [this, name, schalter, danach] {
             bool& wert = t.einstellungen.*schalter;
             wert = !wert;
             menü()(name).haken(wert);
+            if (danach) danach();
         });
     }
 

@@ -8,10 +8,13 @@ namespace {
 
 // Does what a click on the control does, when a click would do something.
 Menüzeile wie_Klick(const Text& name, const Text& text, Element& element) {
-    const auto klicken = [&element] {
-        if (element.aktiv()) element.von_Hand_klicken();
-    };
-    return {name, text, ohne_Index, element.aktiv() ? std::function<void()>(klicken) : nullptr, {}};
+    return {name,
+            text,
+            ohne_Index,
+            [&element] {
+                if (element.aktiv()) element.von_Hand_klicken();
+            },
+            {}};
 }
 
 Menüzeile Strich(int n) { return {"Tray_Strich" + Zahltext(n), "-", ohne_Index, nullptr, {}}; }
@@ -32,9 +35,13 @@ Kontextmenüs::Kontextmenüs(Ansicht& ansicht, const Modell& modell, Tonkartei& 
 // An entry that runs an entry of the menu bar.
 Menüzeile Kontextmenüs::wie(const Text& name, const Text& text) const {
     Menüpunkt& vorbild = haupt_.Hauptmenü()(name);
-    Menüzeile zeile{name, text.empty() ? vorbild.beschriftung() : text, vorbild.Index(), nullptr, {}};
-    if (vorbild.aktiv()) zeile.Handler = [&vorbild] { vorbild.von_Hand_klicken(); };
-    return zeile;
+    return {name,
+            text.empty() ? vorbild.beschriftung() : text,
+            vorbild.Index(),
+            [&vorbild] {
+                if (vorbild.aktiv()) vorbild.von_Hand_klicken();
+            },
+            {}};
 }
 
 std::vector<Menüzeile> Kontextmenüs::Tabelle() {
@@ -70,6 +77,12 @@ std::vector<Menüzeile> Kontextmenüs::Tabelle() {
             {"Tray_Menü", "Tonkartei", ohne_Index, nullptr, std::move(tray)}};
 }
 
+// The control or command that an entry stands for; null for what is always there.
+const Element* Kontextmenüs::Vorbild(const Text& eintrag) const {
+    if (eintrag == "Random_Autoplay") return &haupt_.Wiedergabe.Autoplay;
+    return haupt_.element(eintrag, ohne_Index);
+}
+
 void Kontextmenüs::nachführen() {
     const auto& bereich = haupt_.Kategorien;
     Menüpunkt& kategorien = menü_("Tray_Kategorien");
@@ -90,6 +103,9 @@ void Kontextmenüs::nachführen() {
         eintrag.beschriftung(angeboten ? modell_.Schemas[n].Name : Text("---"));
         eintrag.aktiv(angeboten);
     }
+    for (const auto& menü : menü_.einträge())
+        for (const auto& eintrag : menü->einträge())
+            if (const Element* vorbild = Vorbild(eintrag->Name())) eintrag->aktiv(vorbild->aktiv());
     menü_("Random_Autoplay").haken(haupt_.Wiedergabe.Autoplay.wert());
     menü_("Menü_WinAmp_verstecken").haken(haupt_.Hauptmenü()("Menü_WinAmp_verstecken").haken());
 }
@@ -98,6 +114,7 @@ void Kontextmenüs::Lied_zeigen(int zeile) {
     auto& liste = haupt_.Lieder.Liste;
     // The commands work on the chosen song: it must be the one that the user points at, and its details must be there.
     if (zeile >= 0 && (zeile != liste.gewählt() || haupt_.Lieder.angezeigtes_Lied() == 0)) liste.wähle(zeile);
+    nachführen();
     ansicht().Menü_zeigen(menü_("Lied_Menü"));
 }
 

@@ -28,6 +28,7 @@ public:
 private:
     std::vector<Menüzeile> Tabelle();
     Menüzeile wie(const Text& name, const Text& text = {}) const;
+    const Element* Vorbild(const Text& eintrag) const;
 
     const Modell& modell_;
     Tonkartei& haupt_;

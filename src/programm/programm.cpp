@@ -18,6 +18,7 @@ Programm::Teile::Teile(const Plattform& p, Ansicht& a, const Text& Kommandozeile
     fenster.Menü_anlegen(Hauptmenü_Tabelle(*this));
     kontextmenüs = std::make_unique<Kontextmenüs>(ansicht, modell, fenster);
     verbinden();
+    markierung.anschließen();
 }
 
 // What travels upward between the floors.
@@ -55,12 +56,10 @@ void Programm::Teile::verbinden() {
     fenster.Lieder.Liste2.Sleep = [this](int ms) { plattform.Rechner.Sleep(ms); };
     fenster.Lieder.Alben_öffnen = [this] { return alben_befehle.Ansicht_öffnen(); };
     album_start.starte_WinAmp_Liste = [this](const Text& datei) { wiedergabe.Starter.starte_WinAmp_Liste(datei); };
+    wiedergabe.Takt.Anzeige_Schritt.verbinden([this] { fenster.Fernsteuerung.anzeigen(); });
     wiedergabe.Optionen.geändert.verbinden([this] { Menüs_nachführen(); });
 
-    kontextmenüs->Winamp_Pause = [this] {
-        const WinAmp& spieler = wiedergabe.Spieler;
-        if (spieler.WinAmp_da) wiedergabe.Steuerung.WinAmp_Befehl(WinAmp_Code_Pause, spieler.WinAmp_Hwnd);
-    };
+    kontextmenüs->Winamp_Pause = [this] { wiedergabe.Spieler.Befehl(WinAmp_Code_Pause); };
 
     fenster.Kategorien.Kategorien_bearbeiten.verbinden([this] {
         if (!modell.Datenbank_offen) return;
@@ -148,6 +147,7 @@ void Programm::Teile::Einstellungen_setzen() {
     Einstellungen_lesen(registry, einstellungen, vorgaben);
     fenster.Wiedergabe.Autoplay_Random.wert(einstellungen.Random_Autoplay);
     fenster.Wiedergabe.auto_Kat_Wechsel.wert(einstellungen.auto_Kat_Wechsel_Status);
+    fenster.Fernsteuerung.Einstellungen_setzen();
     Menüs_nachführen();
 }
 

@@ -43,6 +43,7 @@
 #include "programm/infofenster.hpp"
 #include "programm/kontextmenues.hpp"
 #include "programm/lied_befehle.hpp"
+#include "programm/mausmarkierung.hpp"
 #include "programm/programm.hpp"
 #include "programm/splash.hpp"
 #include "programm/startparameter.hpp"
@@ -89,9 +90,10 @@ struct Programm::Teile {
     Alben_Befehle alben_befehle{modell, alben_datei, album_wählen, album_start, ansicht};
 
     Wiedergabe wiedergabe{modell, einstellungen, plattform, kanäle, ansicht};
-    Tonkartei fenster{ansicht, modell, einstellungen, alben.eigene};
+    Tonkartei fenster{ansicht, modell, einstellungen, alben.eigene, wiedergabe.Spieler, plattform.Rechner};
     Liedautomatik automatik{modell,     einstellungen,  plattform,          ansicht,
                             wiedergabe, fenster.Lieder, fenster.Kategorien, fenster.Wiedergabe};
+    Mausmarkierung markierung{fenster, einstellungen, fenster.Fernsteuerung};
     Infofenster infofenster{ansicht, modell};
     Splash splash{ansicht, modell, einstellungen, sitzung, kanäle, plattform};
 

@@ -6,11 +6,13 @@
 
 namespace tonkartei {
 
-Tonkartei::Tonkartei(Ansicht& ansicht, Modell& modell, Einstellungen& einstellungen, const Albenbestand& alben)
+Tonkartei::Tonkartei(Ansicht& ansicht, Modell& modell, Einstellungen& einstellungen, const Albenbestand& alben,
+                     WinAmp& spieler, Rechner& rechner)
     : Fenster(ansicht, "Tonkartei", Programmtitel),
       Lieder(*this, modell, einstellungen, alben, Kategorien),
       Kategorien(*this, modell, einstellungen),
       Wiedergabe(*this),
+      Fernsteuerung(*this, einstellungen, spieler, rechner, Wiedergabe.Lied_starten),
       modell_(modell),
       einstellungen_(einstellungen) {
     Datenbank.tooltip("Die zuletzt geöffneten Datenbanken, die erste ist die geöffnete");
@@ -25,6 +27,10 @@ Tonkartei::Tonkartei(Ansicht& ansicht, Modell& modell, Einstellungen& einstellun
     Kategorien.angezeigtes_Lied = [this] { return Lieder.angezeigtes_Lied(); };
     Kategorien.Auswahl_geändert.verbinden([this] { Lieder.aktualisiere_Liste(); });
     Kategorien.Suche_fokussieren.verbinden([this] { Lieder.Schnellsuche_fokussieren(); });
+    Fernsteuerung.Zufallslied_gewünscht.verbinden([this] {
+        if (Wiedergabe.Zufallslied_starten.aktiv()) Wiedergabe.Zufallslied_starten.Klick();
+    });
+    Fernsteuerung.Fokus_frei.verbinden([this] { Lieder.Schnellsuche_fokussieren(); });
     Lieder.Start_gewünscht.verbinden([this] { Wiedergabe.Lied_starten.Klick(); });
 }
 
@@ -34,11 +40,11 @@ void Tonkartei::Menü_anlegen(const std::vector<Menüzeile>& tabelle) {
 }
 
 Knoten Tonkartei::anordnung() {
-    return Spalte(
-               {Zeile({Datenbank_Text, Knoten(Datenbank).dehnen(1)}),
-                Zeile({Lieder.Listenknoten(), Spalte({Lieder.Liedknoten(Kategorien.Lied_Kategorie), Kategorien.anordnung(),
-                                                      Feder(0, 1), Gruppe(Wiedergabe_Rahmen, Wiedergabe.anordnung())})})
-                    .dehnen(1, 1)})
+    return Spalte({Zeile({Datenbank_Text, Knoten(Datenbank).dehnen(1)}),
+                   Zeile({Lieder.Listenknoten(),
+                          Spalte({Lieder.Liedknoten(Kategorien.Lied_Kategorie), Kategorien.anordnung(), Feder(0, 1),
+                                  Gruppe(Wiedergabe_Rahmen, Wiedergabe.anordnung(Fernsteuerung))})})
+                       .dehnen(1, 1)})
         .rand(120);
 }
 
@@ -107,6 +113,8 @@ void Tonkartei::bei_neuer_Größe() {
     Lieder.freie_Lage();
     Tray_nachführen();
 }
+
+void Tonkartei::bei_neuer_Anordnung() { Fernsteuerung.Lage_nachführen(); }
 
 void Tonkartei::bei_neuem_Zustand() {
     Tray_nachführen();

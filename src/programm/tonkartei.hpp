@@ -9,17 +9,20 @@
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/listen.hpp"
 #include "oberflaeche/menue.hpp"
+#include "wiedergabe/fernsteuerung.hpp"
 #include "wiedergabe/wiedergabebereich.hpp"
 
 namespace tonkartei {
 
 class Sitzung;
 class Startparameter;
+class WinAmp;
 struct Albenbestand;
 
 class Tonkartei : public Fenster {
 public:
-    Tonkartei(Ansicht& ansicht, Modell& modell, Einstellungen& einstellungen, const Albenbestand& alben);
+    Tonkartei(Ansicht& ansicht, Modell& modell, Einstellungen& einstellungen, const Albenbestand& alben, WinAmp& spieler,
+              Rechner& rechner);
 
     Schriftfeld Datenbank_Text{*this, "Datenbank_Text", "D&atenbank:"};
     Auswahlfeld Datenbank{*this, "Datenbank"};
@@ -28,6 +31,7 @@ public:
     Kategorienbereich Kategorien;
     Rahmen Wiedergabe_Rahmen{*this, "Wiedergabe_Rahmen", "Wiedergabe"};
     Wiedergabebereich Wiedergabe;
+    tonkartei::Fernsteuerung Fernsteuerung;
     Traysymbol SysTray{*this, "SysTray"};
 
     // The menu bar, from its table; to be called once, while the program is put together.
@@ -63,6 +67,7 @@ protected:
     bool beim_Schließen(Schließgrund grund) override;
     void beim_Entladen() override;
     void bei_neuer_Größe() override;
+    void bei_neuer_Anordnung() override;
     void bei_neuem_Zustand() override;
 
 private:

@@ -1,5 +1,7 @@
 #include "wiedergabe/wiedergabebereich.hpp"
 
+#include "wiedergabe/fernsteuerung.hpp"
+
 namespace tonkartei {
 
 // Access keys are shared with the whole main window. Alt+N stays free: the button of the random choice turns into the one of
@@ -32,11 +34,14 @@ Wiedergabebereich::Wiedergabebereich(Fenster& fenster)
     add_to_Playlist.aktiv(false);
 }
 
-Knoten Wiedergabebereich::anordnung() {
+Knoten Wiedergabebereich::anordnung(Fernsteuerung& fernsteuerung) {
     return Spalte({
-        Gitter(3, {Knoten(Lied_starten).dehnen(1), Knoten(Lied_kopieren).dehnen(1), Knoten(Lied_löschen).dehnen(1),
-                   Knoten(Zufallslied_starten).dehnen(1), Knoten(Zufalls_Playlist).dehnen(1),
-                   Knoten(add_to_Playlist).dehnen(1)}),
+        Überlagerung({Zeile({Gitter(3, {Knoten(Lied_starten).dehnen(1), Knoten(Lied_kopieren).dehnen(1),
+                                        Knoten(Lied_löschen).dehnen(1), Knoten(Zufallslied_starten).dehnen(1),
+                                        Knoten(Zufalls_Playlist).dehnen(1), Knoten(add_to_Playlist).dehnen(1)})
+                                 .dehnen(1),
+                             fernsteuerung.Markenknoten()}),
+                      fernsteuerung.Tafelknoten()}),
         Zeile({Autoplay, Autoplay_Random, Feder(), Knoten(auto_Kat_Wechsel).Platz_halten(), auto_Kat_Wechsel_Setup}),
     });
 }

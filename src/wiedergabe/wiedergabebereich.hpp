@@ -6,6 +6,8 @@
 
 namespace tonkartei {
 
+class Fernsteuerung;
+
 // Only the controls: what they do is connected by the parts that do it.
 class Wiedergabebereich {
 public:
@@ -17,7 +19,8 @@ public:
     Kasten auto_Kat_Wechsel;
     Knopf auto_Kat_Wechsel_Setup;
 
-    Knoten anordnung();
+    // The remote control's panel lies over the six song buttons, its marker beside them.
+    Knoten anordnung(Fernsteuerung& fernsteuerung);
 };
 
 }  // namespace tonkartei

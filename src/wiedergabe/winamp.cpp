@@ -1,6 +1,7 @@
 #include "wiedergabe/winamp.hpp"
 
 #include <algorithm>
+#include <limits>
 
 #include "datenbank/einstellungen.hpp"
 #include "plattform/rechner.hpp"
@@ -48,6 +49,20 @@ void WinAmp::nach_dem_Start() {
     // A second time after the look before: by now the player may have shown itself again to take its file.
     if (einstellungen_.WinAmp_verstecken) verstecken();
 }
+
+void WinAmp::Befehl(std::int32_t Code) {
+    if (WinAmp_da) steuerung_.WinAmp_Befehl(Code, WinAmp_Hwnd);
+}
+
+void WinAmp::springen(double Sekunden) {
+    using Grenze = std::numeric_limits<Long>;
+    if (WinAmp_da)
+        steuerung_.WinAmp_springen(WinAmp_Hwnd, gerundet(std::clamp<double>(Sekunden * 1000, Grenze::min(), Grenze::max())));
+}
+
+Long WinAmp::Position() { return WinAmp_da ? steuerung_.WinAmp_Position_lesen(WinAmp_Hwnd) : 0; }
+
+Long WinAmp::Länge() { return WinAmp_da ? steuerung_.WinAmp_Länge_lesen(WinAmp_Hwnd) : 0; }
 
 void WinAmp::Lautstärke_stellen(Long Wert) {
     Wert = std::clamp<Long>(Wert, 0, Regler_maximal);

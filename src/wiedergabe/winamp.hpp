@@ -33,6 +33,14 @@ public:
     // After a start, as soon as the window has been looked for: volume and hiding as the settings say.
     void nach_dem_Start();
 
+    // Code of WM_COMMAND, as long as the player is there; so are all the following.
+    void Befehl(std::int32_t Code);
+    // To that second of the song. What does not fit the message's milliseconds becomes the nearest that does.
+    void springen(double Sekunden);
+    // As the player tells them, which may be anything: milliseconds; seconds.
+    Long Position();
+    Long Länge();
+
     // The volume slider's value, 0 to 100: to the player if it is there, to the settings in any case.
     void Lautstärke_stellen(Long Wert);
 

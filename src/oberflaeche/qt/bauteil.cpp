@@ -57,6 +57,7 @@ void Bauteil::Aussehen_zeigen() {
 }
 
 void Bauteil::Farben_zeigen() {
+    if (malt_Grund_nicht()) widget_->setAutoFillBackground(element_.hintergrund() != Farbe_Standard);
     if (element_.farbe() == Farbe_Standard && element_.hintergrund() == Farbe_Standard) {
         if (widget_->testAttribute(Qt::WA_SetPalette)) widget_->setPalette(QPalette());
         return;
@@ -65,9 +66,13 @@ void Bauteil::Farben_zeigen() {
     if (element_.farbe() != Farbe_Standard)
         for (const auto rolle : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
             farben.setColor(rolle, Qt_Farbe(element_.farbe()));
-    if (element_.hintergrund() != Farbe_Standard)
+    // A frame paints its ground by itself: as a palette it would pass to everything inside. Of a drop-down list the field
+    // alone has the colour.
+    const Elementart art = element_.art();
+    if (element_.hintergrund() != Farbe_Standard && art != Elementart::Rahmen)
         for (const auto rolle : {QPalette::Window, QPalette::Button, QPalette::Base})
-            farben.setColor(rolle, Qt_Farbe(element_.hintergrund()));
+            if (art != Elementart::Auswahl || rolle == QPalette::Button)
+                farben.setColor(rolle, Qt_Farbe(element_.hintergrund()));
     widget_->setPalette(farben);
 }
 
@@ -110,6 +115,13 @@ bool Bauteil::Maus(QMouseEvent& ereignis) {
     const QPoint stelle = fläche_->mapTo(widget_, ereignis.position().toPoint());
     // What does not take the mouse by itself keeps it from the ground below, which is another place to the program.
     const bool stumm = !klickt_selbst() && fläche_ == widget_ && !element_.nimmt_Fokus();
+    // A press that was heard ends, even if a box took the release away or the control is disabled by now.
+    const bool geht_zu_Ende =
+        ereignis.type() == QEvent::MouseButtonRelease ? links : !ereignis.buttons().testFlag(Qt::LeftButton);
+    if (unten_ && geht_zu_Ende && (!darf() || ereignis.type() != QEvent::MouseButtonRelease)) {
+        unten_ = false;
+        umfeld_.von_Hand([&] { Hand::loslassen(element_, Twips(stelle.x()), Twips(stelle.y())); });
+    }
     if (!darf()) {
         if (ereignis.type() == QEvent::MouseMove && umfeld_.hört() && umfeld_.erreichbar(element_.fenster()))
             umfeld_.von_Hand([this] { element_.fenster().Mausbewegung(); });

@@ -45,6 +45,8 @@ protected:
     virtual void Zeilen_zeigen() {}
     // The line at a place of the mouse area; -1 none.
     virtual int Zeile_an(QPoint) const { return -1; }
+    // The widget lies bare on the ground below: a colour of its own must be filled in.
+    virtual bool malt_Grund_nicht() const { return false; }
     // The widget tells clicks by itself.
     virtual bool klickt_selbst() const { return false; }
     // The left button went down there.

@@ -86,7 +86,11 @@ public:
 private:
     void Aussehen_zeigen() override {
         Bauteil::Aussehen_zeigen();
-        bild_->Name(static_cast<const Bildfläche&>(element()).Bild);
+        const auto& fläche = static_cast<const Bildfläche&>(element());
+        bild_->Name(fläche.Bild);
+        bild_->eingerahmt = fläche.eingerahmt;
+        bild_->füllung = fläche.hintergrund() == Farbe_Standard ? QColor() : Qt_Farbe(fläche.hintergrund());
+        bild_->update();
     }
 
     Bildwidget* bild_;

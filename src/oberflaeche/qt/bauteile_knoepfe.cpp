@@ -1,10 +1,13 @@
 // Push buttons, check boxes, option buttons.
 #include <QAbstractButton>
+#include <QEvent>
 #include <QPushButton>
 #include <QToolButton>
+#include <utility>
 
 #include "oberflaeche/elemente.hpp"
 #include "oberflaeche/fenster.hpp"
+#include "oberflaeche/hand.hpp"
 #include "oberflaeche/qt/bauteile.hpp"
 #include "oberflaeche/qt/bilder.hpp"
 #include "oberflaeche/qt/fensterwidget.hpp"
@@ -20,6 +23,15 @@ public:
     Knopfartiges(Umfeld& umfeld, Fensterwidget& fenster, Element& element, QAbstractButton* knopf)
         : Bauteil(umfeld, fenster, element), knopf_(knopf) {
         aufnehmen(knopf);
+        // Space and access keys hold a button like the mouse, whose own presses are heard elsewhere.
+        QObject::connect(knopf, &QAbstractButton::pressed, this, [this] {
+            if (!mit_Taste_ || !umfeld_.erreichbar(this->element().fenster())) return;
+            gehalten_ = true;
+            umfeld_.von_Hand([this] { Hand::drücken(this->element(), 0, 0); });
+        });
+        QObject::connect(knopf, &QAbstractButton::released, this, [this] {
+            if (std::exchange(gehalten_, false)) umfeld_.von_Hand([this] { Hand::loslassen(this->element(), 0, 0); });
+        });
         QObject::connect(knopf, &QAbstractButton::clicked, this, [this] {
             // Space and access keys come this way too; a blocked window does not hear them.
             if (!this->element().bedienbar() || !umfeld_.erreichbar(this->element().fenster())) return;
@@ -35,6 +47,21 @@ protected:
         if (knopf_->text() != text) knopf_->setText(text);
     }
     QAbstractButton* knopf_;
+
+    bool eventFilter(QObject* wer, QEvent* was) override {
+        switch (was->type()) {
+            case QEvent::MouseButtonPress:
+            case QEvent::MouseButtonDblClick: mit_Taste_ = false; break;
+            case QEvent::KeyPress:
+            case QEvent::Shortcut: mit_Taste_ = true; break;
+            default: break;
+        }
+        return Bauteil::eventFilter(wer, was);
+    }
+
+private:
+    bool mit_Taste_ = false;  // what was done to it last was done with a key
+    bool gehalten_ = false;   // by a key
 };
 
 class Knopf_Bauteil : public Knopfartiges {
@@ -73,6 +100,7 @@ public:
         : Knopfartiges(umfeld, fenster, kasten, new Kastenbild) {}
 
 private:
+    bool malt_Grund_nicht() const override { return true; }
     void Wert_zeigen() override { knopf_->setChecked(static_cast<const Kasten&>(element()).wert()); }
 };
 
@@ -84,6 +112,7 @@ public:
     }
 
 private:
+    bool malt_Grund_nicht() const override { return true; }
     void Wert_zeigen() override { knopf_->setChecked(static_cast<const Optionsfeld&>(element()).wert()); }
 };
 

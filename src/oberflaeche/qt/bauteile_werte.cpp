@@ -90,6 +90,7 @@ private:
         schieber_->setPageStep(std::max(1, (regler.max() - regler.min()) / 10));
         schieber_->setValue(regler.wert());
     }
+    bool malt_Grund_nicht() const override { return true; }
     // Its value is its own doing; only press and release are watched.
     bool klickt_selbst() const override { return true; }
 

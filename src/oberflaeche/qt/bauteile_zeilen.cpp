@@ -129,6 +129,7 @@ public:
 
 private:
     void Wert_zeigen() override { leiste_->setCurrentIndex(reiter_.wert()); }
+    bool malt_Grund_nicht() const override { return true; }
     bool klickt_selbst() const override { return true; }
 
     Reiter& reiter_;

@@ -149,6 +149,17 @@ const std::map<Text, Zeichner>& Piktogramme() {
          [](QPainter& m) {
              Linien(m, {{4, 4, 12, 12}, {12, 4, 4, 12}});
          }},
+        {"griff",
+         [](QPainter& m) {
+             Linien(m, {{9.5, 3.5, 5, 8}, {5, 8, 9.5, 12.5}});
+         }},
+        {"lautsprecher",
+         [](QPainter& m) {
+             m.drawPolygon(QPolygonF({{2.5, 6}, {5, 6}, {8, 3.2}, {8, 12.8}, {5, 10}, {2.5, 10}}));
+             m.setBrush(Qt::NoBrush);
+             m.drawArc(QRectF(7, 5.2, 5.6, 5.6), -50 * 16, 100 * 16);
+             m.drawArc(QRectF(6, 2.6, 8.6, 10.8), -50 * 16, 100 * 16);
+         }},
         {"suchen",
          [](QPainter& m) {
              m.setBrush(Qt::NoBrush);

@@ -16,7 +16,7 @@ QIcon Programmsymbol();
 
 // Draws the picture of that name into the area, pictograms in the given colour; false when there is none of that name.
 // "symbol", and the pictograms "play", "pause", "stop", "vor", "zurück", "zufall", "liste", "plus", "kopieren", "löschen",
-// "suchen", "auf", "ab", "pfeil"; "auskunft" and "frage" for boxes.
+// "griff", "lautsprecher", "suchen", "auf", "ab", "pfeil"; "auskunft" and "frage" for boxes.
 bool Bild_malen(QPainter& maler, const QRectF& platz, const Text& name, const QColor& farbe);
 
 // A picture as an icon of the pixels of all usual scales; null without one of that name.

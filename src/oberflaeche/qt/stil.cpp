@@ -38,7 +38,7 @@ void Knopf_malen(const QStyleOption& option, QPainter& maler, bool vorgabe) {
     else if (gedrückt)
         füllung = füllung.rgb() == Ton::Feld ? QColor::fromRgb(Ton::gedrückt) : füllung.darker(115);
     else if (darüber)
-        füllung = füllung.rgb() == Ton::Feld ? QColor::fromRgb(Ton::Akzent_hell) : füllung.lighter(107);
+        füllung = füllung.rgb() == Ton::Feld ? QColor::fromRgb(Ton::Akzent_hell) : füllung;
     const QRgb linie = !aktiv ? Ton::Linie_zart : fokus || darüber || vorgabe ? Ton::Akzent : Ton::Linie;
     Tafel_malen(maler, QRectF(option.rect), füllung, QColor::fromRgb(linie));
     if (fokus) Tafel_malen(maler, QRectF(option.rect).adjusted(1, 1, -1, -1), Qt::transparent, QColor::fromRgb(linie), 3);

@@ -129,6 +129,11 @@ void Bildwidget::Name(const Text& name) {
 
 void Bildwidget::paintEvent(QPaintEvent*) {
     QPainter maler(this);
+    if (eingerahmt)
+        Tafel_malen(maler, QRectF(rect()), füllung.isValid() ? füllung : QColor::fromRgb(Ton::Feld),
+                    QColor::fromRgb(Ton::Linie), 3);
+    else if (füllung.isValid())
+        maler.fillRect(rect(), füllung);
     Bild_malen(maler, QRectF(rect()), name_, palette().color(QPalette::WindowText));
 }
 

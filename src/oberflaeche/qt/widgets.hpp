@@ -87,11 +87,13 @@ protected:
     void paintEvent(QPaintEvent* was) override;
 };
 
-// A picture of the program, as large as fits.
+// A picture of the program, as large as fits; in a frame on its own small panel.
 class Bildwidget : public QWidget {
 public:
     explicit Bildwidget(Text name, QWidget* eltern = nullptr) : QWidget(eltern), name_(std::move(name)) {}
     void Name(const Text& name);
+    bool eingerahmt = false;
+    QColor füllung;  // invalid: none
 
 protected:
     void paintEvent(QPaintEvent* was) override;

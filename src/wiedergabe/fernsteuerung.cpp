@@ -1,0 +1,175 @@
+#include "wiedergabe/fernsteuerung.hpp"
+
+#include <cmath>
+#include <initializer_list>
+
+#include "datenbank/einstellungen.hpp"
+#include "oberflaeche/ansicht.hpp"
+#include "oberflaeche/fenster.hpp"
+#include "wiedergabe/winamp.hpp"
+
+namespace tonkartei {
+namespace {
+
+constexpr int Lautstärke_maximal = 100;
+constexpr int enge_Lücke = 3 * Twips_je_Pixel;
+
+// "nn:ss"; whole hours are dropped, and so is a sign: a player may tell any number, and the text must stay this short.
+Text Spielzeit(long long Sekunden) {
+    const long long s = (Sekunden < 0 ? -Sekunden : Sekunden) % 3600;
+    return Zahl_mit_Nullen(s / 60, 2) + ":" + Zahl_mit_Nullen(s % 60, 2);
+}
+
+}  // namespace
+
+void Griff::drücken(const Zeitpunkt& jetzt) {
+    gehalten_ = true;
+    seit_ = jetzt;
+}
+
+bool Griff::loslassen(const Zeitpunkt& jetzt) {
+    // A release that belongs to no press here, such as one after a box took the press over, is nothing.
+    const bool klick = gehalten_ && jetzt == seit_;
+    gehalten_ = false;
+    return klick;
+}
+
+Fernsteuerung::Fernsteuerung(Fenster& f, Einstellungen& einstellungen, WinAmp& winamp, Rechner& rechner, const Element& ecke)
+    : WinAmp_Show(f, "WinAmp_Show", "griff"),
+      WinAmp_Frame(f, "WinAmp_Frame"),
+      WinAmp_zurück(f, "WinAmp_zurück"),
+      WinAmp_Play(f, "WinAmp_Play"),
+      Winamp_Pause(f, "Winamp_Pause"),
+      WinAmp_Stop(f, "WinAmp_Stop"),
+      WinAmp_vor(f, "WinAmp_vor"),
+      Vol_Bild(f, "WinAmp_Vol_Bild", "lautsprecher"),
+      WinAmp_Vol(f, "WinAmp_Vol", 0, Lautstärke_maximal),
+      WinAmp_Zeit(f, "WinAmp_Zeit", "00:00"),
+      WinAmp_Position(f, "WinAmp_Position", 0, 1),
+      einstellungen_(einstellungen),
+      winamp_(winamp),
+      rechner_(rechner),
+      bewegung_(WinAmp_Frame, WinAmp_Show, ecke) {
+    WinAmp_Show.Wunsch = {14 * Twips_je_Pixel, 20 * Twips_je_Pixel};
+    WinAmp_Show.eingerahmt = true;
+    Vol_Bild.Wunsch = {16 * Twips_je_Pixel, 16 * Twips_je_Pixel};
+    WinAmp_Frame.frei = true;
+    WinAmp_Frame.deckend = true;
+    WinAmp_Frame.sichtbar(false);
+    WinAmp_Zeit.eingerahmt = true;
+    WinAmp_Zeit.wie_Daten = true;
+    WinAmp_Zeit.ausrichtung = Schriftfeld::Ausrichtung::Mitte;
+
+    // The bare ground of the panel has none: it would flare up between two buttons, and a mouse that comes to a place
+    // without a number leaves the panel open anyway.
+    int nummer = erste_Mausnummer;
+    for (Element* e : std::initializer_list<Element*>{&WinAmp_Show, &WinAmp_Play, &Winamp_Pause, &WinAmp_Stop, &WinAmp_vor,
+                                                      &WinAmp_zurück, &WinAmp_Position, &WinAmp_Vol, &WinAmp_Zeit})
+        e->Mausnummer = nummer++;
+
+    const auto Taste = [](Knopf& knopf, const char* bild, const char* tooltip) {
+        knopf.klein = true;
+        knopf.Bild = bild;
+        knopf.tooltip(tooltip);
+    };
+    Taste(WinAmp_zurück, "zurück", "an den Anfang des Liedes, gehalten: zurückspulen");
+    Taste(WinAmp_Play, "play", "spielt das Lied in WinAmp");
+    Taste(Winamp_Pause, "pause", "hält das Lied an oder spielt es weiter");
+    Taste(WinAmp_Stop, "stop", "beendet das Lied in WinAmp");
+    Taste(WinAmp_vor, "vor", "nächstes oder Zufalls-Lied, gehalten: vorspulen");
+    WinAmp_Show.tooltip("Fernsteuerung von WinAmp");
+    WinAmp_Position.tooltip("Stelle im Lied");
+    WinAmp_Vol.tooltip("Lautstärke von WinAmp");
+    Vol_Bild.tooltip(WinAmp_Vol.tooltip());
+    WinAmp_Zeit.tooltip("gespielte Zeit oder Restzeit, ein Klick wechselt");
+
+    WinAmp_Play.Klick.verbinden([this] {
+        if (winamp_.WinAmp_Status != Status_spielt) winamp_.Befehl(WinAmp_Code_Play);
+    });
+    Winamp_Pause.Klick.verbinden([this] { winamp_.Befehl(WinAmp_Code_Pause); });
+    WinAmp_Stop.Klick.verbinden([this] { winamp_.Befehl(WinAmp_Code_Stop); });
+    WinAmp_vor.Gedrückt.verbinden([this](int, int) { vor_.drücken(rechner_.jetzt()); });
+    WinAmp_vor.Losgelassen.verbinden([this](int, int) {
+        if (vor_.loslassen(rechner_.jetzt())) Zufallslied_gewünscht();
+    });
+    WinAmp_zurück.Gedrückt.verbinden([this](int, int) { zurück_.drücken(rechner_.jetzt()); });
+    WinAmp_zurück.Losgelassen.verbinden([this](int, int) {
+        if (zurück_.loslassen(rechner_.jetzt())) winamp_.springen(0);
+    });
+    WinAmp_Position.Gedrückt.verbinden([this](int, int) { Position_.drücken(rechner_.jetzt()); });
+    WinAmp_Position.Losgelassen.verbinden([this](int x, int) {
+        if (Position_.loslassen(rechner_.jetzt())) Leiste_angeklickt(x);
+    });
+    // The hand alone: the tick moves the slider, too, and must not send the player back.
+    WinAmp_Position.Gescrollt.verbinden([this] { winamp_.springen(WinAmp_Position.wert()); });
+    WinAmp_Vol.Geändert.verbinden([this] { Lautstärke_geändert(); });
+    WinAmp_Vol.Gescrollt.verbinden([this] { Lautstärke_geändert(); });
+    WinAmp_Zeit.Klick.verbinden([this] { einstellungen_.WinAmp_Zeit_vorwärts = !einstellungen_.WinAmp_Zeit_vorwärts; });
+}
+
+// Low enough for the two rows of buttons below it.
+Knoten Fernsteuerung::Tafelknoten() {
+    return Gruppe(WinAmp_Frame,
+                  Spalte({Zeile({WinAmp_zurück, WinAmp_Play, Winamp_Pause, WinAmp_Stop, WinAmp_vor, Feder(), Vol_Bild,
+                                 Knoten(WinAmp_Vol).mindestens(70 * Twips_je_Pixel, 0), Knoten(WinAmp_Zeit).zeichen(8)})
+                              .lücke(enge_Lücke),
+                          Feder(0, 1), Knoten(WinAmp_Position).dehnen(1), Feder(0, 1)})
+                      .lücke(Twips_je_Pixel))
+        .Platz_halten();
+}
+
+void Fernsteuerung::Einstellungen_setzen() {
+    setzt_Einstellungen_ = true;
+    WinAmp_Vol.wert(einstellungen_.WinAmp_Lautstärke);
+    setzt_Einstellungen_ = false;
+    Fernsteuerung_umgeschaltet();
+}
+
+void Fernsteuerung::Fernsteuerung_umgeschaltet() { WinAmp_Show.sichtbar(einstellungen_.WinAmp_Fernsteuerung); }
+
+void Fernsteuerung::Animation_umgeschaltet() {
+    if (!einstellungen_.WinAmp_Fernsteuerung_animiert) bewegung_.an_offenen_Platz();
+}
+
+void Fernsteuerung::Fernsteuerung_schließen(bool animiert) {
+    bewegung_.schließen(animiert);
+    const Element* fokus = WinAmp_Frame.fenster().ansicht().fokus();
+    if (!sichtbar() && fokus != nullptr && fokus->rahmen() == &WinAmp_Frame) Fokus_frei();
+}
+
+void Fernsteuerung::Lautstärke_geändert() {
+    if (!setzt_Einstellungen_) winamp_.Lautstärke_stellen(WinAmp_Vol.wert());
+}
+
+// Hundredths of the bar, then the second: both steps round, and both reckon in single precision.
+void Fernsteuerung::Leiste_angeklickt(int x) {
+    const float Breite = static_cast<float>(WinAmp_Position.breite()) / 100.0F;
+    if (Breite <= 0) return;
+    const Long Prozent = gerundet(static_cast<float>(x) / Breite);
+    const float Schritt = static_cast<float>(WinAmp_Position.max()) / 100.0F;
+    winamp_.springen(std::nearbyint(Schritt * static_cast<float>(Prozent)));
+}
+
+void Fernsteuerung::anzeigen() {
+    if (!sichtbar() || !winamp_.WinAmp_da) return;
+    const Long Sekunde = gerundet(winamp_.Position() / 1000.0);
+    const Long Länge = winamp_.Länge();
+    const Text zeit =
+        einstellungen_.WinAmp_Zeit_vorwärts ? Spielzeit(Sekunde) : "-" + Spielzeit(static_cast<long long>(Länge) - Sekunde);
+    switch (winamp_.WinAmp_Status) {
+        case Status_spielt: WinAmp_Zeit.beschriftung(zeit); break;
+        case Status_Pause: WinAmp_Zeit.beschriftung("|| " + zeit); break;
+        default: WinAmp_Zeit.beschriftung("STOP"); break;
+    }
+    // The two steps differ on purpose: without a song the slider is cut even under the user's hand.
+    if (Länge < 1) {
+        WinAmp_Position.bereich(0, 1);
+    } else if (!Position_.gehalten()) {
+        WinAmp_Position.bereich(0, Länge);
+        WinAmp_Position.wert(Sekunde);
+    }
+    if (zurück_.gehalten()) winamp_.Befehl(WinAmp_Code_zurück);
+    if (vor_.gehalten()) winamp_.Befehl(WinAmp_Code_vor);
+}
+
+}  // namespace tonkartei
