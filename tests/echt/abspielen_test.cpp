@@ -109,5 +109,50 @@ TEST_F(Abspielen, Autoplay_durch_drei_Lieder_und_zwei_tote_Spieler) {
     EXPECT_EQ(b->bereit(), "ende");
 }
 
+TEST_F(Abspielen, Fernsteuerung) {
+    lege(2, 60);
+    starte({"WinAmp Fernsteuerung animiert=False"});
+    hände({"maus Tonkartei.WinAmp_Show", "wähle Tonkartei.Liste 0", "klick Tonkartei.Lied_starten"});
+    const auto zeit = [&] { return b->text("Tonkartei.WinAmp_Zeit"); };
+    const auto position = [&] {
+        const auto s = spieler();
+        return s.is_null() ? -1 : s["position"].get<int>();
+    };
+    // Two ticks, and what a loaded machine takes.
+    const auto folgt = [&](auto bedingung) { return bald(bedingung, 2); };
+    EXPECT_TRUE(folgt([&] { return zeit() == "00:01" || zeit() == "00:02"; })) << zeit();
+    EXPECT_EQ(b->zeige("Tonkartei.WinAmp_Position")["max"], 60);
+    hand("klick Tonkartei.Winamp_Pause");
+    EXPECT_TRUE(folgt([&] { return zeit().starts_with("|| 00:"); })) << zeit();
+    hand("klick Tonkartei.Winamp_Pause");
+    EXPECT_TRUE(folgt([&] { return zeit().starts_with("00:"); })) << zeit();
+    hand("setze Tonkartei.WinAmp_Position 20");
+    EXPECT_TRUE(folgt([&] { return position() >= 20000 && zeit() >= "00:20"; })) << position();
+    // Each tick winds by five seconds.
+    hände({"drücke Tonkartei.WinAmp_vor", "warte 1300", "loslasse Tonkartei.WinAmp_vor"});
+    EXPECT_TRUE(folgt([&] { return position() >= 30000; })) << position();
+    hände({"drücke Tonkartei.WinAmp_zurück", "warte 1300", "loslasse Tonkartei.WinAmp_zurück"});
+    EXPECT_TRUE(folgt([&] { return position() < 30000; })) << position();
+    // Once more if the first press met a change of the second.
+    for (int i = 0; i < 2 && position() > 9000; ++i) {
+        hand("klick Tonkartei.WinAmp_zurück");
+        folgt([&] { return position() < 9000; });
+    }
+    EXPECT_TRUE(folgt([&] { return zeit() < "00:09"; })) << zeit();
+    hand("klick Tonkartei.WinAmp_Zeit");
+    EXPECT_TRUE(folgt([&] { return zeit().starts_with("-00:5"); })) << zeit();
+    hand("setze Tonkartei.WinAmp_Vol 50");
+    EXPECT_EQ(spieler()["lautstärke"], 127);
+    hand("klick Tonkartei.WinAmp_Stop");
+    EXPECT_TRUE(folgt([&] { return zeit() == "STOP"; })) << zeit();
+    hand("klick Tonkartei.WinAmp_Play");
+    EXPECT_TRUE(folgt([&] { return zeit().starts_with("-00:5") || zeit() == "-01:00"; })) << zeit();
+    töten();
+    hände({"warte 1100", "klick Tonkartei.WinAmp_Stop"});
+    EXPECT_TRUE(spieler().is_null());
+    hände({"wähle Tonkartei.Liste 1", "klick Tonkartei.Lied_starten"});
+    EXPECT_TRUE(folgt([&] { return zeit() == "-00:59" || zeit() == "-00:58"; })) << "the new player: " << zeit();
+}
+
 }  // namespace
 }  // namespace tonkartei
