@@ -177,6 +177,15 @@ ansichten() {
     tu "klick Tonkartei.zeige_Info"
     bild Infofenster "info$anhang"
     tu "klick Infofenster.Ok"
+    echo "== What is under the mouse, the remote control"
+    tu "maus Tonkartei.Liste"
+    bild Tonkartei "maus_liste$anhang"
+    tu "maus Tonkartei.WinAmp_Show"
+    erwarte Tonkartei.WinAmp_Frame '"sichtbar":true'
+    tu "maus Tonkartei.WinAmp_Play"
+    bild Tonkartei "fernsteuerung$anhang"
+    tu "maus Tonkartei.Schnellsuche"
+    erwarte Tonkartei.WinAmp_Frame '"sichtbar":false'
     tu "klick Tonkartei.Anz_Kat_Schemas(2)"
     tu "rechtsklick Tonkartei.SysTray"
     bild Kontextmenüs.Tray_Menü "menue_tray$anhang"
@@ -211,7 +220,17 @@ lesen
 printf '    %s' "$antwort" | head -n 1 | head -c 300
 case $antwort in *'"status":1'*) ;; *) echo "    the player does not play"; fehler=1 ;; esac
 echo
-tu "warte 3500"
+tu "maus Tonkartei.WinAmp_Show"
+tu "warte 1500"
+erwarte Tonkartei.WinAmp_Zeit '"text":"00:0'
+erwarte Tonkartei.WinAmp_Position '"max":18'
+bild Tonkartei "fernsteuerung_spielt"
+tu "klick Tonkartei.Winamp_Pause"
+tu "warte 700"
+erwarte Tonkartei.WinAmp_Zeit '"text":"|| 00:0'
+tu "klick Tonkartei.WinAmp_Play"
+tu "maus Tonkartei.Liste"
+tu "warte 1300"
 tu "wähle Tonkartei.Liste 1"
 tu "klick Tonkartei.Lied_starten"
 tu "warte 500"

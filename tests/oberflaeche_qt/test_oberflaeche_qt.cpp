@@ -61,13 +61,64 @@ TEST_F(Desktop, ButtonRunsItsHandlerInTheOrderOfAHand) {
     fenster.Ok.Klick.verbinden([&] { folge += "k"; });
     Klick(widget<QWidget>(fenster.Ok));
     EXPECT_EQ(folge, "dlk");
+    Taste_auf(widget<QWidget>(fenster.Ok), Qt::Key_Space, " ");
+    EXPECT_EQ(folge, "dlk?lk") << "a key presses at no place";
     fenster.Ok.aktiv(false);  // not yet on the screen: the model counts
     Klick(widget<QWidget>(fenster.Ok));
-    EXPECT_EQ(fenster.ok, 1);
+    EXPECT_EQ(fenster.ok, 2);
     fenster.Ok.aktiv(true);
     fenster.aktiv(false);
     Klick(widget<QWidget>(fenster.Ok));
-    EXPECT_EQ(fenster.ok, 1);
+    EXPECT_EQ(fenster.ok, 2);
+}
+
+// A release that a box took away is made up for by the next that is heard of the mouse.
+TEST_F(Desktop, APressDoesNotOutliveTheMouseButton) {
+    int gehalten = 0;
+    fenster.Vor.Gedrückt.verbinden([&](int, int) { ++gehalten; });
+    fenster.Vor.Losgelassen.verbinden([&](int, int) { --gehalten; });
+    auto& knopf = widget<QWidget>(fenster.Vor);
+    Maus(knopf, QEvent::MouseButtonPress, {5, 5});
+    Maus(knopf, QEvent::MouseMove, {6, 6}, Qt::NoButton);
+    EXPECT_EQ(gehalten, 0);
+    Maus(knopf, QEvent::MouseButtonPress, {5, 5});
+    fenster.Vor.aktiv(false);
+    Maus(knopf, QEvent::MouseButtonRelease, {5, 5});
+    EXPECT_EQ(gehalten, 0);
+}
+
+TEST_F(Desktop, EveryKindShowsItsGroundAndHearsTheMouse) {
+    constexpr QRgb Ton = 0xff96c8ff;
+    for (Element* element : fenster.elemente()) {
+        if (element->art() == Elementart::Menü || !element->aktiv()) continue;
+        auto& w = widget<QWidget>(*element);
+        const auto punkte = [&](Farbe grund) {
+            element->hintergrund(grund);
+            abgleichen();
+            const QImage bild = w.grab().toImage().convertToFormat(QImage::Format_RGB32);
+            int anzahl = 0;
+            for (int stelle = 0; stelle < bild.width() * bild.height(); ++stelle)
+                anzahl += bild.pixel(stelle % bild.width(), stelle / bild.width()) == Ton;
+            return anzahl;
+        };
+        if (element->art() != Elementart::Balken) {
+            EXPECT_GT(punkte(RGB(0x96, 0xc8, 0xff)), 20) << element->Name();
+        }
+        for (Element* kind : fenster.elemente()) {
+            if (kind->rahmen() != element) continue;
+            EXPECT_NE(widget<QWidget>(*kind).palette().color(QPalette::Base).rgb(), Ton) << kind->Name();
+        }
+        EXPECT_EQ(punkte(Farbe_Standard), 0) << element->Name();
+
+        int bewegt = 0;
+        element->Mausbewegung.verbinden([&bewegt] { ++bewegt; });
+        auto* rollend = qobject_cast<QAbstractScrollArea*>(&w);
+        QWidget& fläche = rollend == nullptr ? w : *rollend->viewport();
+        Maus(fläche, QEvent::MouseMove, {2, 2}, Qt::NoButton);
+        EXPECT_EQ(bewegt, 1) << element->Name();
+        EXPECT_TRUE(fläche.hasMouseTracking()) << element->Name();
+        element->Mausbewegung = {};
+    }
 }
 
 TEST_F(Desktop, BoxesAndOptionsShowTheModelsValueEvenIfAHandlerTakesItBack) {

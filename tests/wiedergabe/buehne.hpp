@@ -60,7 +60,7 @@ public:
         std::int32_t Status = 1;  // as answered
     };
     static constexpr Hwnd Schreibtisch = 1;
-    static constexpr std::int32_t Position = 61500, Länge = 200;
+    std::int32_t Position = 61500, Länge = 200;  // as answered: milliseconds, seconds
 
     explicit Fenster_Bühne(Aufzeichnung& aufzeichnung) : aufzeichnung_(aufzeichnung) {}
     std::vector<Eintrag> Fenster;  // in window order

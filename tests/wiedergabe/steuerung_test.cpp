@@ -17,8 +17,8 @@ TEST(Winamp_Steuerung, jeder_Ruf_ist_eine_Nachricht) {
     steuerung.WinAmp_Befehl_Standard(40047);
     steuerung.verstecken(9);
     steuerung.zeigen(9);
-    EXPECT_EQ(steuerung.WinAmp_Position_lesen(9), Fenster_Bühne::Position);
-    EXPECT_EQ(steuerung.WinAmp_Länge_lesen(9), Fenster_Bühne::Länge);
+    EXPECT_EQ(steuerung.WinAmp_Position_lesen(9), fenster.Position);
+    EXPECT_EQ(steuerung.WinAmp_Länge_lesen(9), fenster.Länge);
     EXPECT_EQ(steuerung.WinAmp_Standard_Fenster(), 9);
     steuerung.Fenster_schließen(9);
     EXPECT_EQ(protokoll, (Aufzeichnung{"senden 9 273 40045 0", "senden 9 1024 63000 106", "senden 9 273 40047 0",

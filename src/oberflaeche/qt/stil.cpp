@@ -120,7 +120,8 @@ void Schieber_malen(const QProxyStyle& stil, const QStyleOptionSlider& option, Q
 void Bildlauf_malen(const QProxyStyle& stil, const QStyleOptionSlider& option, QPainter& maler, const QWidget* widget) {
     const bool liegend = option.orientation == Qt::Horizontal;
     const bool beweglich = option.maximum > option.minimum && hat(option, QStyle::State_Enabled);
-    maler.fillRect(option.rect, QColor(0xee, 0xf1, 0xf4));
+    const bool eigener_Grund = widget != nullptr && widget->autoFillBackground();
+    maler.fillRect(option.rect, eigener_Grund ? option.palette.color(QPalette::Window) : QColor(0xee, 0xf1, 0xf4));
     const auto teil = [&](QStyle::SubControl was) {
         return QRectF(stil.subControlRect(QStyle::CC_ScrollBar, &option, was, widget));
     };
