@@ -161,7 +161,8 @@ void Fernsteuerung::anzeigen() {
         case Status_Pause: WinAmp_Zeit.beschriftung("|| " + zeit); break;
         default: WinAmp_Zeit.beschriftung("STOP"); break;
     }
-    // The two steps differ on purpose: without a song the slider is cut even under the user's hand.
+    // The two steps differ on purpose: without a song the slider is cut even under the user's hand. Its value is not set
+    // then; it goes only as far as the new range makes it.
     if (Länge < 1) {
         WinAmp_Position.bereich(0, 1);
     } else if (!Position_.gehalten()) {
