@@ -236,6 +236,21 @@ tu "klick Tonkartei.Lied_starten"
 tu "warte 500"
 tu "wähle Tonkartei.Liste 0"
 erwarte Tonkartei.Anzahl '"text":"1"'
+echo "== Autoplay, in order: two songs come to their end"
+tu "wähle Tonkartei.Liste 1"
+tu "klick Tonkartei.Autoplay_Random"
+tu "klick Tonkartei.Autoplay"
+tu "maus Tonkartei.WinAmp_Show"
+for zeile in 2 3; do
+    tu "setze Tonkartei.WinAmp_Position 17"
+    tu "warte 3500"
+    erwarte Tonkartei.Liste "\"gewählt\":$zeile"
+done
+erwarte Tonkartei.WinAmp_Zeit '"text":"00:0'
+bild Tonkartei "autoplay"
+tu "klick Tonkartei.Autoplay"
+tu "klick Tonkartei.zeige_Random_Liste"
+erwarte Tonkartei.Liste_Anzahl '"text":"4"'
 tu "klick Tonkartei.Menü_WinAmp_Beenden(2)"
 ende
 alben_anlegen "$arbeit/sammlungen/Tour"
