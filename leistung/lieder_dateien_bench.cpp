@@ -34,7 +34,7 @@ struct Kein_Korb : Papierkorb {
 class Zugang {
 public:
     static constexpr int Anzahl = 1000;
-    static constexpr std::size_t Länge = 256U << 10U;
+    static constexpr std::size_t Länge = 512U << 10U;
 
     explicit Zugang(std::string ordner) : ordner_(std::move(ordner)) {
         fs::create_directories(ordner_ + "neu");
@@ -109,7 +109,7 @@ long Systemaufrufe(const std::vector<std::string>& pfade) {
 int main() {
     const Sammlung sammlung;
     Zugang zugang(sammlung.Ordner());
-    Verhältnisse beim_Hinzufügen(5);
+    Verhältnisse beim_Hinzufügen(3);
     beim_Hinzufügen.davor = [&] { zugang.neuer_Ordner(); };
     beim_Hinzufügen.höchstens(
         "Hinzufügen von 1000 Dateien", 1.2, "Kopieren mit Systemaufrufen", [&] { return zugang.durch_uns(); },
@@ -123,7 +123,7 @@ int main() {
     Stumme_Ansicht ansicht;
     Fortschritts_Fenster fortschritt(ansicht);
     Lieder_einlesen einlesen(modell, mp3, fortschritt);
-    Verhältnisse beim_Einlesen;
+    Verhältnisse beim_Einlesen(31);
     beim_Einlesen.höchstens(
         "Einlesen von 5000 Liedern", 1.5, "Systemaufrufe für die Tags",
         [&] {

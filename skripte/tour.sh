@@ -99,6 +99,10 @@ rundgang() {
     bild Verzeichnis_add "verzeichnis$anhang"
     tu "klick Verzeichnis_add.Ok"
     tu "klick neue_Lieder_Liste.MP3_Tags_lesen"
+    tu "wähle neue_Lieder_Liste.gefundene_Lieder 0"
+    tu "klick neue_Lieder_Liste.Tag_ändern"
+    bild MP3_Tag_ändern "tag$anhang"
+    tu "klick MP3_Tag_ändern.Abbruch"
     bild neue_Lieder_Liste "neue_lieder$anhang"
     tu "klick neue_Lieder_Liste.Ok"
     tu "antwort Nein"
@@ -201,6 +205,31 @@ ansichten() {
     bild Tonkartei "tonkartei_schemas$anhang"
 }
 
+# Dialogs on songs; one song is added a second time, as if it came from another collection.
+dialoge() {
+    local anhang=$1 sammlung=$2
+    echo "== Songs from a date on, songs of another collection"
+    tu "klick Tonkartei.Lieder_ab_Datum"
+    bild Datum_eingeben "datum$anhang"
+    tu "klick Datum_eingeben.Abbruch"
+    tu "klick Tonkartei.add_Datenbank"
+    tu "setze Datenbank_öffnen.Pfad $arbeit/sammlungen/$sammlung"
+    bild Datenbank_öffnen "datenbank_oeffnen$anhang"
+    tu "klick Datenbank_öffnen.Ok"
+    bild DB_add_start_Kategorien "andere_kategorien$anhang"
+    tu "klick DB_add_start_Kategorien.Ok"
+    bild neue_Lieder_Liste "andere_lieder$anhang"
+    tu "klick neue_Lieder_Liste.del_alle"
+    tu "wähle neue_Lieder_Liste.gefundene_Lieder 0"
+    tu "klick neue_Lieder_Liste.add_dieses"
+    tu "klick neue_Lieder_Liste.Ok"
+    tu "antwort Ja"
+    tu "wähle DBadd_Kategorien.Liste 1"
+    bild DBadd_Kategorien "kategorien_zuordnen$anhang"
+    tu "klick DBadd_Kategorien.Ok"
+    erwarte Tonkartei.Liste_Anzahl '"text":"7"'
+}
+
 rundgang "" Tour
 echo "== Sorting, searching, categories"
 tu "klick Tonkartei.sortieren(1)"
@@ -259,6 +288,7 @@ starten
 erwarte Tonkartei.Liste_Anzahl '"text":"6"'
 ansichten ""
 erwarte Tonkartei.Anzahl '"text":"1"'
+dialoge "" Tour
 ende
 [ -f "$arbeit/sammlungen/Tour/MP3_Info.MDB" ] || { echo "no info file was saved"; fehler=1; }
 [ ! -e "$arbeit/sammlungen/Tour/MP3_Info.DBG" ] || { echo "the access file stayed behind"; fehler=1; }
@@ -272,6 +302,7 @@ ende
 alben_anlegen "$arbeit/sammlungen/Doppelt"
 starten
 ansichten "@2x"
+dialoge "@2x" Doppelt
 ende
 
 echo

@@ -66,7 +66,8 @@ Text Zahltext(long long wert) { return std::to_string(wert); }
 Text Zahl_mit_Nullen(long long Wert, int Stellen) {
     const Text ziffern = Zahltext(Wert);
     if (ziffern.size() > static_cast<std::size_t>(Stellen)) return {};
-    return Text(static_cast<std::size_t>(Stellen) - ziffern.size(), '0') + ziffern;
+    Text text(static_cast<std::size_t>(Stellen), '0');
+    return text.replace(text.size() - ziffern.size(), ziffern.size(), ziffern);
 }
 
 int Prozent(double Anteil, double Gesamt) {

@@ -1,5 +1,7 @@
 #include "lieder/lieder_hinzufuegen.hpp"
 
+#include <unordered_set>
+
 #include "datenbank/version.hpp"
 #include "grundlagen/codepage.hpp"
 #include "oberflaeche/ansicht.hpp"
@@ -8,8 +10,27 @@ namespace tonkartei {
 namespace {
 
 constexpr int Fehler_Dateiende = 62;
+// No system knows longer ones.
+constexpr std::size_t Pfadlänge_maximal = 65535;
 
 bool ist_MP3_Name(const Text& name) { return groß(rechts(name, 4)) == ".MP3"; }
+
+// The names in a folder. A list may be millions of lines that are no files, and a look at the disk for each takes long.
+class Namen_im_Ordner {
+public:
+    Namen_im_Ordner(Dateisystem& dateien, const Text& ordner) {
+        try {
+            for (const Dateisystem::Eintrag& eintrag : dateien.auflisten(ordner)) namen_.insert(groß(eintrag.Name));
+        } catch (const Dateifehler&) {
+            bekannt_ = false;  // one may know a file in it all the same
+        }
+    }
+    bool vielleicht_da(const Text& name) const { return !bekannt_ || namen_.contains(groß(name)); }
+
+private:
+    std::unordered_set<Text> namen_;
+    bool bekannt_ = true;
+};
 
 }  // namespace
 
@@ -57,15 +78,18 @@ void Lieder_hinzufügen::Lieder_hinzufügen_Playlist() {
 // Value by value, so that a path with a comma falls apart; what is no file (comments, pieces) drops out by itself.
 void Lieder_hinzufügen::Playlist_lesen(const Text& datei, int nummer) {
     const Text ordner = Ordner_von(datei);
+    const Namen_im_Ordner nebenan(dateien_, ordner);
     while (!kanäle_.am_Ende(nummer)) {
         Text pfad;
         try {
-            pfad = kanäle_.lese_Rohwert(nummer);
+            pfad = kanäle_.lese_Rohwert(nummer, Pfadlänge_maximal);
         } catch (const Dateifehler& fehler) {
             if (fehler.Nummer() != Fehler_Dateiende) throw;
             return;  // blanks alone before the end
         }
-        if (pfad.find('\0') != Text::npos) continue;  // would name another file than it says
+        // Nothing, or a name that the system would take for a shorter one.
+        if (pfad.empty() || pfad.find('\0') != Text::npos) continue;
+        if (pfad.find(Trenner) == Text::npos && !nebenan.vielleicht_da(pfad)) continue;
         if (!ist_absolut(pfad)) pfad.insert(0, ordner);
         // Asked first, since a failed opening costs far more, and a list may be nothing but lines that are no files.
         if (dateien_.Datei_da(pfad) && Länge_wenn_lesbar(pfad) >= 0) liste_.add_Lied(pfad);

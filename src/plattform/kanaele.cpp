@@ -159,7 +159,7 @@ std::string_view Kanäle::Zeile(Kanal& kanal) {
     }
 }
 
-std::string_view Kanäle::Wert(Kanal& kanal) {
+std::string_view Kanäle::Wert(Kanal& kanal, std::size_t höchstens) {
     if (kanal.stelle == kanal.ende && !nachfüllen(kanal)) throw Dateifehler(62, kanal.pfad);
     do {
         while (kanal.stelle < kanal.ende && kanal.puffer[kanal.stelle] == ' ') ++kanal.stelle;
@@ -173,6 +173,9 @@ std::string_view Kanäle::Wert(Kanal& kanal) {
         if (kanal.stelle + länge < kanal.ende) {
             // Whether a LF follows a CR must be known before the view is taken, since refilling moves the bytes.
             if (kanal.puffer[kanal.stelle + länge] != '\r' || kanal.stelle + länge + 1 < kanal.ende) break;
+        } else if (länge > höchstens) {
+            länge = höchstens;
+            kanal.ende = kanal.stelle + länge;
         }
         if (!nachfüllen(kanal)) break;
     }
@@ -187,7 +190,9 @@ std::string_view Kanäle::Wert(Kanal& kanal) {
 
 Text Kanäle::lese_Zeile(int nummer) { return als_Text(Zeile(zum_Lesen(nummer))); }
 Text Kanäle::lese_Wert(int nummer) { return als_Text(Wert(zum_Lesen(nummer))); }
-std::string Kanäle::lese_Rohwert(int nummer) { return std::string(Wert(zum_Lesen(nummer))); }
+std::string Kanäle::lese_Rohwert(int nummer, std::size_t höchstens) {
+    return std::string(Wert(zum_Lesen(nummer), höchstens));
+}
 std::string Kanäle::lese_Rohzeile(int nummer) { return std::string(Zeile(zum_Lesen(nummer))); }
 Long Kanäle::lese_Long(int nummer) { return gerundet(Zahlwert(Wert(zum_Lesen(nummer)))); }
 Byte Kanäle::lese_Byte(int nummer) { return gerundet_Byte(Zahlwert(Wert(zum_Lesen(nummer)))); }

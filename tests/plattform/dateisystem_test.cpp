@@ -11,6 +11,8 @@
 #include <functional>
 
 #include "grundlagen/fehler.hpp"
+#include "plattform/linux/papierkorb_freedesktop.hpp"
+#include "plattform/linux/shell_linux.hpp"
 #include "testordner.hpp"
 
 namespace tonkartei {
@@ -243,8 +245,17 @@ TEST_F(DateisystemTest, AnderesLaufwerk) {
     EXPECT_EQ(Fehler_von([&] { dateien.umbenennen(ordner.pfad("lied"), anderer.pfad("lied")); }), 74);
     EXPECT_FALSE(dateien.gleiches_Laufwerk(ordner.pfad("noch/nicht/da"), anderer.pfad("x")));
     EXPECT_TRUE(dateien.gleiches_Laufwerk(ordner.pfad("noch/nicht/da"), ordner.pfad()));
+    const struct timespec zeiten[2] = {{1'000'000'000, 1}, {1'234'567'890, 0}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, ordner.pfad("lied").c_str(), zeiten, 0), 0);
+    const auto zeit = dateien.Änderungszeit(ordner.pfad("lied"));
     dateien.kopieren(ordner.pfad("lied"), anderer.pfad("lied"));
     EXPECT_EQ(anderer.inhalt("lied"), "abc");
+    EXPECT_EQ(dateien.Änderungszeit(anderer.pfad("lied")), zeit);
+    Shell_Vorgang zurück{FO_MOVE, 0, {anderer.pfad("lied")}, {ordner.pfad("zurück")}, {}};
+    Papierkorb_Freedesktop korb(dateien, ordner.pfad("korb"));
+    EXPECT_EQ(Shell_Linux(dateien, korb).SHFileOperationA(zurück).Rückgabe, 0);
+    EXPECT_FALSE(anderer.da("lied"));
+    EXPECT_EQ(dateien.Änderungszeit(ordner.pfad("zurück")), zeit);
 }
 
 TEST_F(DateisystemTest, BareNamenGehenInDenAktuellenOrdner) {
