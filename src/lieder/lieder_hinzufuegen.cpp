@@ -1,5 +1,6 @@
 #include "lieder/lieder_hinzufuegen.hpp"
 
+#include "datenbank/m3u.hpp"
 #include "datenbank/version.hpp"
 #include "grundlagen/codepage.hpp"
 #include "oberflaeche/ansicht.hpp"

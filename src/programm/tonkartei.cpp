@@ -106,11 +106,13 @@ void Tonkartei::hervorholen() {
 }
 
 void Tonkartei::bei_neuer_Größe() {
+    Größe_oder_Zustand_geändert();
     Lieder.freie_Lage();
     Tray_nachführen();
 }
 
 void Tonkartei::bei_neuem_Zustand() {
+    Größe_oder_Zustand_geändert();
     Tray_nachführen();
     minimiert(zustand() == Fensterzustand::minimiert);
 }

@@ -26,8 +26,7 @@ Wiedergabebereich::Wiedergabebereich(Fenster& fenster, Spielzählung& zählung)
     Autoplay_Random.tooltip("wählt das nächste Lied durch Zufall statt der Reihe nach");
     // Their work is not there yet.
     for (Element* element : {static_cast<Element*>(&Zufallslied_starten), static_cast<Element*>(&Zufalls_Playlist),
-                             static_cast<Element*>(&add_to_Playlist), static_cast<Element*>(&Autoplay),
-                             static_cast<Element*>(&Autoplay_Random)})
+                             static_cast<Element*>(&Autoplay), static_cast<Element*>(&Autoplay_Random)})
         element->aktiv(false);
     Lied_starten.Klick.verbinden([this] { starte_gewähltes_Lied(); });
 }
