@@ -1,50 +1,38 @@
 #include "alben/album_start.hpp"
 
 #include "datenbank/einstellungen.hpp"
+#include "datenbank/m3u.hpp"
 #include "datenbank/modell.hpp"
 #include "datenbank/version.hpp"
 #include "oberflaeche/ansicht.hpp"
-#include "plattform/kanaele.hpp"
 
 namespace tonkartei {
 
-Album_Start::Album_Start(Modell& modell, const Einstellungen& einstellungen, const Alben& alben, Kanäle& kanäle,
+Album_Start::Album_Start(Modell& modell, const Einstellungen& einstellungen, const Alben& alben, const M3U& m3u,
                          Ansicht& ansicht)
-    : modell_(modell), einstellungen_(einstellungen), alben_(alben), kanäle_(kanäle), ansicht_(ansicht) {}
+    : modell_(modell), einstellungen_(einstellungen), alben_(alben), m3u_(m3u), ansicht_(ansicht) {}
 
 void Album_Start::starte_Album(Long Nr) {
     if (Nr < 1) return;
     const Text datei = einstellungen_.WinAmp_Verzeichnis + Playlist_Datei_Name;
-    int lieder = 0;
+    const std::vector<Long> lieder = vorhandene_Lieder(alben_.eigene.Alben[Nr]);
     try {
-        lieder = Liste_schreiben(datei, alben_.eigene.Alben[Nr]);
+        m3u_.schreiben(datei, lieder);
     } catch (const Dateifehler& fehler) {
         modell_.Meldung = fehler.Beschreibung() + Text(CRCR) + anzeigbar(datei);
         ansicht_.informieren(Programmtitel, modell_.Meldung);
         return;
     }
-    if (lieder == 0)
+    if (lieder.empty())
         ansicht_.informieren("Album starten", "In der Datenbank sind keine Lieder dieses Albums vorhanden!");
     else
         starte_WinAmp_Liste(datei);
 }
 
-// How many songs the list has.
-int Album_Start::Liste_schreiben(const Text& datei, const Album& album) {
-    int lieder = 0;
-    const int nummer = kanäle_.öffnen_zum_Schreiben(datei);
-    try {
-        for (int t = 1; t <= album.Titel_Anzahl; ++t) {
-            const Long nr = Lied_von(modell_, album.Lieder[t]);
-            if (nr < 1) continue;
-            kanäle_.schreibe_Rohzeile(nummer, modell_.Lied_Pfad(nr));
-            ++lieder;
-        }
-        kanäle_.schließen(nummer);
-    } catch (...) {
-        kanäle_.aufgeben(nummer);
-        throw;
-    }
+std::vector<Long> Album_Start::vorhandene_Lieder(const Album& album) const {
+    std::vector<Long> lieder;
+    for (int t = 1; t <= album.Titel_Anzahl; ++t)
+        if (const Long nr = Lied_von(modell_, album.Lieder[t]); nr > 0) lieder.push_back(nr);
     return lieder;
 }
 

@@ -2,22 +2,20 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include "alben/alben.hpp"
 
 namespace tonkartei {
 
 class Ansicht;
-class Kanäle;
+class M3U;
 struct Einstellungen;
 struct Modell;
 
-// Lies in the player's folder; each list that is handed over replaces the one before.
-inline constexpr const char* Playlist_Datei_Name = "Tonkartei-Playlist.M3U";
-
 class Album_Start {
 public:
-    Album_Start(Modell& modell, const Einstellungen& einstellungen, const Alben& alben, Kanäle& kanäle, Ansicht& ansicht);
+    Album_Start(Modell& modell, const Einstellungen& einstellungen, const Alben& alben, const M3U& m3u, Ansicht& ansicht);
 
     // Writes the album's songs that the collection has into the list file and starts it. A number below 1 does nothing; no
     // count changes.
@@ -27,12 +25,12 @@ public:
     std::function<void(const Text& Datei)> starte_WinAmp_Liste = [](const Text&) {};
 
 private:
-    int Liste_schreiben(const Text& datei, const Album& album);
+    std::vector<Long> vorhandene_Lieder(const Album& album) const;
 
     Modell& modell_;
     const Einstellungen& einstellungen_;
     const Alben& alben_;
-    Kanäle& kanäle_;
+    const M3U& m3u_;
     Ansicht& ansicht_;
 };
 

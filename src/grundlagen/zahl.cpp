@@ -63,6 +63,13 @@ double Zahlwert(std::string_view text) {
 
 Text Zahltext(long long wert) { return std::to_string(wert); }
 
+Text Zahl_mit_Punkten(long long wert) {
+    Text text = Zahltext(wert);
+    const std::size_t erste_Ziffer = wert < 0 ? 1 : 0;
+    for (std::size_t i = text.size(); i > erste_Ziffer + 3;) text.insert(i -= 3, 1, '.');
+    return text;
+}
+
 Text Zahl_mit_Nullen(long long Wert, int Stellen) {
     const Text ziffern = Zahltext(Wert);
     if (ziffern.size() > static_cast<std::size_t>(Stellen)) return {};

@@ -26,6 +26,9 @@ double Zahlwert(std::string_view text);
 // Decimal digits, with "-" in front if negative.
 Text Zahltext(long long wert);
 
+// With a point before every three digits: "1.234.567".
+Text Zahl_mit_Punkten(long long wert);
+
 // Padded with "0" to `Stellen` digits. A number with more digits gives an empty text.
 Text Zahl_mit_Nullen(long long Wert, int Stellen);
 

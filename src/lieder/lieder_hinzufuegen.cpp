@@ -2,6 +2,7 @@
 
 #include <unordered_set>
 
+#include "datenbank/m3u.hpp"
 #include "datenbank/version.hpp"
 #include "grundlagen/codepage.hpp"
 #include "oberflaeche/ansicht.hpp"
@@ -9,7 +10,6 @@
 namespace tonkartei {
 namespace {
 
-constexpr int Fehler_Dateiende = 62;
 // No system knows longer ones.
 constexpr std::size_t Pfadlänge_maximal = 65535;
 
@@ -79,14 +79,8 @@ void Lieder_hinzufügen::Lieder_hinzufügen_Playlist() {
 void Lieder_hinzufügen::Playlist_lesen(const Text& datei, int nummer) {
     const Text ordner = Ordner_von(datei);
     const Namen_im_Ordner nebenan(dateien_, ordner);
-    while (!kanäle_.am_Ende(nummer)) {
-        Text pfad;
-        try {
-            pfad = kanäle_.lese_Rohwert(nummer, Pfadlänge_maximal);
-        } catch (const Dateifehler& fehler) {
-            if (fehler.Nummer() != Fehler_Dateiende) throw;
-            return;  // blanks alone before the end
-        }
+    while (const auto wert = kanäle_.nächster_Rohwert(nummer, Pfadlänge_maximal)) {
+        Text pfad(*wert);
         // Nothing, or a name that the system would take for a shorter one.
         if (pfad.empty() || pfad.find('\0') != Text::npos) continue;
         if (pfad.find(Trenner) == Text::npos && !nebenan.vielleicht_da(pfad)) continue;

@@ -1,6 +1,10 @@
 #include "lieder/neue_playlist.hpp"
 
+#include <memory>
+
+#include "datenbank/m3u.hpp"
 #include "datenbank/version.hpp"
+#include "grundlagen/versuchen.hpp"
 #include "oberflaeche/ansicht.hpp"
 
 namespace tonkartei {
@@ -12,22 +16,17 @@ void Neue_Playlist::erstellen(Begleitung& begleitung) {
     wahl.filter = Playlist_Filter;
     const Text datei = ansicht_.Datei_wählen(wahl);
     if (datei.empty()) return;
-    int nummer = 0;
+    std::shared_ptr<M3U_Datei> liste;
     try {
-        nummer = kanäle_.öffnen_zum_Schreiben(datei);
+        liste = std::make_shared<M3U_Datei>(modell_, kanäle_, datei);
     } catch (const Dateifehler& fehler) {
         ansicht_.informieren(Programmtitel, fehler.Beschreibung() + Text(CRCR) + anzeigbar(datei));
         return;
     }
-    begleitung.Playlist_Zeile = [this, nummer](Long Nr) { kanäle_.schreibe_Rohzeile(nummer, modell_.Lied_Pfad(Nr)); };
-    begleitung.Abschluss = [this, nummer] {
-        try {
-            kanäle_.schließen(nummer);
-        } catch (const Dateifehler&) {
-            // Lines wait in the buffer, so a full disk may show only here.
-            kanäle_.aufgeben(nummer);
+    begleitung.Playlist_Zeile = [liste](Long Nr) { liste->Lied(Nr); };
+    begleitung.Abschluss = [this, liste] {
+        if (!versuchen([&] { liste->fertig(); }))
             ansicht_.informieren("Playlist erstellen", "Es ist ein Fehler beim erstellen der Playlist aufgetreten!");
-        }
     };
 }
 

@@ -15,9 +15,6 @@ enum class Übernahmeart : Byte { kopieren = 1, bewegen = 2 };
 inline constexpr Byte Quelle_Dateien = 1;  // files of a folder or of a list file
 inline constexpr Byte Quelle_Datenbank = 2;
 
-// For the file dialogs of list files.
-inline constexpr const char* Playlist_Filter = "WinAmp-Playlist (*.M3U)|*.M3U| Alle Dateien (*.*) |*.*";
-
 // A file that was found and is to become a song.
 struct Lied_Fund {
     Text Pfad;

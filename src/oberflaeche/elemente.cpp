@@ -98,6 +98,19 @@ void Regler::Startwerte_setzen() {
     wert_ = start_wert_;
 }
 
+void Dreistufer::wert(int neu) {
+    neu = std::clamp(neu, oben_Stufe, unten_Stufe);
+    if (wert_ == neu) return;
+    wert_ = neu;
+    melden(Änderung_Wert);
+    Geändert();
+}
+
+void Dreistufer::Startwerte_setzen() {
+    Element::Startwerte_setzen();
+    wert_ = Ruhe;
+}
+
 void Balken::wert(int neu) {
     if (wert_ == neu) return;
     wert_ = neu;

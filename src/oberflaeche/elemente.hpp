@@ -110,6 +110,24 @@ private:
     int start_min_ = 0, start_max_ = 0, start_wert_ = 0;
 };
 
+// Up-down switch of three positions that its handler brings back to the middle: 1 up, 2 at rest, 3 down.
+class Dreistufer : public Element {
+public:
+    static constexpr int oben_Stufe = 1, Ruhe = 2, unten_Stufe = 3;
+    Dreistufer(Fenster& f, Text name, int index = ohne_Index)
+        : Element(f, Elementart::Dreistufer, std::move(name), {}, index) {}
+    int wert() const noexcept { return wert_; }
+    // Held to the three positions. Raises Geändert when it changes.
+    void wert(int neu);
+    Ereignis<> Geändert;
+    // Only its arrows do something.
+    void von_Hand_klicken() override {}
+    void Startwerte_setzen() override;
+
+private:
+    int wert_ = Ruhe;
+};
+
 // Frame with a title; without one a bare panel.
 class Rahmen : public Element {
 public:

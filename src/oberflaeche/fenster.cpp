@@ -126,6 +126,7 @@ void Fenster::größe(int breite, int höhe) {
 void Fenster::von_Hand_bewegt(int links, int oben) {
     lage_.links = links;
     lage_.oben = oben;
+    if (geladen_) bei_neuer_Lage();
 }
 
 void Fenster::von_Hand_bemessen(int breite, int höhe) {

@@ -99,6 +99,7 @@ protected:
     virtual bool beim_Schließen(Schließgrund) { return true; }
     virtual void beim_Entladen() {}
     virtual void bei_neuer_Größe() {}
+    virtual void bei_neuer_Lage() {}  // moved by hand
     virtual void bei_neuem_Zustand() {}
     // The layout has given the controls their places, perhaps the same as before.
     virtual void bei_neuer_Anordnung() {}

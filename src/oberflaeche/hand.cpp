@@ -40,6 +40,10 @@ bool Wahl_verschieben(Element& element, int schritt) {
         schieben(regler, regler.wert() - schritt);
         return true;
     }
+    if (element.art() == Elementart::Dreistufer) {
+        schieben(element, Dreistufer::Ruhe + schritt);
+        return true;
+    }
     return false;
 }
 
@@ -101,6 +105,7 @@ void schreiben(Element& element, const Text& text) {
 
 void schieben(Element& element, int wert) {
     if (element.art() == Elementart::Regler) static_cast<Regler&>(element).von_Hand_schieben(wert);
+    if (element.art() == Elementart::Dreistufer) static_cast<Dreistufer&>(element).wert(wert);
 }
 
 void Taste_drücken(Element& element, Taste taste) {

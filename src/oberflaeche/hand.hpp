@@ -19,6 +19,7 @@ void rechtsklicken(Element& element, int zeile);
 void wählen(Element& element, int zeile);
 // Types a whole text into a text field, character by character where handlers listen to keys.
 void schreiben(Element& element, const Text& text);
+// Moves a slider, or works an up-down switch.
 void schieben(Element& element, int wert);
 // A key while the control has the focus: its handlers first, then the usual effect (Return and Escape press the window's
 // default and cancel button, arrows move a choice, Alt+x an access key, characters go into text fields).

@@ -159,27 +159,34 @@ std::string_view Kanäle::Zeile(Kanal& kanal) {
     }
 }
 
-std::string_view Kanäle::Wert(Kanal& kanal, std::size_t höchstens) {
-    if (kanal.stelle == kanal.ende && !nachfüllen(kanal)) throw Dateifehler(62, kanal.pfad);
+// Behind the blanks; false at the end of the file. Blanks alone are no value: a number that was cut off in front of its
+// digits must not read as 0.
+bool Kanäle::am_Wert(Kanal& kanal) {
     do {
         while (kanal.stelle < kanal.ende && kanal.puffer[kanal.stelle] == ' ') ++kanal.stelle;
     } while (kanal.stelle == kanal.ende && nachfüllen(kanal));
-    // Blanks alone are no value: a number that was cut off in front of its digits must not read as 0.
-    if (kanal.stelle == kanal.ende) throw Dateifehler(62, kanal.pfad);
+    return kanal.stelle < kanal.ende;
+}
+
+std::string_view Kanäle::Wert(Kanal& kanal, std::size_t höchstens) {
+    if (!am_Wert(kanal)) throw Dateifehler(62, kanal.pfad);
     std::size_t länge = 0;
+    bool zu_lang = false;
     const auto am_Wertende = [](char zeichen) { return zeichen == ',' || zeichen == '\r' || zeichen == '\n'; };
     for (;;) {
         while (kanal.stelle + länge < kanal.ende && !am_Wertende(kanal.puffer[kanal.stelle + länge])) ++länge;
+        if (länge > höchstens) {
+            zu_lang = true;
+            kanal.stelle += länge;
+            länge = 0;
+        }
         if (kanal.stelle + länge < kanal.ende) {
             // Whether a LF follows a CR must be known before the view is taken, since refilling moves the bytes.
             if (kanal.puffer[kanal.stelle + länge] != '\r' || kanal.stelle + länge + 1 < kanal.ende) break;
-        } else if (länge > höchstens) {
-            länge = höchstens;
-            kanal.ende = kanal.stelle + länge;
         }
         if (!nachfüllen(kanal)) break;
     }
-    const auto wert = std::string_view(kanal.puffer).substr(kanal.stelle, länge);
+    const auto wert = std::string_view(kanal.puffer).substr(kanal.stelle, zu_lang ? 0 : länge);
     kanal.stelle += länge;
     if (kanal.stelle < kanal.ende) {
         const char trenner = kanal.puffer[kanal.stelle++];
@@ -190,8 +197,10 @@ std::string_view Kanäle::Wert(Kanal& kanal, std::size_t höchstens) {
 
 Text Kanäle::lese_Zeile(int nummer) { return als_Text(Zeile(zum_Lesen(nummer))); }
 Text Kanäle::lese_Wert(int nummer) { return als_Text(Wert(zum_Lesen(nummer))); }
-std::string Kanäle::lese_Rohwert(int nummer, std::size_t höchstens) {
-    return std::string(Wert(zum_Lesen(nummer), höchstens));
+std::optional<std::string_view> Kanäle::nächster_Rohwert(int nummer, std::size_t höchstens) {
+    Kanal& kanal = zum_Lesen(nummer);
+    if (!am_Wert(kanal)) return std::nullopt;
+    return Wert(kanal, höchstens);
 }
 std::string Kanäle::lese_Rohzeile(int nummer) { return std::string(Zeile(zum_Lesen(nummer))); }
 Long Kanäle::lese_Long(int nummer) { return gerundet(Zahlwert(Wert(zum_Lesen(nummer)))); }

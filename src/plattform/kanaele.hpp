@@ -2,8 +2,10 @@
 // Names outside the channels are Text; the conversion sits here.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -43,9 +45,9 @@ public:
     // A value: blanks before it skipped, up to a comma or any line end (CR LF, CR or LF), blanks behind it cut. Blanks alone
     // up to the end of the file are no value but the end (62). Quotes mean nothing.
     Text lese_Wert(int nummer);
-    // The same with the file's own bytes, for paths. What a value has beyond `höchstens` bytes may be missing, so that a
-    // file without line ends does not fill the memory.
-    std::string lese_Rohwert(int nummer, std::size_t höchstens);
+    // The same with the file's own bytes, for paths, and without a copy: good until the next reading; none at the end. A
+    // value of more than `höchstens` bytes comes as an empty one and is not kept in memory.
+    std::optional<std::string_view> nächster_Rohwert(int nummer, std::size_t höchstens);
     // Whole line with the file's own bytes.
     std::string lese_Rohzeile(int nummer);
     // A value taken as a number, rounded; overflow (6) outside the type, 0 for what is no number.
@@ -71,6 +73,7 @@ private:
     int öffnen(const Text& pfad, bool schreibend);
     bool nachfüllen(Kanal& kanal);
     std::string_view Zeile(Kanal& kanal);
+    bool am_Wert(Kanal& kanal);
     std::string_view Wert(Kanal& kanal, std::size_t höchstens = std::string_view::npos);
     void ausschreiben(Kanal& kanal);
     char* Platz_für_Zeile(Kanal& kanal, std::size_t länge);

@@ -1,6 +1,7 @@
 #include "programm/kontextmenues.hpp"
 
 #include "oberflaeche/ansicht.hpp"
+#include "playlist/playlist.hpp"
 #include "programm/tonkartei.hpp"
 
 namespace tonkartei {
@@ -21,12 +22,17 @@ Menüzeile Strich(int n) { return {"Tray_Strich" + Zahltext(n), "-", ohne_Index,
 
 }  // namespace
 
-Kontextmenüs::Kontextmenüs(Ansicht& ansicht, const Modell& modell, Tonkartei& haupt)
-    : Fenster(ansicht, "Kontextmenüs", "Kontextmenüs"), modell_(modell), haupt_(haupt), menü_(*this, Tabelle()) {
+Kontextmenüs::Kontextmenüs(Ansicht& ansicht, const Modell& modell, Tonkartei& haupt, Playlist& playlist)
+    : Fenster(ansicht, "Kontextmenüs", "Kontextmenüs"),
+      modell_(modell),
+      haupt_(haupt),
+      playlist_(playlist),
+      menü_(*this, Tabelle()) {
     Menü_setzen(menü_);
     haupt_.Kategorien.Tabelle_geändert.verbinden([this] { nachführen(); });
     haupt_.Wiedergabe.Autoplay.Klick.verbinden([this] { nachführen(); });
     haupt_.SysTray.Rechtsklick.verbinden([this](int) { Tray_zeigen(); });
+    playlist_.Liste.Rechtsklick.verbinden([this](int zeile) { Playlist_zeigen(zeile); });
     haupt_.Lieder.Liste.Rechtsklick.verbinden([this](int zeile) {
         if (haupt_.Lieder.Datenbank_Modus.wert() == 0) Lied_zeigen(zeile);
     });
@@ -73,7 +79,13 @@ std::vector<Menüzeile> Kontextmenüs::Tabelle() {
         Strich(4),
         wie("MP_Beenden", "Be&enden"),
     };
+    std::vector<Menüzeile> playlist{
+        {"Playlist_starten", "Playlist &starten", ohne_Index, [this] { playlist_.starten(); }, {}},
+        {"Playlist_löschen", "aktuelles löschen", ohne_Index, [this] { playlist_.aktuelles_löschen(); }, {}},
+        {"Playlist_alle_löschen", "alle löschen", ohne_Index, [this] { playlist_.alles_löschen(); }, {}},
+    };
     return {{"Lied_Menü", "Lied", ohne_Index, nullptr, std::move(lied)},
+            {"Playlist_Menü", "Playlist", ohne_Index, nullptr, std::move(playlist)},
             {"Tray_Menü", "Tonkartei", ohne_Index, nullptr, std::move(tray)}};
 }
 
@@ -116,6 +128,11 @@ void Kontextmenüs::Lied_zeigen(int zeile) {
     if (zeile >= 0 && (zeile != liste.gewählt() || haupt_.Lieder.angezeigtes_Lied() == 0)) liste.wähle(zeile);
     nachführen();
     ansicht().Menü_zeigen(menü_("Lied_Menü"));
+}
+
+void Kontextmenüs::Playlist_zeigen(int zeile) {
+    if (zeile >= 0 && zeile != playlist_.Liste.gewählt()) playlist_.Liste.wähle(zeile);
+    ansicht().Menü_zeigen(menü_("Playlist_Menü"));
 }
 
 void Kontextmenüs::Tray_zeigen() {

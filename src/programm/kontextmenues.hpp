@@ -9,17 +9,20 @@
 
 namespace tonkartei {
 
+class Playlist;
 class Tonkartei;
 struct Modell;
 
 class Kontextmenüs : public Fenster {
 public:
     // The main window has its menu already.
-    Kontextmenüs(Ansicht& ansicht, const Modell& modell, Tonkartei& haupt);
+    Kontextmenüs(Ansicht& ansicht, const Modell& modell, Tonkartei& haupt, Playlist& playlist);
 
     // Of the song under the mouse, which becomes the chosen one; -1 for none.
     void Lied_zeigen(int zeile);
     void Tray_zeigen();
+    // The same as Lied_zeigen, in the window Playlist.
+    void Playlist_zeigen(int zeile);
     // Marks, names and numbers of the entries as the window's controls and the menu bar have them.
     void nachführen();
 
@@ -32,6 +35,7 @@ private:
 
     const Modell& modell_;
     Tonkartei& haupt_;
+    Playlist& playlist_;
     Menü menü_;
 };
 

@@ -28,6 +28,7 @@ Long Lied_Befehle::Lied() const {
 
 void Lied_Befehle::neu_aufbauen() {
     t_.fenster.Lieder.aktualisiere_Liste();
+    t_.playlist_anschluss.aktualisieren();
     t_.fenster.Lieder.Schnellsuche_fokussieren();
 }
 

@@ -29,9 +29,10 @@ public:
     void alle_Anzahl_ändern();
     void Lücken_füllen();
 
-private:
     // The song that is chosen in the present tab, else the one whose details are shown; 0 none.
     Long Lied() const;
+
+private:
     // The list anew, and on with the search.
     void neu_aufbauen();
     // The same; the details of the song stand there again.

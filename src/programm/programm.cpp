@@ -16,7 +16,7 @@ void Programm::starten() { teile_->starten(); }
 Programm::Teile::Teile(const Plattform& p, Ansicht& a, const Text& Kommandozeile)
     : plattform(p), ansicht(a), parameter(Kommandozeile) {
     fenster.Menü_anlegen(Hauptmenü_Tabelle(*this));
-    kontextmenüs = std::make_unique<Kontextmenüs>(ansicht, modell, fenster);
+    kontextmenüs = std::make_unique<Kontextmenüs>(ansicht, modell, fenster, playlist);
     verbinden();
     markierung.anschließen();
 }
@@ -76,6 +76,7 @@ void Programm::Teile::verbinden() {
     lieder_entfernen.Winamp_anhalten = [this] { wiedergabe.Spieler.für_Dateiarbeit_anhalten(); };
     lied_austauschen.Lied_kopieren = [this](Long nr) { lied_kopieren.ausführen(nr); };
     lied_befehle.verbinden();
+    playlist_anschluss.verbinden();
     neue_Lieder.Tag_ändern_Dialog = [this](const Text& datei, Text& artist, Text& titel) {
         return tag_ändern.Tag_ändern(datei, artist, titel);
     };
@@ -101,7 +102,10 @@ void Programm::Teile::verbinden() {
     };
     sitzung.Lieder_einlesen = [this] { einlesen.alle_Lieder_einlesen(); };
     wartung.zeigt_Kategorie = [this](int k) { return fenster.Kategorien.zeige_Kategorie(k).wert(); };
-    lieder_eintragen.Liste_neu_aufbauen = [this] { fenster.Lieder.aktualisiere_Liste(); };
+    lieder_eintragen.Liste_neu_aufbauen = [this] {
+        fenster.Lieder.aktualisiere_Liste();
+        playlist_anschluss.aktualisieren();
+    };
 }
 
 void Programm::Teile::starten() {
@@ -121,6 +125,7 @@ void Programm::Teile::starten() {
     wiedergabe.Zählung.Startwerte_setzen();
     fenster.zeigen();
     fenster.Tray_nachführen();
+    playlist_anschluss.beim_Start();
     sitzung.Zugriffsdatei_ignorieren = parameter.hat("I");
     if (!splash.lade_erste_Datenbank()) {
         modell.Datenbank_offen = false;
@@ -139,10 +144,11 @@ void Programm::Teile::Einstellungen_setzen() {
     Einstellungs_Vorgaben vorgaben;
     vorgaben.PositionX = halbe_Differenz(schirm.breite, lage.breite);
     vorgaben.PositionY = halbe_Differenz(schirm.höhe, lage.höhe);
-    vorgaben.Playlist_Breite = gerundet(lage.breite / 2.0);
-    vorgaben.Playlist_Höhe = gerundet(lage.höhe / 2.0);
-    vorgaben.Playlist_PositionX = halbe_Differenz(schirm.breite, vorgaben.Playlist_Breite);
-    vorgaben.Playlist_PositionY = halbe_Differenz(schirm.höhe, vorgaben.Playlist_Höhe);
+    const Bereich playlist_lage = zentrierte_Playlist(fenster);
+    vorgaben.Playlist_Breite = playlist_lage.breite;
+    vorgaben.Playlist_Höhe = playlist_lage.höhe;
+    vorgaben.Playlist_PositionX = playlist_lage.links;
+    vorgaben.Playlist_PositionY = playlist_lage.oben;
     vorgaben.WinAmp_Verzeichnis = plattform.Rechner.WinAmp_Vorgabe();
     Einstellungen_lesen(registry, einstellungen, vorgaben);
     fenster.Wiedergabe.Autoplay_Random.wert(einstellungen.Random_Autoplay);
@@ -204,6 +210,7 @@ void Programm::Teile::wird_geschlossen() {
         einstellungen.PositionY = fenster.lage().oben;
     }
     einstellungen.Kategorien = fenster.Kategorien.Kategorien_Maske();
+    playlist.Hauptfenster_schließt();
     if (Einstellungen_werden_geschrieben) Einstellungen_schreiben(registry, einstellungen);
     splash.entladen();
     infofenster.entladen();

@@ -10,6 +10,7 @@
 #include "datenbank/fortschritt.hpp"
 #include "datenbank/info_datei.hpp"
 #include "datenbank/konvertierung.hpp"
+#include "datenbank/m3u.hpp"
 #include "datenbank/sitzung.hpp"
 #include "datenbank/zugriffsdatei.hpp"
 #include "kategorien/kategorie_bearbeiten.hpp"
@@ -40,10 +41,12 @@
 #include "lieder/wartung.hpp"
 #include "mp3/mp3_taghead.hpp"
 #include "plattform/kanaele.hpp"
+#include "playlist/playlist.hpp"
 #include "programm/infofenster.hpp"
 #include "programm/kontextmenues.hpp"
 #include "programm/lied_befehle.hpp"
 #include "programm/mausmarkierung.hpp"
+#include "programm/playlist_anschluss.hpp"
 #include "programm/programm.hpp"
 #include "programm/splash.hpp"
 #include "programm/startparameter.hpp"
@@ -86,7 +89,8 @@ struct Programm::Teile {
     Alben alben{plattform.Rechner, ansicht};
     Alben_Datei alben_datei{modell, alben, kanäle, plattform.Dateisystem, ansicht};
     Album_wählen album_wählen{ansicht, alben};
-    Album_Start album_start{modell, einstellungen, alben, kanäle, ansicht};
+    M3U m3u{modell, kanäle};
+    Album_Start album_start{modell, einstellungen, alben, m3u, ansicht};
     Alben_Befehle alben_befehle{modell, alben_datei, album_wählen, album_start, ansicht};
 
     Wiedergabe wiedergabe{modell, einstellungen, plattform, kanäle, ansicht};
@@ -94,6 +98,7 @@ struct Programm::Teile {
     Liedautomatik automatik{modell,     einstellungen,  plattform,          ansicht,
                             wiedergabe, fenster.Lieder, fenster.Kategorien, fenster.Wiedergabe};
     Mausmarkierung markierung{fenster, einstellungen, fenster.Fernsteuerung};
+    Playlist playlist{ansicht, modell, einstellungen, plattform.Dateisystem, m3u};
     Infofenster infofenster{ansicht, modell};
     Splash splash{ansicht, modell, einstellungen, sitzung, kanäle, plattform};
 
@@ -112,6 +117,7 @@ struct Programm::Teile {
     Lied_Anzahl lied_anzahl{modell, ansicht};
     MP3_Tag_ändern tag_ändern{ansicht, taghead};
     Lied_Befehle lied_befehle{*this};
+    Playlist_Anschluss playlist_anschluss{*this};
 
     // What the menu's handlers work with, kept for as long as the menu.
     std::shared_ptr<void> menübefehle;

@@ -110,6 +110,7 @@ void Tonkartei::hervorholen() {
 }
 
 void Tonkartei::bei_neuer_Größe() {
+    Größe_oder_Zustand_geändert();
     Lieder.freie_Lage();
     Tray_nachführen();
 }
@@ -117,6 +118,7 @@ void Tonkartei::bei_neuer_Größe() {
 void Tonkartei::bei_neuer_Anordnung() { Fernsteuerung.Lage_nachführen(); }
 
 void Tonkartei::bei_neuem_Zustand() {
+    Größe_oder_Zustand_geändert();
     Tray_nachführen();
     minimiert(zustand() == Fensterzustand::minimiert);
 }

@@ -51,6 +51,8 @@ public:
 
     // A line of the combo box of recent folders was picked by hand.
     Ereignis<const Text&> Datenbank_gewählt;
+    // Either of them, before anything follows from it.
+    Ereignis<> Größe_oder_Zustand_geändert;
     // The state went to minimised (true) or normal.
     Ereignis<bool> minimiert;
     // The collection has been loaded: what else is up before the window is rebuilt (the splash) can go.

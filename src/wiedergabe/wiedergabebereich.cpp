@@ -31,7 +31,6 @@ Wiedergabebereich::Wiedergabebereich(Fenster& fenster)
     auto_Kat_Wechsel_Setup.klein = true;
     // Their work is not there yet.
     Zufalls_Playlist.aktiv(false);
-    add_to_Playlist.aktiv(false);
 }
 
 Knoten Wiedergabebereich::anordnung(Fernsteuerung& fernsteuerung) {

@@ -8,6 +8,7 @@
 #include "alben/album_start.hpp"
 #include "alben/album_waehlen.hpp"
 #include "datenbank/einstellungen.hpp"
+#include "datenbank/m3u.hpp"
 #include "datenbank/modell.hpp"
 #include "oberflaeche/hand.hpp"
 #include "plattform/kanaele.hpp"
@@ -54,7 +55,8 @@ struct Albenbühne : testing::Test {
     Alben alben{rechner, ansicht};
     Alben_Datei datei{modell, alben, kanäle, dateien, ansicht};
     Album_wählen auswahl{ansicht, alben};
-    Album_Start start{modell, einstellungen, alben, kanäle, ansicht};
+    M3U m3u{modell, kanäle};
+    Album_Start start{modell, einstellungen, alben, m3u, ansicht};
     Alben_Befehle befehle{modell, datei, auswahl, start, ansicht};
 
     Albenbühne() {

@@ -60,6 +60,14 @@ public:
                 tun(e, [&] { Hand::schieben(e, static_cast<int>(ziel)); });
                 break;
             }
+            case Elementart::Dreistufer: {
+                Befehlszeile zahl(wert);
+                const long ziel = zahl.Zahl("Wert");
+                if (ziel != Dreistufer::oben_Stufe && ziel != Dreistufer::unten_Stufe)
+                    throw Befehlsfehler("keine Stufe, auf die eine Hand stellt: " + wert);
+                tun(e, [&] { Hand::schieben(e, static_cast<int>(ziel)); });
+                break;
+            }
             default: throw Befehlsfehler("lässt sich nicht setzen: " + e.voller_Name());
         }
     }

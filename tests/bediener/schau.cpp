@@ -82,6 +82,10 @@ void Wert_beschreiben(Json::Objekt& ziel, const Element& element) {
             ziel.mit("wert", regler.wert()).mit("min", regler.min()).mit("max", regler.max());
             break;
         }
+        case Elementart::Dreistufer:
+            ziel.mit("wert", static_cast<const Dreistufer&>(element).wert());
+            ziel.mit("min", Dreistufer::oben_Stufe).mit("max", Dreistufer::unten_Stufe);
+            break;
         case Elementart::Balken: ziel.mit("wert", static_cast<const Balken&>(element).wert()); break;
         case Elementart::Menü:
             ziel.mit("text", einheitliche_Umbrüche(element.beschriftung()));

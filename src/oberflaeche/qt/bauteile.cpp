@@ -18,9 +18,8 @@ std::unique_ptr<Bauteil> Bauteil::machen(Umfeld& umfeld, Fensterwidget& fenster,
         case Elementart::Fläche: return Fläche_machen(umfeld, fenster, element);
         case Elementart::Balken: return Balken_machen(umfeld, fenster, element);
         case Elementart::Symbol: return Symbol_machen(umfeld, fenster, element);
-        case Elementart::Menü:        // belongs to the menu bar
-        case Elementart::Dreistufer:  // has no control yet
-            break;
+        case Elementart::Dreistufer: return Dreistufer_machen(umfeld, fenster, element);
+        case Elementart::Menü: break;  // belongs to the menu bar
     }
     return nullptr;
 }

@@ -18,6 +18,7 @@ Bauteil_Zeiger Fläche_machen(Umfeld& umfeld, Fensterwidget& fenster, Element& e
 Bauteil_Zeiger Balken_machen(Umfeld& umfeld, Fensterwidget& fenster, Element& element);
 Bauteil_Zeiger Eingabe_machen(Umfeld& umfeld, Fensterwidget& fenster, Element& element);
 Bauteil_Zeiger Regler_machen(Umfeld& umfeld, Fensterwidget& fenster, Element& element);
+Bauteil_Zeiger Dreistufer_machen(Umfeld& umfeld, Fensterwidget& fenster, Element& element);
 Bauteil_Zeiger Liste_machen(Umfeld& umfeld, Fensterwidget& fenster, Element& element);
 Bauteil_Zeiger Auswahl_machen(Umfeld& umfeld, Fensterwidget& fenster, Element& element);
 Bauteil_Zeiger Reiter_machen(Umfeld& umfeld, Fensterwidget& fenster, Element& element);

@@ -120,7 +120,7 @@ struct Maße::Innen {
                 return leiste.sizeHint();
             }
             case Elementart::Balken: return QSize(240, 18);
-            case Elementart::Dreistufer: return QSize(60, maße.height() + 8);
+            case Elementart::Dreistufer: return QSize(64, maße.height() + 13);
             case Elementart::Fläche:
             case Elementart::Rahmen:
             case Elementart::Menü:
