@@ -86,8 +86,7 @@ std::vector<Menüzeile> Playlist::Tabelle() {
            "beim Programm&start öffnen...",
            ohne_Index,
            nullptr,
-           {Öffnen_beim_Start(1, "&Ja"), Öffnen_beim_Start(2, "&Nein"),
-            Öffnen_beim_Start(3, "nur, wenn beim &Ende aktiv")}},
+           {Öffnen_beim_Start(1, "&Ja"), Öffnen_beim_Start(2, "&Nein"), Öffnen_beim_Start(3, "nur, wenn beim &Ende aktiv")}},
           Befehl("AOT", "Always on &Top",
                  [this] {
                      bool& oben = einstellungen_.Playlist_Always_on_top;
@@ -124,8 +123,7 @@ Größe Playlist::Startgröße() {
 void Playlist::beim_Laden() {
     const Größe schirm = ansicht().Bildschirm();
     const long long x = einstellungen_.Playlist_PositionX, y = einstellungen_.Playlist_PositionY;
-    const bool zu_sehen =
-        x < schirm.breite && y < schirm.höhe && x + lage().breite > 0 && y + lage().höhe > 0;
+    const bool zu_sehen = x < schirm.breite && y < schirm.höhe && x + lage().breite > 0 && y + lage().höhe > 0;
     if (einstellungen_.Playlist_Position_merken && zu_sehen)
         bewegen(einstellungen_.Playlist_PositionX, einstellungen_.Playlist_PositionY);
     immer_oben(einstellungen_.Playlist_Always_on_top);
@@ -136,9 +134,9 @@ void Playlist::beim_Laden() {
 
 bool Playlist::beim_Schließen(Schließgrund grund) {
     if (grund == Schließgrund::Hand && !Playlist_gespeichert_) {
-        const Antwort antwort = drei_Antworten("Playlist beenden", "Die aktuelle Playlist ist noch nicht gespeichert!" +
-                                                                       Text(CRCR) +
-                                                                       "Wollen sie diese noch vor dem beenden speichern?");
+        const Antwort antwort =
+            drei_Antworten("Playlist beenden", "Die aktuelle Playlist ist noch nicht gespeichert!" + Text(CRCR) +
+                                                   "Wollen sie diese noch vor dem beenden speichern?");
         if (antwort == Antwort::Abbrechen) return false;
         // On Yes the window closes even where nothing was saved in the end.
         if (antwort == Antwort::Ja) speichern();

@@ -63,8 +63,7 @@ void Playlist::add_Lied(Long Nr, bool Nachfragen) {
         const auto schon = std::count(Nr_Liste.zeilen().begin(), Nr_Liste.zeilen().end(), nummer);
         for (auto i = schon; i > 0; --i)
             aufnehmen = ansicht().fragen("Lied hinzufügen", "Dieses Lied befindet sich bereits in der Playlist." +
-                                                                Text(CRCR) +
-                                                                "Wollen sie es trotzdem nochmal hinzufügen?");
+                                                                Text(CRCR) + "Wollen sie es trotzdem nochmal hinzufügen?");
     }
     if (!aufnehmen) return;
     Liste.hinzufügen(Zeile_von(Nr));
@@ -149,8 +148,8 @@ void Playlist::Dateigröße() {
     for (const Long nr : Nummern())
         if (vorhanden(nr)) KByte += modell_.Lieder[nr].Größe;
     const auto MByte = static_cast<long long>(std::nearbyint(static_cast<double>(KByte) / 1024.0));
-    modell_.Meldung = "Die Lieder in der Liste benötigen " + Zahl_mit_Punkten(KByte) + " kB (" + Zahltext(MByte) +
-                      " MB) Speicherplatz.";
+    modell_.Meldung =
+        "Die Lieder in der Liste benötigen " + Zahl_mit_Punkten(KByte) + " kB (" + Zahltext(MByte) + " MB) Speicherplatz.";
     // The box would lie behind a window that is always in front.
     const bool oben = immer_oben();
     immer_oben(false);

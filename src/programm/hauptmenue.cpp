@@ -36,18 +36,18 @@ public:
     }
 
     Menüzeile Bearbeiten() {
-        return Untermenü("OMP_Bearbeiten", "&Bearbeiten",
-                         {Befehl("Artist_Titel_Clipboard", "aktueller Artist und Titel in Zwischenablage",
-                                 [this] { t.lied_befehle.Artist_Titel_Clipboard(); }),
-                          Strich("Bearbeiten_Strich1"), Befehl("zeige_Playlist", "eigene WinAmp &Playlist...",
-                                 [this] { t.playlist_anschluss.zeige_Playlist(); }),
-                          Befehl("zentriere_Playlist", "Playliste &zentrieren",
-                                 [this] { t.playlist_anschluss.zentriere_Playlist(); }), Strich("Bearbeiten_Strich2"),
-                          Befehl("zeige_Alben_Verwaltung", "&Alben-Verwaltung..."),
-                          Befehl("Alben_Verwaltung_zentrieren", "Alben-&Verwaltung zentrieren"),
-                          Befehl("Menü_starte_Album", "Album &spielen...", [this] { t.alben_befehle.Menü_starte_Album(); }),
-                          Strich("Bearbeiten_Strich3"),
-                          Befehl("zentrieren", "Datenbank &zentrieren", [this] { t.fenster.zentrieren(); })});
+        return Untermenü(
+            "OMP_Bearbeiten", "&Bearbeiten",
+            {Befehl("Artist_Titel_Clipboard", "aktueller Artist und Titel in Zwischenablage",
+                    [this] { t.lied_befehle.Artist_Titel_Clipboard(); }),
+             Strich("Bearbeiten_Strich1"),
+             Befehl("zeige_Playlist", "eigene WinAmp &Playlist...", [this] { t.playlist_anschluss.zeige_Playlist(); }),
+             Befehl("zentriere_Playlist", "Playliste &zentrieren", [this] { t.playlist_anschluss.zentriere_Playlist(); }),
+             Strich("Bearbeiten_Strich2"), Befehl("zeige_Alben_Verwaltung", "&Alben-Verwaltung..."),
+             Befehl("Alben_Verwaltung_zentrieren", "Alben-&Verwaltung zentrieren"),
+             Befehl("Menü_starte_Album", "Album &spielen...", [this] { t.alben_befehle.Menü_starte_Album(); }),
+             Strich("Bearbeiten_Strich3"),
+             Befehl("zentrieren", "Datenbank &zentrieren", [this] { t.fenster.zentrieren(); })});
     }
 
     Menüzeile Lieder() {
@@ -118,8 +118,9 @@ private:
              Befehl("Menü_Lied_Anzahl", "&Anzahl Reset", [this] { t.lied_befehle.Menü_Lied_Anzahl(); }),
              Befehl("Menü_Lied_Info", "&Info", [this] { t.lied_befehle.Menü_Lied_Info(); }),
              Befehl("Menü_Lied_tauschen", "aus&tauschen", [this] { t.lied_befehle.Lied_tauschen(); }),
-             Strich("aktuelles_Strich1"), Befehl("Menü_add_to_Playlist", "zur &Playlist hinzufügen",
-                    [this] { t.playlist_anschluss.Menü_add_to_Playlist(); })});
+             Strich("aktuelles_Strich1"), Befehl("Menü_add_to_Playlist", "zur &Playlist hinzufügen", [this] {
+                 t.playlist_anschluss.Menü_add_to_Playlist();
+             })});
     }
 
     Menüzeile Liste() {
@@ -136,8 +137,9 @@ private:
                         t.playlist_anschluss.aktualisieren();
                     }),
              Befehl("Durchschnitts_Anzahl", "&Durchschnitts-Anzahl", [this] { t.wartung.Durchschnitts_Anzahl(); }),
-             Strich("Liste_Strich1"), Befehl("Lieder_add_to_Playlist", "zur &Playlist hinzufügen",
-                                            [this] { t.playlist_anschluss.Lieder_add_to_Playlist(); }),
+             Strich("Liste_Strich1"),
+             Befehl("Lieder_add_to_Playlist", "zur &Playlist hinzufügen",
+                    [this] { t.playlist_anschluss.Lieder_add_to_Playlist(); }),
              Befehl("Lieder_add_to_Album", "zum aktuellen &Album hinzufügen"),
              Befehl("ASCII_Datei", "Liedernamen in &Datei ausgeben")});
     }

@@ -69,7 +69,8 @@ TEST_F(Bühne, Tasten_der_Beschriftungen_und_Reihenfolge) {
 INSTANTIATE_TEST_SUITE_P(Fenster, Zugriffstasten,
                          testing::Values("Tonkartei", "Splash", "Datenbank_öffnen", "Kategorie_Wahl", "Kategorie_bearbeiten",
                                          "Verzeichnis_add", "neue_Lieder_Liste", "Album_wählen", "Infofenster",
-                                         "MP3_Tag_ändern", "Datum_eingeben", "DB_add_start_Kategorien", "DBadd_Kategorien", "Playlist"),
+                                         "MP3_Tag_ändern", "Datum_eingeben", "DB_add_start_Kategorien", "DBadd_Kategorien",
+                                         "Playlist"),
                          [](const auto& fall) { return "Fenster_" + std::to_string(fall.index); });
 
 }  // namespace
