@@ -1,8 +1,8 @@
 #!/bin/bash
 # Plays the main job without a screen, with real files, the real player and the real windows drawn off-screen: a new
-# collection, songs added, sorted, searched, cut by categories, played and counted; then the counts, albums, the editor of
-# categories and the menus after a new start; then all windows once more at twice the scale. Prints what happens and leaves
-# a picture of every window in build/tour. Fails when something is not as it should.
+# collection, songs added, sorted, searched, cut by categories, played and counted; then the counts, albums, the playlist,
+# the editor of categories and the menus after a new start; then all windows once more at twice the scale. Prints what
+# happens and leaves a picture of every window in build/tour. Fails when something is not as it should.
 set -eu
 wurzel=$(cd "$(dirname "$0")/.." && pwd)
 bediener=${1:-$wurzel/build/release/bin/tonkartei-bediener}
@@ -172,6 +172,29 @@ ansichten() {
     tu "klick Album_wählen.Abbruch"
     tu "wähle Tonkartei.Datenbank_Modus 0"
     tu "wähle Tonkartei.Liste 0"
+    echo "== The playlist"
+    for runde in 1 2 3 4; do tu "klick Tonkartei.Lieder_add_to_Playlist"; done
+    erwarte Playlist.Liste_Anzahl '"text":"24"'
+    for zeile in 23 22 21 20; do
+        tu "wähle Playlist.Liste $zeile"
+        tu "klick Playlist.löschen"
+    done
+    tu "klick Playlist.sortieren"
+    tu "wähle Playlist.Liste 5"
+    tu "setze Playlist.Reihenfolge 1"
+    bild Playlist "playlist$anhang"
+    for name in OMP_Playlist OMP_Optionen UMP_autoshow; do bild "Playlist.$name" "menue_playlist_${name#*_}$anhang"; done
+    tu "rechtsklick Playlist.Liste 4"
+    bild Kontextmenüs.Playlist_Menü "menue_playlist_liste$anhang"
+    tu "klick Playlist.speichern"
+    tu "pfad $arbeit/zwanzig.m3u"
+    tu "klick Playlist.beenden"
+    tu "klick Tonkartei.zeige_Playlist"
+    tu "klick Playlist.öffnen"
+    tu "pfad $arbeit/zwanzig.m3u"
+    tu "antwort OK"
+    erwarte Playlist.Liste_Anzahl '"text":"20"'
+    tu "klick Playlist.beenden"
     echo "== Categories, the about box, menus"
     tu "klick Tonkartei.Kategorie_Edit"
     tu "wähle Kategorie_bearbeiten.Liste 2"

@@ -31,7 +31,7 @@ std::optional<Long> Nummer_aus(std::string_view wert, const Text& Verzeichnis_gr
     const double zahl = Zahlwert(mitte);
     if (zahl >= Lieder_maximal + 1) return std::nullopt;
     // However far below 1 it is, it is no song's.
-    const Long nummer = zahl < -1 ? -1 : gerundet(zahl);
+    const Long nummer = zahl < -Lieder_maximal ? -1 : gerundet(zahl);
     return nummer <= Anzahl_Lieder ? std::optional(nummer) : std::nullopt;
 }
 

@@ -24,8 +24,11 @@ void Playlist_Anschluss::verbinden() {
     playlist.gezogenes_Lied = [this](Element& quelle) { return gezogenes_Lied(quelle); };
     playlist.starte_WinAmp_Liste = [this](const Text& datei) { t_.wiedergabe.Starter.starte_WinAmp_Liste(datei); };
     playlist.in_Datenbank_Liste = [this](const std::vector<Long>& nummern) {
-        t_.fenster.Lieder.Nr_Liste_setzen({nummern.begin(), nummern.end()});
-        t_.fenster.Lieder.erstelle_Liste_von_Nr_Liste();
+        auto& bereich = t_.fenster.Lieder;
+        // Song numbers must not stand where albums are chosen.
+        if (bereich.Datenbank_Modus.wert() != 0) bereich.Datenbank_Modus.wert(0);
+        bereich.Nr_Liste_setzen({nummern.begin(), nummern.end()});
+        bereich.erstelle_Liste_von_Nr_Liste();
     };
     // The songs come from the collection that is open now, as if it were another one: its categories are the source's.
     playlist.Datenbank_vorbereiten = [this](const std::vector<Playlist::Auszug>& lieder) {

@@ -48,7 +48,7 @@ struct Schaufenster : Fenster {
                                          Gruppe(Sortierung, Zeile({nach_Titel, nach_Artist})), Zeile({Genre_Schrift, Genre}),
                                          Gruppe(Panel,
                                                 Spalte({Zeile({Play, Pause, Stop, Vor, Feder(1)}), Lautstärke, Bildlauf})),
-                                         Hinweis, Fortschritt, Feder(0, 1)})})
+                                         Hinweis, Zeile({Stufen, Feder()}), Fortschritt, Feder(0, 1)})})
                               .dehnen(1, 1),
                           Zeile({Feder(1), Rot, Gesperrt, Ok, Abbruch}),
                       })
@@ -82,6 +82,7 @@ struct Schaufenster : Fenster {
     Regler Lautstärke{*this, "Lautstärke", 0, 100};
     Regler Bildlauf{*this, "Bildlauf", 0, 20, ohne_Index, Regler::Form::Bildlauf};
     Schriftfeld Hinweis{*this, "Hinweis", "Doppelklick startet das Lied; mit der rechten Taste öffnet sich das Menü."};
+    Dreistufer Stufen{*this, "Stufen"};
     Balken Fortschritt{*this, "Fortschritt"};
     Knopf Rot{*this, "Rot", "Warnung"};
     Knopf Gesperrt{*this, "Gesperrt", "Gesperrt"};

@@ -121,6 +121,21 @@ TEST_F(Desktop, EveryKindShowsItsGroundAndHearsTheMouse) {
     }
 }
 
+TEST_F(Desktop, UpDownSwitchByMouseAndKeys) {
+    Text folge;
+    fenster.Stufen.Geändert.verbinden([&] {
+        folge += std::to_string(fenster.Stufen.wert());
+        fenster.Stufen.wert(Dreistufer::Ruhe);
+    });
+    auto& stufen = widget<QWidget>(fenster.Stufen);
+    for (auto* pfeil : stufen.findChildren<QAbstractButton*>()) Klick(*pfeil);
+    EXPECT_EQ(ansicht.fokus(), &fenster.Stufen);
+    Taste_auf(stufen, Qt::Key_Down);
+    fenster.Stufen.aktiv(false);
+    Taste_auf(stufen, Qt::Key_Up);
+    EXPECT_EQ(folge, "123232");
+}
+
 TEST_F(Desktop, BoxesAndOptionsShowTheModelsValueEvenIfAHandlerTakesItBack) {
     auto& kasten = widget<QAbstractButton>(fenster.Klassik);
     fenster.Klassik.Klick.verbinden([&] {
