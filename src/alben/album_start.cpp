@@ -14,19 +14,29 @@ Album_Start::Album_Start(Modell& modell, const Einstellungen& einstellungen, con
 
 void Album_Start::starte_Album(Long Nr) {
     if (Nr < 1) return;
-    const Text datei = einstellungen_.WinAmp_Verzeichnis + Playlist_Datei_Name;
     const std::vector<Long> lieder = vorhandene_Lieder(alben_.eigene.Alben[Nr]);
-    try {
-        m3u_.schreiben(datei, lieder);
-    } catch (const Dateifehler& fehler) {
-        modell_.Meldung = fehler.Beschreibung() + Text(CRCR) + anzeigbar(datei);
-        ansicht_.informieren(Programmtitel, modell_.Meldung);
-        return;
-    }
+    if (!Liste_schreiben(lieder)) return;
     if (lieder.empty())
         ansicht_.informieren("Album starten", "In der Datenbank sind keine Lieder dieses Albums vorhanden!");
     else
-        starte_WinAmp_Liste(datei);
+        starte_WinAmp_Liste(Datei());
+}
+
+void Album_Start::starte_Lieder(const std::vector<Long>& Nummern) {
+    if (Liste_schreiben(Nummern)) starte_WinAmp_Liste(Datei());
+}
+
+Text Album_Start::Datei() const { return einstellungen_.WinAmp_Verzeichnis + Playlist_Datei_Name; }
+
+bool Album_Start::Liste_schreiben(const std::vector<Long>& Nummern) {
+    try {
+        m3u_.schreiben(Datei(), Nummern);
+        return true;
+    } catch (const Dateifehler& fehler) {
+        modell_.Meldung = fehler.Beschreibung() + Text(CRCR) + anzeigbar(Datei());
+        ansicht_.informieren(Programmtitel, modell_.Meldung);
+        return false;
+    }
 }
 
 std::vector<Long> Album_Start::vorhandene_Lieder(const Album& album) const {

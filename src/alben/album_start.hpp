@@ -1,4 +1,4 @@
-// Hands an album to the player, as a list file.
+// Hands an album, or other songs in a row, to the player, as a list file.
 #pragma once
 
 #include <functional>
@@ -20,11 +20,16 @@ public:
     // Writes the album's songs that the collection has into the list file and starts it. A number below 1 does nothing; no
     // count changes.
     void starte_Album(Long Nr);
+    // The same for songs by their numbers.
+    void starte_Lieder(const std::vector<Long>& Nummern);
 
     // The starter of the playing side, given the list file's path.
     std::function<void(const Text& Datei)> starte_WinAmp_Liste = [](const Text&) {};
 
 private:
+    Text Datei() const;
+    // False after the box that tells why not.
+    bool Liste_schreiben(const std::vector<Long>& Nummern);
     std::vector<Long> vorhandene_Lieder(const Album& album) const;
 
     Modell& modell_;

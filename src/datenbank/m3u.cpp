@@ -8,9 +8,6 @@
 namespace tonkartei {
 namespace {
 
-// No file system has a path as long as this: a longer line is none, and is not kept in memory.
-constexpr std::size_t längster_Pfad = 65536;
-
 constexpr std::string_view Endung = ".MP3";
 
 // What it is to end in has no letter but these, so the byte tells; most lines that are none need no more than this.

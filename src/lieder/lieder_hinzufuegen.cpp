@@ -10,9 +10,6 @@
 namespace tonkartei {
 namespace {
 
-// No system knows longer ones.
-constexpr std::size_t Pfadlänge_maximal = 65535;
-
 bool ist_MP3_Name(const Text& name) { return groß(rechts(name, 4)) == ".MP3"; }
 
 // The names in a folder. A list may be millions of lines that are no files, and a look at the disk for each takes long.
@@ -79,7 +76,7 @@ void Lieder_hinzufügen::Lieder_hinzufügen_Playlist() {
 void Lieder_hinzufügen::Playlist_lesen(const Text& datei, int nummer) {
     const Text ordner = Ordner_von(datei);
     const Namen_im_Ordner nebenan(dateien_, ordner);
-    while (const auto wert = kanäle_.nächster_Rohwert(nummer, Pfadlänge_maximal)) {
+    while (const auto wert = kanäle_.nächster_Rohwert(nummer, längster_Pfad)) {
         Text pfad(*wert);
         // Nothing, or a name that the system would take for a shorter one.
         if (pfad.empty() || pfad.find('\0') != Text::npos) continue;

@@ -15,6 +15,9 @@ namespace tonkartei {
 // Separator of paths. "Trailing backslash" of a folder means this.
 inline constexpr char Trenner = '/';
 
+// Bytes. No system knows longer ones, so what is longer in a file is no path.
+inline constexpr std::size_t längster_Pfad = 65535;
+
 // The folder with a separator at its end; an empty path stays empty.
 Text mit_Trenner(const Text& pfad);
 // What follows the last separator, and what stands up to it (separator included).

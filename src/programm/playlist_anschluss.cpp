@@ -21,6 +21,17 @@ void Playlist_Anschluss::verbinden() {
     fenster.Größe_oder_Zustand_geändert.verbinden([this] { folgen(); });
     t_.sitzung.geladen.verbinden([this](bool) { aktualisieren(); });
 
+    auto& zufallsliste = t_.automatik.Zufallsliste;
+    zufallsliste.Liste_starten = [this](const std::vector<Long>& lieder) { t_.album_start.starte_Lieder(lieder); };
+    zufallsliste.Playlist_leeren = [this] {
+        t_.playlist.zeigen_falls_nötig();
+        return t_.playlist.Neu();
+    };
+    zufallsliste.in_Playlist = [this](const std::vector<Long>& lieder) {
+        t_.playlist.add_Lieder(lieder);
+        t_.playlist.malen();
+    };
+
     playlist.gezogenes_Lied = [this](Element& quelle) { return gezogenes_Lied(quelle); };
     playlist.starte_WinAmp_Liste = [this](const Text& datei) { t_.wiedergabe.Starter.starte_WinAmp_Liste(datei); };
     playlist.in_Datenbank_Liste = [this](const std::vector<Long>& nummern) {

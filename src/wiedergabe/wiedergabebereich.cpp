@@ -29,8 +29,6 @@ Wiedergabebereich::Wiedergabebereich(Fenster& fenster)
     auto_Kat_Wechsel.sichtbar(false);
     auto_Kat_Wechsel_Setup.tooltip("stellt ein, nach wievielen Liedern die Kategorie gewechselt wird");
     auto_Kat_Wechsel_Setup.klein = true;
-    // Their work is not there yet.
-    Zufalls_Playlist.aktiv(false);
 }
 
 Knoten Wiedergabebereich::anordnung(Fernsteuerung& fernsteuerung) {
