@@ -47,8 +47,8 @@ public:
     Text lese_Wert(int nummer);
     // The same with the file's own bytes, for paths.
     std::string lese_Rohwert(int nummer);
-    // The same without a copy, good until the next reading; none at the end. A value of more than `höchstens` bytes comes as
-    // an empty one and is not kept in memory.
+    // The same without a copy, good until the next reading; none at the end. A value of more than `höchstens` bytes, with
+    // the blanks behind it, comes as an empty one and is not kept in memory.
     std::optional<std::string_view> nächster_Rohwert(int nummer, std::size_t höchstens);
     // Whole line with the file's own bytes.
     std::string lese_Rohzeile(int nummer);
