@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view Endung = ".MP3";
 
-// What it is to end in has no letter but these, so the byte tells; most lines that are none need no more than this.
+// The ending has letters of ASCII only, so its bytes tell. Most lines that are no songs need no more than this.
 bool endet_wie_ein_Lied(std::string_view wert) {
     if (wert.size() < Endung.size()) return false;
     const std::string_view ende = wert.substr(wert.size() - Endung.size());

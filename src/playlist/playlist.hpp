@@ -63,6 +63,8 @@ public:
     // on there.
     std::function<void(const std::vector<Auszug>&)> Datenbank_vorbereiten;
     std::function<void()> Datenbank_anlegen;
+    // False while a dialog works on the collection that is open.
+    std::function<bool()> Hauptfenster_frei = [] { return true; };
     std::function<void(const std::vector<Long>&)> in_Datenbank_Liste;
     std::function<void(const Text& Datei)> starte_WinAmp_Liste;
     // The song that a drag from that control carries; 0 none.

@@ -201,9 +201,11 @@ void Playlist::erstelle_DB_Liste() {
     if (in_Datenbank_Liste) in_Datenbank_Liste(Nummern());
 }
 
-// Numbers that are no songs any more have no file to take along.
+// Numbers that are no songs any more have no file to take along. While the main window is locked its commands cannot take
+// the collection away from under a dialog, and neither can this one.
 void Playlist::erstelle_Datenbank() {
-    if (Liste.Anzahl() == 0 || !modell_.Datenbank_offen || !Datenbank_vorbereiten || !Datenbank_anlegen) return;
+    if (Liste.Anzahl() == 0 || !modell_.Datenbank_offen || !Hauptfenster_frei()) return;
+    if (!Datenbank_vorbereiten || !Datenbank_anlegen) return;
     std::vector<Auszug> auszug;
     for (const Long nr : Nummern()) {
         if (!vorhanden(nr)) continue;

@@ -54,6 +54,7 @@ void Playlist_Anschluss::verbinden() {
             t_.neue_Lieder.add_MP3_Größe(lied.Größe);
         }
     };
+    playlist.Hauptfenster_frei = [this] { return t_.fenster.aktiv(); };
     playlist.Datenbank_anlegen = [this] { Datenbank_anlegen(); };
 }
 
@@ -106,7 +107,7 @@ Long Playlist_Anschluss::gezogenes_Lied(const Element& quelle) const {
 }
 
 void Playlist_Anschluss::zeige_Playlist() {
-    t_.playlist.zustand(Fensterzustand::normal);
+    if (t_.playlist.geladen()) t_.playlist.zustand(Fensterzustand::normal);
     t_.playlist.zeigen();
 }
 
