@@ -109,6 +109,25 @@ TEST_F(Abspielen, Autoplay_durch_drei_Lieder_und_zwei_tote_Spieler) {
     EXPECT_EQ(b->bereit(), "ende");
 }
 
+// A list of its own: the player goes through it, the program sees it play, and none of it counts.
+TEST_F(Abspielen, Listendatei) {
+    lege(3, 1.5);
+    // In a folder of any name.
+    const std::string winamp = ordner.ordner("mein Spieler");
+    std::filesystem::create_symlink(std::filesystem::canonical("/proc/self/exe").replace_filename("WinAmp.Exe"),
+                                    winamp + "WinAmp.Exe");
+    starte({"Random-Einstellung=1", "WinAmp=" + winamp});
+    hände({"klick Tonkartei.Zufalls_Playlist", "eingabe 3", "antwort Nein"});
+    for (const char* lied : {"00000001.MP3", "00000002.MP3", "00000003.MP3"})
+        EXPECT_TRUE(bald([&] {
+            const auto s = spieler();
+            return !s.is_null() && s["datei"].get<std::string>().ends_with(lied);
+        })) << lied;
+    EXPECT_TRUE(bald([&] { return !spielt(); })) << "the list is over";
+    EXPECT_EQ(Anzahlen(), "0 0 0");
+    EXPECT_TRUE(ordner.da("mein Spieler/Tonkartei-Playlist.M3U"));
+}
+
 TEST_F(Abspielen, Fernsteuerung) {
     lege(2, 60);
     starte({"WinAmp Fernsteuerung animiert=False"});

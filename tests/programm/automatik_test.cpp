@@ -111,6 +111,29 @@ TEST_F(Automatik, Eingaben) {
     }
 }
 
+TEST_F(Automatik, Zufallsliste_in_das_Fenster_oder_zum_Spieler) {
+    starte("", {"Random-Einstellung=100"});
+    const std::string frage =
+        "Random-MP3-Playlist|Soll die Liste erst in den internen Playlist-Editor (Ja) oder soll die Playlist gleich mit "
+        "Windamp gestartet werden (Nein)?|?*Ja/Nein";
+    hände({"zufall 0 0.9 0 0", "klick Tonkartei.Zufalls_Playlist", "eingabe 9", "antwort OK", "antwort Nein"});
+    EXPECT_EQ(geschehen(), (Zeilen{"Eingabe|Wieviel Lieder sollen in die Playlist?|4",
+                                   "Random-MP3-Playlist|Es sind nur 4 Lieder in der Liste vorhanden!|i", frage}));
+    const auto zeile = [&](int nr) { return a + "0000000" + std::to_string(nr) + ".MP3\r\n"; };
+    EXPECT_EQ(ordner.inhalt("winamp/Tonkartei-Playlist.M3U"), zeile(4) + zeile(1) + zeile(3) + zeile(2));
+    EXPECT_EQ(b->spieler()[0]["datei"], ordner.pfad("winamp/Tonkartei-Playlist.M3U"));
+    EXPECT_EQ(b->text("Tonkartei.Anzahl"), "") << "songs of a list are not counted";
+    hände({"zufall 0 0", "klick Tonkartei.Zufalls_Playlist", "eingabe 2", "antwort Ja"});
+    EXPECT_EQ(geschehen(), (Zeilen{"Eingabe|Wieviel Lieder sollen in die Playlist?|4", frage}));
+    EXPECT_EQ(b->zeilen("Playlist.Nr_Liste"), (Zeilen{"4", "3"}));
+    // What is in the window is asked for; who cancels keeps it as it is.
+    hände({"klick Tonkartei.Zufalls_Playlist", "eingabe 1", "antwort Ja"});
+    EXPECT_EQ(b->meldung(), "Wollen sie die aktuelle Playlist noch speichern?");
+    hand("antwort Abbrechen");
+    EXPECT_EQ(b->zeilen("Playlist.Nr_Liste"), (Zeilen{"4", "3"}));
+    EXPECT_EQ(b->bereit(), "schleife");
+}
+
 // Boxes come up in the middle of a tick, and with the right click that assigns, the change asks for the song.
 TEST_F(Automatik, Kategoriewechsel_mit_der_rechten_Taste_fürs_Lied) {
     starte("", {"Random-Autoplay=False", "Kategorie-Rechtsklick=2", "automatisch Kategorie Wechseln\\Status=True"});
