@@ -59,7 +59,7 @@ std::optional<std::array<bool, Kategorien_maximal>> DB_add_start_Kategorien::wä
 
 Knoten DB_add_start_Kategorien::anordnung() {
     std::vector<Knoten> kästen;
-    for (const auto& kasten : kästen_) kästen.push_back(Knoten(*kasten).zeichen(20).dehnen(1));
+    for (const auto& kasten : kästen_) kästen.push_back(Knoten(*kasten).zeichen(24).dehnen(1));
     return Spalte({Gitter(2, std::move(kästen)), Feder(0, 1),
                    Zeile({Feder(), Knoten(Ok).zeichen(12), Knoten(Abbruch).zeichen(12)})})
         .rand(12 * Twips_je_Pixel);

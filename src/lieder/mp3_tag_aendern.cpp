@@ -40,6 +40,7 @@ bool MP3_Tag_ändern::Tag_ändern(const Text& Datei, Text& neuer_Artist, Text& n
     bestätigt_ = false;
     laden();
     Pfad.beschriftung(anzeigbar(Datei));
+    Pfad.tooltip(anzeigbar(Datei));  // the end of a long one does not fit
     Artist.text(neuer_Artist);
     Titel.text(neuer_Titel);
     ansicht().fokus(Artist);
