@@ -128,8 +128,7 @@ void neue_Lieder_Liste::activate(Byte Quelle, bool Füllen) {
     if (Quelle == Quelle_Datenbank) add_Option_2.aktiv(false);
     add_Option_1.wählen();
     alle_hinzufügen();
-    ansicht().fokus(gefundene_Lieder);
-    zeigen_modal();
+    zeigen_modal(&gefundene_Lieder);
 }
 
 // Also the way of the close box: nothing was done, the main window is free again.
