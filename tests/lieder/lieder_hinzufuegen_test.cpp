@@ -1,8 +1,6 @@
 // The commands and windows, worked by hand.
 #include <sys/stat.h>
 
-#include <set>
-
 #include "buehne.hpp"
 
 namespace tonkartei {
@@ -83,19 +81,6 @@ TEST(Lieder_hinzufügen, Ordner_ohne_Lieder_fehlende_und_unlesbare) {
     ASSERT_EQ(b.ansicht.Ablauf.size(), 1U);
     EXPECT_TRUE(b.ansicht.Ablauf.front().starts_with("Tonkartei: "));
     EXPECT_TRUE(b.ansicht.Ablauf.front().ends_with("\r\r" + b.quelle));
-}
-
-TEST(Lieder_hinzufügen, mehr_als_das_Feld_fasst) {
-    Bühne b;
-    b.fenster.Reset();
-    for (int i = 0; i < Lieder_maximal; ++i) b.fenster.add_Lied("x");
-    try {
-        b.fenster.add_Lied("x");
-        FAIL();
-    } catch (const Laufzeitfehler& fehler) {
-        EXPECT_EQ(fehler.Nummer(), 9);
-    }
-    EXPECT_EQ(b.fenster.Anzahl_gefunden(), Lieder_maximal);
 }
 
 TEST(Lieder_hinzufügen, letzte_Verzeichnisse_tauschen_den_Platz) {
@@ -226,47 +211,6 @@ TEST(neue_Lieder_Liste, Tags_und_Größen) {
     });
     EXPECT_EQ(b.ansicht.Fortschritte, Zeilen{"MP3-Tag's lesen..."});
     EXPECT_EQ(b.modell.Anzahl_Lieder, 0);
-}
-
-TEST(neue_Lieder_Liste, eine_andere_Datenbank_kann_nur_kopieren) {
-    Bühne b;
-    auto& f = b.fenster;
-    b.ansicht.Handgriffe = [&] {
-        EXPECT_EQ(f.gefundene_Lieder.zeilen(), Zeilen{"A - ?"});
-        EXPECT_FALSE(f.add_Option_2.bedienbar());
-        EXPECT_TRUE(f.add_Option_1.wert());
-        f.schließen(Schließgrund::Hand);
-    };
-    f.Reset();
-    f.add_Lied(b.lege("a.mp3", "x"), 3);
-    f.add_MP3_Tag("A - Ж");
-    f.add_MP3_Größe(1500);
-    f.activate(Quelle_Datenbank, false);
-    EXPECT_EQ(b.fokussiert, 0);
-    EXPECT_FALSE(b.Haupt_gesperrt);
-
-    // The next source finds the window as new.
-    hinzufügen(b, b.quelle, [&] {
-        EXPECT_TRUE(f.add_Option_2.bedienbar());
-        Hand::klicken(f.add_Option_2);
-        b.ansicht.Kategorien = {1};
-        Hand::klicken(f.Ok);
-    });
-    EXPECT_FALSE(b.ordner.da("quelle/a.mp3"));
-    EXPECT_EQ(b.inhalt(1), "x");
-}
-
-TEST(neue_Lieder_Liste, Zugriffstasten_sind_eindeutig) {
-    Bühne b;
-    for (Fenster* fenster : {static_cast<Fenster*>(&b.fenster), static_cast<Fenster*>(&b.verzeichnis)}) {
-        std::set<Text> tasten;
-        for (const Element* e : fenster->elemente()) {
-            const auto und = e->beschriftung().find('&');
-            if (und == Text::npos) continue;
-            EXPECT_TRUE(tasten.insert(groß(e->beschriftung().substr(und + 1, 1))).second) << e->voller_Name();
-        }
-        EXPECT_GE(tasten.size(), 5U);
-    }
 }
 
 }  // namespace

@@ -16,22 +16,6 @@ std::string mit_Tag(std::string_view titel, std::string_view artist) {
     return a;
 }
 
-TEST(Lieder_Übernahme, ein_Lied_wird_gemeldet_und_fragt_nach_seiner_Kategorie) {
-    Bühne b;
-    b.ansicht.Kategorien = {4};
-    EXPECT_TRUE(b.übernahme.ausführen(auftrag({b.lege("x.mp3", mit_Tag("T", "A"))})));
-    EXPECT_EQ(b.ansicht.Ablauf,
-              (std::vector<Text>{"angehalten", "Lied hinzufügen: Es wurde 1 neues Lied in die Datenbank kopiert.",
-                                 "Kategorie: A - T", "aufgebaut"}));
-    const Lied& lied = b.modell.Lieder[1];
-    EXPECT_EQ(b.modell.Anzahl_Lieder, 1);
-    EXPECT_EQ(lied.Titel, "T");
-    EXPECT_EQ(lied.Artist, "A");
-    EXPECT_EQ(lied.Kategorie, 4);
-    EXPECT_EQ(lied.Größe, 43);
-    EXPECT_GT(Sekunden_von(lied.Zeit), 0);
-}
-
 TEST(Lieder_Übernahme, gemeinsame_oder_einzelne_Kategorie) {
     const Text frage =
         "Lieder hinzufügen: Es wurden 3 neue Lieder in die Datenbank bewegt.\r\rHaben alle diese Lieder die gleiche "
@@ -64,12 +48,6 @@ TEST(Lieder_Übernahme, gemeinsame_oder_einzelne_Kategorie) {
             EXPECT_EQ(b.modell.Lieder[nr].Kategorie, fall.kategorien[static_cast<std::size_t>(nr - 1)]);
         EXPECT_EQ(b.modell.Lieder[1].Artist, "---");
     }
-}
-
-TEST(Lieder_Übernahme, nichts_Übernommenes_trägt_nichts_ein) {
-    Bühne b;
-    EXPECT_TRUE(b.übernahme.ausführen(auftrag({b.quelle + "weg.mp3"})));
-    EXPECT_EQ(b.ansicht.Ablauf, std::vector<Text>{"angehalten"});
 }
 
 TEST(Lieder_Übernahme, gescheiterte_Analyse_lässt_die_Lieder_dahinter_leben) {

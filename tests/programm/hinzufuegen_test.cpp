@@ -188,7 +188,9 @@ TEST_F(Hinzufügen, schlimme_Playlisten) {
 TEST_F(Hinzufügen, mehr_Dateien_als_Lieder_Platz_haben) {
     lege(1);
     ordner.ordner("quelle");
-    for (int n = 1; n <= 5001; ++n) ordner.datei("quelle/" + std::to_string(n) + ".mp3", "x");
+    const std::string eine = ordner.datei("eine", "x");
+    for (int n = 1; n <= 5001; ++n)
+        std::filesystem::create_hard_link(eine, ordner.pfad("quelle/" + std::to_string(n) + ".mp3"));
     starte(false);
     Verzeichnis("quelle");
     EXPECT_EQ(b->ereignis("laufzeitfehler")["nummer"], 9);
