@@ -53,7 +53,9 @@ TEST_F(Lieder, drei_ohne_Tag) {
     lege("eins.mp3", std::string(1000, 'a'));
     lege("zwei.MP3", std::string(511, 'b'), Damals + 1);
     lege("leer.mp3", "");
-    ordner.ordner("quelle/ordner.mp3");
+    lege("vier.mp3.txt", "x");
+    ordner.datei("quelle/ordner.mp3/tief.mp3", (ordner.ordner("quelle/ordner.mp3"), "x"));
+    std::filesystem::create_symlink("nirgends", ordner.pfad("quelle/verweis.mp3"));
     öffnen(a);
     geschehen();
     Verzeichnis(ordner.pfad("quelle"));
@@ -149,6 +151,13 @@ TEST_F(Lieder, Misslungenes) {
     EXPECT_EQ(geschehen(), Zeilen{keine});
     hand("antwort OK");
     EXPECT_EQ(b->bereit(), "schleife");
+    Verzeichnis(ordner.pfad("nirgends"));
+    EXPECT_EQ(geschehen(),
+              Zeilen{"Verzeichnis hinzufügen|Dieses Verzeichnis wurde nicht gefunden, oder es ist zur Zeit kein "
+                     "Zugriff darauf möglich!|i"});
+    hand("antwort OK");
+    EXPECT_EQ(b->bereit(), "schleife");
+    EXPECT_EQ(wert("Verzeichnis hinzufügen\\Nr. 2"), "-");
     // One copy fails: it leaves nothing, and the numbers close up.
     Verzeichnis(quelle);
     hände({"störung kopieren 1", "klick neue_Lieder_Liste.Ok"});
