@@ -51,8 +51,7 @@ Long Album_wählen::wählen() {
     ergebnis_ = 0;
     laden();
     Liste_füllen();
-    ansicht().fokus(Liste);
-    zeigen_modal();
+    zeigen_modal(&Liste);
     return ergebnis_;
 }
 

@@ -16,7 +16,6 @@ DB_add_start_Kategorien::DB_add_start_Kategorien(Ansicht& ansicht)
         kasten.Beschriftung_wörtlich = true;
         kasten.tooltip(k == 1 ? "Alle Lieder der anderen Datenbank hinzufügen."
                               : "Die Lieder dieser Kategorie der anderen Datenbank hinzufügen.");
-        kasten.Klick.verbinden([this, k] { Kasten_geändert(k); });
     }
     Ok.tooltip("Die Lieder der gewählten Kategorien suchen.");
     Abbruch.tooltip("Nichts hinzufügen.");
@@ -59,23 +58,12 @@ std::optional<std::array<bool, Kategorien_maximal>> DB_add_start_Kategorien::wä
 
 Knoten DB_add_start_Kategorien::anordnung() {
     std::vector<Knoten> kästen;
-    for (const auto& kasten : kästen_) kästen.push_back(Knoten(*kasten).zeichen(20).dehnen(1));
+    for (const auto& kasten : kästen_) kästen.push_back(Knoten(*kasten).zeichen(24).dehnen(1));
     return Spalte({Gitter(2, std::move(kästen)), Feder(0, 1),
                    Zeile({Feder(), Knoten(Ok).zeichen(12), Knoten(Abbruch).zeichen(12)})})
         .rand(12 * Twips_je_Pixel);
 }
 
 void DB_add_start_Kategorien::beim_Entladen() { fertig_ = true; }
-
-// Box 1 excludes the others.
-void DB_add_start_Kategorien::Kasten_geändert(int k) {
-    if (gleicht_an_ || !Kategorie(k).wert()) return;
-    gleicht_an_ = true;
-    if (k == 1)
-        for (int andere = 2; andere <= Kategorien_maximal; ++andere) Kategorie(andere).wert(false);
-    else
-        Kategorie(1).wert(false);
-    gleicht_an_ = false;
-}
 
 }  // namespace tonkartei

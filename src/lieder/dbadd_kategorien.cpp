@@ -74,7 +74,7 @@ void DBadd_Kategorien::nach_dem_Bearbeiten() {
 }
 
 Knoten DBadd_Kategorien::anordnung() {
-    return Spalte({Liste_Text, Knoten(Liste).zeichen(44).zeilen(12).dehnen(1, 1),
+    return Spalte({Liste_Text, Knoten(Liste).zeichen(48).zeilen(12).dehnen(1, 1),
                    Zeile({neue_Kategorie_Text, Knoten(neue_Kategorie).zeichen(24).dehnen(1)}),
                    Zeile({Kategorie_Edit, Feder(), Knoten(Ok).zeichen(12)})})
         .rand(12 * Twips_je_Pixel);

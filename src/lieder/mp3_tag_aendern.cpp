@@ -40,10 +40,10 @@ bool MP3_Tag_ändern::Tag_ändern(const Text& Datei, Text& neuer_Artist, Text& n
     bestätigt_ = false;
     laden();
     Pfad.beschriftung(anzeigbar(Datei));
+    Pfad.tooltip(anzeigbar(Datei));  // the end of a long one does not fit
     Artist.text(neuer_Artist);
     Titel.text(neuer_Titel);
-    ansicht().fokus(Artist);
-    zeigen_modal();
+    zeigen_modal(&Artist);
     // The fields keep their texts until the window is loaded again.
     return bestätigt_ && schreiben(Datei, neuer_Artist, neuer_Titel);
 }

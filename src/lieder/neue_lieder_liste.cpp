@@ -89,7 +89,7 @@ Knoten neue_Lieder_Liste::anordnung() {
         .rand(12 * Twips_je_Pixel);
 }
 
-Größe neue_Lieder_Liste::Startgröße() { return {760 * Twips_je_Pixel, 520 * Twips_je_Pixel}; }
+Größe neue_Lieder_Liste::Startgröße() { return {920 * Twips_je_Pixel, 560 * Twips_je_Pixel}; }
 
 void neue_Lieder_Liste::Reset() {
     laden();
@@ -128,7 +128,7 @@ void neue_Lieder_Liste::activate(Byte Quelle, bool Füllen) {
     if (Quelle == Quelle_Datenbank) add_Option_2.aktiv(false);
     add_Option_1.wählen();
     alle_hinzufügen();
-    zeigen_modal();
+    zeigen_modal(&gefundene_Lieder);
 }
 
 // Also the way of the close box: nothing was done, the main window is free again.

@@ -50,10 +50,11 @@ void Fenster::zeigen() {
     nach_vorn();
 }
 
-void Fenster::zeigen_modal() {
+void Fenster::zeigen_modal(Element* zuerst) {
     laden();
     modal_ = true;
     zeigen();
+    if (zuerst != nullptr) ansicht_.fokus(*zuerst);
     ansicht_.modal_laufen_lassen(*this);
     modal_ = false;
 }

@@ -37,8 +37,9 @@ public:
     bool geladen() const noexcept { return geladen_; }
     // Loads if needed, shows and brings to the front.
     void zeigen();
-    // The same; the other windows are blocked, and it returns when this one is hidden or unloaded.
-    void zeigen_modal();
+    // The same; the other windows are blocked, and it returns when this one is hidden or unloaded. The focus can be given
+    // only to what can be seen, so the element that gets it is named here.
+    void zeigen_modal(Element* zuerst = nullptr);
     void verstecken();
     // Closes it: asks beim_Schließen, then unloads. False when the closing was refused. An unloaded window says true.
     bool entladen(Schließgrund grund = Schließgrund::Programm);

@@ -57,7 +57,7 @@ void Lied_Befehle::Lied_tauschen() {
 void Lied_Befehle::aktuellen_Namen_einlesen() {
     const Long nr = Lied();
     if (nr < 1) return;
-    Lied_einlesen(t_.modell, t_.taghead, nr);
+    t_.einlesen.einlesen(nr);
     zeigen(nr);
 }
 

@@ -23,7 +23,6 @@
 #include "lieder/lied_anzahl.hpp"
 #include "lieder/lied_austauschen.hpp"
 #include "lieder/lied_bearbeiten.hpp"
-#include "lieder/lied_einlesen.hpp"
 #include "lieder/lied_kopieren.hpp"
 #include "lieder/lied_nachruecken.hpp"
 #include "lieder/lieder_einlesen.hpp"

@@ -19,63 +19,45 @@ struct Shell_Attrappe : Shell {
     void starten(const Text&, int) override {}
 };
 
-TEST(CSHFileOp, Eigenschaften_werden_Flags) {
+TEST(CSHFileOp, Eigenschaften_Codes_und_Ergebnis) {
     const struct {
-        std::function<void(CSHFileOp&)> setzen;
+        std::function<void(CSHFileOp&, bool&)> tun;
+        Shell_Ergebnis antwort;
+        unsigned code;
         int flags;
+        bool ok;
     } fälle[] = {
-        {[](CSHFileOp&) {}, 0},
-        {[](CSHFileOp& o) { o.AllowUndo(true); }, 64},
-        {[](CSHFileOp& o) { o.ConfirmMakeDir(false); }, 512},
-        {[](CSHFileOp& o) { o.ConfirmOperation(false); }, 16},
-        {[](CSHFileOp& o) { o.CustomText("Kopieren"); }, 256},
-        {[](CSHFileOp& o) { o.IncludeDirectories(false); }, 128},
-        {[](CSHFileOp& o) { o.RenameOnCollision(true); }, 8},
-        {[](CSHFileOp& o) { o.SilentMode(true); }, 4},
-        {[](CSHFileOp& o) { o.AddDestFile("z2"); }, 1},
-        {[](CSHFileOp& o) { o.AllowUndo(true), o.ConfirmOperation(false), o.SilentMode(true), o.AddDestFile("z2"); }, 85},
+        {[](CSHFileOp& o, bool& ok) { o.MoveFiles(ok); }, {0, false}, 1, 0, true},
+        {[](CSHFileOp& o, bool& ok) { o.AllowUndo(true), o.RenameFiles(ok); }, {0, true}, 4, 64, false},
+        {[](CSHFileOp& o, bool& ok) { o.ConfirmMakeDir(false), o.CopyFiles(ok); }, {5, false}, 2, 512, false},
+        {[](CSHFileOp& o, bool& ok) { o.ConfirmOperation(false), o.DeleteFiles(ok); }, {0, false}, 3, 16, true},
+        {[](CSHFileOp& o, bool& ok) { o.CustomText("Kopieren"), o.CopyFiles(ok); }, {0, false}, 2, 256, true},
+        {[](CSHFileOp& o, bool& ok) { o.IncludeDirectories(false), o.CopyFiles(ok); }, {0, false}, 2, 128, true},
+        {[](CSHFileOp& o, bool& ok) { o.RenameOnCollision(true), o.CopyFiles(ok); }, {0, false}, 2, 8, true},
+        {[](CSHFileOp& o, bool& ok) { o.SilentMode(true), o.AddDestFile("z2"), o.CopyFiles(ok); }, {0, false}, 2, 5, true},
     };
     for (const auto& fall : fälle) {
         Shell_Attrappe shell;
+        shell.antwort = fall.antwort;
         CSHFileOp vorgang(shell);
+        vorgang.AddSourceFile("weg");
+        vorgang.ClearSourceFiles();
         vorgang.AddSourceFile("q1");
         vorgang.AddSourceFile("q2");
         vorgang.AddDestFile("z1");
-        fall.setzen(vorgang);
-        bool ok = false;
-        vorgang.CopyFiles(ok);
-        EXPECT_TRUE(ok);
+        bool ok = !fall.ok;
+        fall.tun(vorgang, ok);
+        EXPECT_EQ(ok, fall.ok);
+        EXPECT_EQ(shell.gesehen.Code, fall.code);
         EXPECT_EQ(shell.gesehen.Flags, fall.flags);
         EXPECT_EQ(shell.gesehen.von, (std::vector<Text>{"q1", "q2"}));
         EXPECT_EQ(shell.gesehen.nach.front(), "z1");
     }
 }
 
-TEST(CSHFileOp, Codes_und_Ergebnis) {
-    Shell_Attrappe shell;
-    CSHFileOp vorgang(shell);
-    vorgang.AddSourceFile("q");
-    void (CSHFileOp::*const rufe[])(bool&) = {&CSHFileOp::MoveFiles, &CSHFileOp::CopyFiles, &CSHFileOp::DeleteFiles,
-                                              &CSHFileOp::RenameFiles};
-    std::uint32_t code = 0;
-    for (const auto ruf : rufe) {
-        const Shell_Ergebnis antworten[] = {{0, false}, {0, true}, {5, false}};
-        ++code;
-        for (const Shell_Ergebnis& antwort : antworten) {
-            shell.antwort = antwort;
-            bool ok = antwort.abgebrochen;
-            (vorgang.*ruf)(ok);
-            EXPECT_EQ(shell.gesehen.Code, code);
-            EXPECT_EQ(ok, antwort.Rückgabe == 0 && !antwort.abgebrochen);
-        }
-    }
-}
-
 TEST(CSHFileOp, ohne_Quelle) {
     Shell_Attrappe shell;
     CSHFileOp vorgang(shell);
-    vorgang.AddSourceFile("q");
-    vorgang.ClearSourceFiles();
     bool ok = false;
     try {
         vorgang.DeleteFiles(ok);

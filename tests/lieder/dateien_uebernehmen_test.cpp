@@ -5,30 +5,6 @@ namespace {
 
 constexpr long Zeit_A = 1'700'000'000;
 
-TEST(Dateien_übernehmen, Kopie_behält_Zeit_und_Bewegtes_geht) {
-    Bühne b;
-    b.lege_Lied(3000, Zeit_A);
-    const Text eins = b.lege("eins.mp3", "abc", Zeit_A);
-    EXPECT_EQ(b.übernimm({eins}), 1);
-    EXPECT_EQ(b.inhalt(2), "abc");
-    EXPECT_EQ(b.dateien.Änderungszeit(b.modell.Lied_Pfad(2)), b.dateien.Änderungszeit(eins));
-    EXPECT_EQ(b.modell.Anzahl_Lieder, 1);
-    EXPECT_EQ(b.shell.Vorgänge.back().Code, FO_COPY);
-
-    EXPECT_EQ(b.übernimm({eins}, Übernahmeart::bewegen), 1);  // over what the first left behind the last song
-    EXPECT_FALSE(b.ordner.da("quelle/eins.mp3"));
-    EXPECT_EQ(b.inhalt(2), "abc");
-    EXPECT_TRUE(b.ansicht.Ablauf.empty());
-}
-
-TEST(Dateien_übernehmen, Fehlende_und_leere_gehen_ohne_Wort_vorbei) {
-    Bühne b;
-    EXPECT_EQ(b.übernimm({}), 0);
-    EXPECT_EQ(b.übernimm({b.lege("leer.mp3", ""), b.quelle + "weg.mp3", b.quelle, b.lege("da.mp3", "x")}), 1);
-    EXPECT_EQ(b.inhalt(1), "x");
-    EXPECT_TRUE(b.ansicht.Ablauf.empty());
-}
-
 TEST(Dateien_übernehmen, kurze_Kopie_geht_und_die_Nummern_schließen_auf) {
     for (const Übernahmeart art : {Übernahmeart::kopieren, Übernahmeart::bewegen}) {
         Bühne b;
@@ -88,26 +64,6 @@ TEST(Dateien_übernehmen, Fehler_einer_Zeile_geben_die_Nummer_zurück) {
     EXPECT_EQ(b.übernimm({c, a, a}), 1);
     EXPECT_EQ(b.inhalt(Lieder_maximal), "bbb");
     EXPECT_EQ(b.ansicht.Ablauf, (std::vector<Text>{gemeldet, gemeldet}));
-}
-
-TEST(Dateien_übernehmen, Frage_nach_Doppeltem_im_Wortlaut) {
-    Bühne b;
-    b.lege_Lied(511, Zeit_A);
-    b.lege_Lied(1000, Zeit_A);
-    b.lege_Lied(1100, Zeit_A);
-    b.modell.Lieder[2].Artist = "Wer";
-    const Text pfad = b.lege("neu.mp3", std::string(1000 - 128, 'x') + Tag_Bytes{}.Block(), Zeit_A);
-    const Zeitpunkt zeit = *b.dateien.Änderungszeit(pfad);
-    const Text datum = "Datum/Zeit: " + langes_Datum(zeit) + " " + lange_Uhrzeit(zeit);
-    const auto frage = [&](const Text& unten) {
-        return "Lied hinzufügen: Die folgende Datei ist eventuell schon einmal in der Datenbank vorhanden:\r\rDateiname: " +
-               pfad + "\r" + datum + "\rTitel: Titel\rArtist: Artist\r\rBereits vorhandenes Lied in der Datenbank:\r\r" +
-               datum + "\r" + unten + "\r\rSoll dieses Lied trotzdem hinzugefügt werden?";
-    };
-    b.ansicht.Antworten = {Antwort::Ja, Antwort::Nein};
-    EXPECT_EQ(b.übernimm({pfad}), 0);
-    EXPECT_EQ(b.ansicht.Ablauf, (std::vector<Text>{frage("Titel: Lied 2\rArtist: Wer"), frage("Titel: Lied 3\rArtist: ")}));
-    EXPECT_TRUE(b.shell.Vorgänge.empty());
 }
 
 // Against the plain double loop over all songs, with sizes and times that collide often.

@@ -131,17 +131,6 @@ TEST(Lieder_entfernen, wenn_die_Shell_versagt) {
     }
 }
 
-TEST(Lieder_entfernen, ohne_Papierkorb_und_ohne_letzte_Datei) {
-    Werkstatt w(false);
-    std::filesystem::remove(w.modell.Lied_Pfad(3));
-    w.entfernen.Lied_entfernen(1);
-    EXPECT_EQ(w.ansicht.Ablauf, std::vector<Text>{Umbenennen});
-    EXPECT_EQ(w.titel(), "T1T2T3");
-    w.entfernen.Lied_entfernen(1);  // its file is gone: nothing, without a word
-    EXPECT_EQ(w.ansicht.Ablauf.size(), 1U);
-    EXPECT_TRUE(w.ordner.da("db/" + Lied_Dateiname(2)));
-}
-
 TEST(Lücken, eine_die_sich_nicht_füllen_lässt) {
     Werkstatt w(false);
     w.modell.Anzahl_Lieder = 4;

@@ -1,8 +1,4 @@
 // The commands and windows, worked by hand.
-#include <sys/stat.h>
-
-#include <set>
-
 #include "buehne.hpp"
 
 namespace tonkartei {
@@ -28,74 +24,12 @@ void hinzufügen(Bühne& b, const Text& pfad, const std::function<void()>& im_Fe
 
 using Zeilen = std::vector<Text>;
 
-TEST(Lieder_hinzufügen, nur_MP3_Dateien_mit_Inhalt_und_fremde_Namen) {
-    Bühne b;
-    b.lege("b.MP3", "x");
-    b.lege("a.mp3", "x");
-    b.lege("leer.mp3", "");
-    b.lege("c.mp3.txt", "x");
-    b.lege("\xff.mp3", "x");
-    b.lege("Ж - ä.mP3", "x");
-    b.ordner.ordner("quelle/ordner.mp3");
-    b.ordner.datei("quelle/ordner.mp3/tief.mp3", "x");
-    std::filesystem::create_symlink("nirgends", b.quelle + "verweis.mp3");
-    b.ansicht.Antworten = {Antwort::Ja};
-    b.ansicht.Kategorien = {2};
-    hinzufügen(b, b.ordner.pfad("quelle"), [&] {
-        EXPECT_EQ(b.fenster.gefundene_Lieder.zeilen(), (Zeilen{"a.mp3", "b.MP3", "? - ä.mP3", "?.mp3"}));
-        EXPECT_EQ(b.fenster.Lieder_hinzufügen.zeilen(), b.fenster.gefundene_Lieder.zeilen());
-        EXPECT_EQ(b.fenster.Liste_Größe_1.beschriftung(), "---");
-        Hand::wählen(b.fenster.Lieder_hinzufügen, 3);
-        Hand::klicken(b.fenster.abspielen_2);
-        Hand::klicken(b.fenster.Ok);
-    });
-    EXPECT_EQ(b.gespielt, Zeilen{b.quelle + "\xff.mp3"});
-    EXPECT_EQ(b.modell.Anzahl_Lieder, 4);
-    EXPECT_EQ(b.inhalt(4), "x");
-    EXPECT_GT(b.fokussiert, 0);
-}
-
 TEST(Lieder_hinzufügen, ohne_Datenbank_geschieht_nichts) {
     Bühne b;
     b.modell.Datenbank_offen = false;
     b.befehle.Lieder_hinzufügen_Verzeichnis();
     EXPECT_FALSE(b.fenster.geladen());
     EXPECT_FALSE(b.Haupt_gesperrt);
-}
-
-TEST(Lieder_hinzufügen, Ordner_ohne_Lieder_fehlende_und_unlesbare) {
-    Bühne b;
-    hinzufügen(b, b.quelle);
-    EXPECT_EQ(b.ansicht.Ablauf, Zeilen{"Fehler: Es wurden keine Lieder zum hinzufügen gefunden!"});
-    b.ansicht.Ablauf.clear();
-    hinzufügen(b, b.quelle + "nichts");
-    EXPECT_EQ(b.ansicht.Ablauf, Zeilen{"Verzeichnis hinzufügen: Dieses Verzeichnis wurde nicht gefunden, oder es ist zur "
-                                       "Zeit kein Zugriff darauf möglich!"});
-    EXPECT_EQ(b.einstellungen.Verzeichnis_Anzahl, 1);
-    b.ansicht.Ablauf.clear();
-    hinzufügen(b, "");
-    EXPECT_TRUE(b.ansicht.Ablauf.empty());
-    EXPECT_EQ(b.fokussiert, 5);  // twice where the chosen folder counted as given up
-
-    if (::geteuid() == 0) return;  // root reads everything
-    ::chmod(b.quelle.c_str(), 0);
-    hinzufügen(b, b.quelle);
-    ASSERT_EQ(b.ansicht.Ablauf.size(), 1U);
-    EXPECT_TRUE(b.ansicht.Ablauf.front().starts_with("Tonkartei: "));
-    EXPECT_TRUE(b.ansicht.Ablauf.front().ends_with("\r\r" + b.quelle));
-}
-
-TEST(Lieder_hinzufügen, mehr_als_das_Feld_fasst) {
-    Bühne b;
-    b.fenster.Reset();
-    for (int i = 0; i < Lieder_maximal; ++i) b.fenster.add_Lied("x");
-    try {
-        b.fenster.add_Lied("x");
-        FAIL();
-    } catch (const Laufzeitfehler& fehler) {
-        EXPECT_EQ(fehler.Nummer(), 9);
-    }
-    EXPECT_EQ(b.fenster.Anzahl_gefunden(), Lieder_maximal);
 }
 
 TEST(Lieder_hinzufügen, letzte_Verzeichnisse_tauschen_den_Platz) {
@@ -226,47 +160,6 @@ TEST(neue_Lieder_Liste, Tags_und_Größen) {
     });
     EXPECT_EQ(b.ansicht.Fortschritte, Zeilen{"MP3-Tag's lesen..."});
     EXPECT_EQ(b.modell.Anzahl_Lieder, 0);
-}
-
-TEST(neue_Lieder_Liste, eine_andere_Datenbank_kann_nur_kopieren) {
-    Bühne b;
-    auto& f = b.fenster;
-    b.ansicht.Handgriffe = [&] {
-        EXPECT_EQ(f.gefundene_Lieder.zeilen(), Zeilen{"A - ?"});
-        EXPECT_FALSE(f.add_Option_2.bedienbar());
-        EXPECT_TRUE(f.add_Option_1.wert());
-        f.schließen(Schließgrund::Hand);
-    };
-    f.Reset();
-    f.add_Lied(b.lege("a.mp3", "x"), 3);
-    f.add_MP3_Tag("A - Ж");
-    f.add_MP3_Größe(1500);
-    f.activate(Quelle_Datenbank, false);
-    EXPECT_EQ(b.fokussiert, 0);
-    EXPECT_FALSE(b.Haupt_gesperrt);
-
-    // The next source finds the window as new.
-    hinzufügen(b, b.quelle, [&] {
-        EXPECT_TRUE(f.add_Option_2.bedienbar());
-        Hand::klicken(f.add_Option_2);
-        b.ansicht.Kategorien = {1};
-        Hand::klicken(f.Ok);
-    });
-    EXPECT_FALSE(b.ordner.da("quelle/a.mp3"));
-    EXPECT_EQ(b.inhalt(1), "x");
-}
-
-TEST(neue_Lieder_Liste, Zugriffstasten_sind_eindeutig) {
-    Bühne b;
-    for (Fenster* fenster : {static_cast<Fenster*>(&b.fenster), static_cast<Fenster*>(&b.verzeichnis)}) {
-        std::set<Text> tasten;
-        for (const Element* e : fenster->elemente()) {
-            const auto und = e->beschriftung().find('&');
-            if (und == Text::npos) continue;
-            EXPECT_TRUE(tasten.insert(groß(e->beschriftung().substr(und + 1, 1))).second) << e->voller_Name();
-        }
-        EXPECT_GE(tasten.size(), 5U);
-    }
 }
 
 }  // namespace

@@ -3,73 +3,10 @@
 namespace tonkartei {
 namespace {
 
-std::string mit_Tag(std::string_view titel, std::string_view artist) {
-    Tag_Bytes tag;
-    tag.Titel = titel;
-    tag.Artist = artist;
-    return Lied_Bytes(44100, 1, 0xFFFB9064) + tag.Block();
-}
-
 Übernahme_Auftrag auftrag(std::vector<Text> pfade) {
     Übernahme_Auftrag a;
     for (Text& pfad : pfade) a.Lieder.push_back({std::move(pfad), 0});
     return a;
-}
-
-TEST(Lieder_Übernahme, ein_Lied_wird_gemeldet_und_fragt_nach_seiner_Kategorie) {
-    Bühne b;
-    b.ansicht.Kategorien = {4};
-    EXPECT_TRUE(b.übernahme.ausführen(auftrag({b.lege("x.mp3", mit_Tag("T", "A"))})));
-    EXPECT_EQ(b.ansicht.Ablauf,
-              (std::vector<Text>{"angehalten", "Lied hinzufügen: Es wurde 1 neues Lied in die Datenbank kopiert.",
-                                 "Kategorie: A - T", "aufgebaut"}));
-    const Lied& lied = b.modell.Lieder[1];
-    EXPECT_EQ(b.modell.Anzahl_Lieder, 1);
-    EXPECT_EQ(lied.Titel, "T");
-    EXPECT_EQ(lied.Artist, "A");
-    EXPECT_EQ(lied.Kategorie, 4);
-    EXPECT_EQ(lied.Größe, 43);
-    EXPECT_GT(Sekunden_von(lied.Zeit), 0);
-}
-
-TEST(Lieder_Übernahme, gemeinsame_oder_einzelne_Kategorie) {
-    const Text frage =
-        "Lieder hinzufügen: Es wurden 3 neue Lieder in die Datenbank bewegt.\r\rHaben alle diese Lieder die gleiche "
-        "Kategorie?";
-    const struct {
-        Antwort antwort;
-        std::deque<int> klicks;
-        std::vector<Text> gefragt;
-        std::vector<int> kategorien;
-    } fälle[] = {
-        {Antwort::Ja, {5}, {"Kategorie:  - Alle neuen Lieder"}, {5, 5, 5}},
-        {Antwort::Nein,
-         {2, 6, 1},
-         {"Kategorie: --- - kein Tag/Datei nicht gefunden", "Kategorie: B&& - b",
-          "Kategorie: --- - kein Tag/Datei nicht gefunden"},
-         {2, 6, 1}},
-    };
-    for (const auto& fall : fälle) {
-        Bühne b;
-        b.ansicht.Antworten = {fall.antwort};
-        b.ansicht.Kategorien = fall.klicks;
-        auto a = auftrag({b.lege("Wer - Was.mp3", "a"), b.lege("b.mp3", mit_Tag("b", "B&")), b.lege("c.mp3", "c")});
-        a.Modus = Übernahmeart::bewegen;
-        EXPECT_TRUE(b.übernahme.ausführen(a));
-        std::vector<Text> erwartet = {"angehalten", frage};
-        erwartet.insert(erwartet.end(), fall.gefragt.begin(), fall.gefragt.end());
-        erwartet.push_back("aufgebaut");
-        EXPECT_EQ(b.ansicht.Ablauf, erwartet);
-        for (Long nr = 1; nr <= 3; ++nr)
-            EXPECT_EQ(b.modell.Lieder[nr].Kategorie, fall.kategorien[static_cast<std::size_t>(nr - 1)]);
-        EXPECT_EQ(b.modell.Lieder[1].Artist, "---");
-    }
-}
-
-TEST(Lieder_Übernahme, nichts_Übernommenes_trägt_nichts_ein) {
-    Bühne b;
-    EXPECT_TRUE(b.übernahme.ausführen(auftrag({b.quelle + "weg.mp3"})));
-    EXPECT_EQ(b.ansicht.Ablauf, std::vector<Text>{"angehalten"});
 }
 
 TEST(Lieder_Übernahme, gescheiterte_Analyse_lässt_die_Lieder_dahinter_leben) {

@@ -1,9 +1,8 @@
 #include "lieder/wartung.hpp"
 
-#include <algorithm>
+#include <gtest/gtest.h>
 
-#include "buehne.hpp"
-#include "lieder/vergleichsbericht.hpp"
+#include <algorithm>
 
 namespace tonkartei {
 namespace {
@@ -98,41 +97,6 @@ TEST(Mittelwert, Text) {
         const char* text;
     } fälle[] = {{2.5, "2,5"}, {3, "3,"}, {0, ","}, {0.25, ",3"}, {0.04, ","}, {12.96, "13,"}, {-1.5, "-1,5"}, {-0.04, ","}};
     for (const auto& fall : fälle) EXPECT_EQ(Mittelwert_Text(fall.wert), fall.text);
-}
-
-// Counts and category stay; what the file does not tell overwrites what the record said.
-TEST(Lieder_einlesen, füllt_jeden_Eintrag_aus_seiner_Datei) {
-    Bühne b;
-    for (int nr = 1; nr <= 3; ++nr) b.lege_Lied(10, 0);
-    for (Long nr = 1; nr <= 3; ++nr) {
-        b.modell.Lieder[nr].Anzahl = 7;
-        b.modell.Lieder[nr].Kategorie = 4;
-        b.modell.Lieder[nr].Zeit = Zeit_aus(0, 1, 0);
-    }
-    b.ordner.datei("db/00000001.MP3", Lied_Bytes(100000, 1, 0xFFFB9064U) + Tag_Bytes{.Titel = "T", .Artist = "A"}.Block());
-    // A variable bit rate without frames: its length cannot be worked out.
-    b.ordner.datei("db/00000002.MP3",
-                   Xing_Lied_Bytes(3000, 1, 0xFFFB9064U, 0) + Tag_Bytes{.Titel = "U", .Artist = "B"}.Block());
-    std::filesystem::remove(b.ordner.pfad("db/00000003.MP3"));
-    Lieder_einlesen einlesen{b.modell, b.mp3, b.fortschritt};
-    einlesen.alle_Lieder_einlesen();
-    const auto& lieder = std::as_const(b.modell).Lieder;
-    for (Long nr = 1; nr <= 3; ++nr) {
-        EXPECT_EQ(lieder[nr].Anzahl, 7);
-        EXPECT_EQ(lieder[nr].Kategorie, 4);
-    }
-    EXPECT_EQ(lieder[1].Artist + lieder[1].Titel, "AT");
-    EXPECT_EQ(lieder[1].Größe, 98);
-    EXPECT_EQ(Sekunden_von(lieder[1].Zeit), 6);
-    EXPECT_EQ(lieder[2].Artist + lieder[2].Titel, "BU");
-    EXPECT_EQ(lieder[2].Größe, 3);
-    EXPECT_EQ(lieder[2].Zeit, 0);
-    EXPECT_EQ(lieder[3].Artist, Artist_ohne_Tag);
-    EXPECT_EQ(lieder[3].Titel, Titel_ohne_Tag);
-    EXPECT_EQ(lieder[3].Größe, 0);
-    EXPECT_EQ(lieder[3].Zeit, 0);
-    EXPECT_EQ(b.ansicht.Fortschritte, std::vector<Text>{"Lieder-Namen/-Größe/-Zeit neu einlesen..."});
-    EXPECT_TRUE(b.ansicht.Ablauf.empty());
 }
 
 }  // namespace

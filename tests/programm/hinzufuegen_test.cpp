@@ -148,6 +148,7 @@ TEST_F(Hinzufügen, schlimme_Playlisten) {
     } fälle[] = {
         {"Namen, die es nicht gibt", "Some Band - A song that is not here.mp3\r\n", hundert_MB / 41, 1},
         {"eine Zeile ohne Ende", std::string(1000, 'x'), hundert_MB / 1000, 0},
+        {"lange Zeilen", std::string(1'000'000, 'x') + "\r\n", 10, 1},
         {"leere Zeilen", "\r\n", 10'000'000, 1},
         {"Nullbytes", std::string(1000, '\0') + "\n" + lied + std::string("\0\n", 2), 10'000, 1},
         {"Kommas und Blanks", ", ,  ,", 1'000'000, 1},
@@ -188,7 +189,9 @@ TEST_F(Hinzufügen, schlimme_Playlisten) {
 TEST_F(Hinzufügen, mehr_Dateien_als_Lieder_Platz_haben) {
     lege(1);
     ordner.ordner("quelle");
-    for (int n = 1; n <= 5001; ++n) ordner.datei("quelle/" + std::to_string(n) + ".mp3", "x");
+    const std::string eine = ordner.datei("eine", "x");
+    for (int n = 1; n <= 5001; ++n)
+        std::filesystem::create_hard_link(eine, ordner.pfad("quelle/" + std::to_string(n) + ".mp3"));
     starte(false);
     Verzeichnis("quelle");
     EXPECT_EQ(b->ereignis("laufzeitfehler")["nummer"], 9);

@@ -53,7 +53,9 @@ TEST_F(Lieder, drei_ohne_Tag) {
     lege("eins.mp3", std::string(1000, 'a'));
     lege("zwei.MP3", std::string(511, 'b'), Damals + 1);
     lege("leer.mp3", "");
-    ordner.ordner("quelle/ordner.mp3");
+    lege("vier.mp3.txt", "x");
+    ordner.datei("quelle/ordner.mp3/tief.mp3", (ordner.ordner("quelle/ordner.mp3"), "x"));
+    std::filesystem::create_symlink("nirgends", ordner.pfad("quelle/verweis.mp3"));
     öffnen(a);
     geschehen();
     Verzeichnis(ordner.pfad("quelle"));
@@ -120,8 +122,14 @@ TEST_F(Lieder, fremde_Namen) {
     EXPECT_EQ(b->zeilen("neue_Lieder_Liste.gefundene_Lieder"), (Zeilen{"??.mp3", "??.mp3"}));
     hand("klick neue_Lieder_Liste.MP3_Tags_lesen");
     EXPECT_EQ(b->zeilen("neue_Lieder_Liste.Lieder_hinzufügen"), (Zeilen{"&c - a,\"b", "€uro - Straße"}));
-    hände({"klick neue_Lieder_Liste.add_Option(2)", "klick neue_Lieder_Liste.Ok", "antwort Nein",
-           "wähle Kategorie_Wahl.Liste 1", "wähle Kategorie_Wahl.Liste 2"});
+    hände({"spieler neu \"Winamp v1.x\"", "klick neue_Lieder_Liste.add_Option(2)", "klick neue_Lieder_Liste.Ok"});
+    // Somebody's player may hold a file of the source; only that one is told to stop.
+    const auto protokoll = b->protokoll();
+    ASSERT_FALSE(protokoll.empty());
+    EXPECT_EQ(protokoll[0]["fenster"], "Winamp v1.x");
+    EXPECT_EQ(protokoll[0]["msg"], 273);
+    EXPECT_EQ(protokoll[0]["w"], 40047);
+    hände({"antwort Nein", "wähle Kategorie_Wahl.Liste 1", "wähle Kategorie_Wahl.Liste 2"});
     EXPECT_EQ(b->bereit(), "schleife");
     EXPECT_TRUE(std::filesystem::is_empty(quelle));
     hand("klick Tonkartei.MP_Beenden");
@@ -143,6 +151,13 @@ TEST_F(Lieder, Misslungenes) {
     EXPECT_EQ(geschehen(), Zeilen{keine});
     hand("antwort OK");
     EXPECT_EQ(b->bereit(), "schleife");
+    Verzeichnis(ordner.pfad("nirgends"));
+    EXPECT_EQ(geschehen(),
+              Zeilen{"Verzeichnis hinzufügen|Dieses Verzeichnis wurde nicht gefunden, oder es ist zur Zeit kein "
+                     "Zugriff darauf möglich!|i"});
+    hand("antwort OK");
+    EXPECT_EQ(b->bereit(), "schleife");
+    EXPECT_EQ(wert("Verzeichnis hinzufügen\\Nr. 2"), "-");
     // One copy fails: it leaves nothing, and the numbers close up.
     Verzeichnis(quelle);
     hände({"störung kopieren 1", "klick neue_Lieder_Liste.Ok"});
