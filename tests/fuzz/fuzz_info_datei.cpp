@@ -1,23 +1,16 @@
 // The reader of the info file: whatever its bytes, it reads them, says that it cannot, or ends with the overflow or bounds
 // error that damaged counts and numbers call for; and what it could read it writes back.
-#include <cstring>
-
 #include "datenbank/fortschritt.hpp"
 #include "datenbank/info_datei.hpp"
 #include "datenbank/vorschau.hpp"
+#include "fuzz/treiber.hpp"
 #include "mp3/speicher_dateisystem.hpp"
 #include "plattform/kanaele.hpp"
 #include "probe/stumme_ansicht.hpp"
-#include "treiber.hpp"
 
 using namespace tonkartei;
 
 namespace {
-
-// Nobody is there to say no: every question is answered with yes.
-struct Ja_Ansicht : Stumme_Ansicht {
-    Antwort melden(const Meldungsfeld&) override { return Antwort::Ja; }
-};
 
 std::string Saat(const std::string& version) {
     std::string bytes = "Tonkartei\r\n" + version + "\r\n 2 \r\nAlle\r\nTechno\r\n 1 \r\n";

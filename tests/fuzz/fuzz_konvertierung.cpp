@@ -3,10 +3,10 @@
 #include "datenbank/fortschritt.hpp"
 #include "datenbank/info_datei.hpp"
 #include "datenbank/konvertierung.hpp"
+#include "fuzz/treiber.hpp"
 #include "mp3/speicher_dateisystem.hpp"
 #include "plattform/kanaele.hpp"
 #include "probe/stumme_ansicht.hpp"
-#include "treiber.hpp"
 
 using namespace tonkartei;
 
@@ -14,22 +14,11 @@ namespace {
 
 constexpr const char* Pfad = "/MP3_Info.MDB";
 
-struct Ja_Ansicht : Stumme_Ansicht {
-    Antwort melden(const Meldungsfeld&) override { return Antwort::Ja; }
-};
-
-// Names can change here, and writing makes files.
 struct Platte : Speicher_Dateisystem {
-    Griff öffnen(const Text& pfad, Dateimodus modus) override {
-        if (modus == Dateimodus::schreiben) Dateien[pfad] = {};
-        return Speicher_Dateisystem::öffnen(pfad, modus);
-    }
     void umbenennen(const Text& von, const Text& nach) override {
         verlangt(offene() == 0, "no file is renamed while one is open");
-        Dateien[nach] = Dateien.at(von);
-        Dateien.erase(von);
+        Speicher_Dateisystem::umbenennen(von, nach);
     }
-    void löschen(const Text& pfad) override { Dateien.erase(pfad); }
 };
 
 std::string Saat_1_00() {

@@ -6,19 +6,6 @@ namespace {
 
 class Nachrichten : public Bühne {};
 
-TEST_F(Nachrichten, OhneDateiGestoppt) {
-    const Hwnd f = Spieler_mit();
-    ASSERT_NE(0, f);
-    EXPECT_EQ("Tonkartei", System.GetClassNameA(f));
-    EXPECT_EQ(0, Status(f));
-    EXPECT_EQ(-1, Position(f));
-    EXPECT_EQ(-1, Länge(f));
-    for (const int code : {40045, 40046, 40047, 40144, 40148, 1}) Befehl(f, code);
-    springen(f, 5000);
-    EXPECT_EQ(0, Status(f));
-    EXPECT_EQ(-1, Position(f));
-}
-
 TEST_F(Nachrichten, WiedergabePauseStopp) {
     const Hwnd f = Spieler_mit({Lied("a.wav")});
     EXPECT_EQ(1, Status(f)) << "taken is playing, sound or not";
@@ -101,14 +88,6 @@ TEST_F(Nachrichten, Springen) {
     EXPECT_EQ(-1, Länge(f));
 }
 
-TEST_F(Nachrichten, EndeDesLiedesStoppt) {
-    const Hwnd f = Spieler_mit({Lied("kurz.wav", 0.3)});
-    EXPECT_TRUE(warte([&] { return Status(f) == 0; }));
-    EXPECT_EQ(-1, Position(f));
-    Befehl(f, 40045);
-    EXPECT_EQ(1, Status(f));
-}
-
 TEST_F(Nachrichten, LautstärkeBleibtJeKlasse) {
     const Hwnd a = Spieler_mit();
     EXPECT_EQ(255, System.Zustand(a)->Lautstärke);
@@ -118,8 +97,16 @@ TEST_F(Nachrichten, LautstärkeBleibtJeKlasse) {
     }
     System.SendMessageA(a, WM_CLOSE, 0, 0);
     EXPECT_EQ(191, System.Zustand(Spieler_mit())->Lautstärke);
+    // A signal ends it in order, too.
+    const pid_t pid = starten({"/CLASS=../Tonkartei"});
+    const Hwnd f = Fenster_von("../Tonkartei");
+    EXPECT_EQ(255, System.Zustand(f)->Lautstärke) << "no path";
+    System.SendMessageA(f, WM_USER, 77, 122);
+    ::kill(pid, SIGTERM);
+    EXPECT_EQ(0, Ende(pid));
+    EXPECT_FALSE(std::filesystem::exists(Fensterordner() + std::to_string(f)));
     starten({"/CLASS=../Tonkartei"});
-    EXPECT_EQ(255, System.Zustand(Fenster_von("../Tonkartei"))->Lautstärke);
+    EXPECT_EQ(77, System.Zustand(Fenster_von("../Tonkartei"))->Lautstärke);
 }
 
 TEST_F(Nachrichten, SchließenHeißtWeg) {
@@ -133,16 +120,6 @@ TEST_F(Nachrichten, SchließenHeißtWeg) {
     EXPECT_EQ(0, anderes.SendMessageA(f, WM_USER, 0, 104));
     EXPECT_FALSE(std::filesystem::exists(Fensterordner() + std::to_string(f)));
     EXPECT_EQ(0, Ende(pid));
-}
-
-TEST_F(Nachrichten, SignalEndetOrdentlich) {
-    const pid_t pid = starten({"/CLASS=Tonkartei", Lied("a.wav")});
-    const Hwnd f = Fenster_von("Tonkartei");
-    System.SendMessageA(f, WM_USER, 77, 122);
-    ::kill(pid, SIGTERM);
-    EXPECT_EQ(0, Ende(pid));
-    EXPECT_FALSE(std::filesystem::exists(Fensterordner() + std::to_string(f)));
-    EXPECT_EQ(77, System.Zustand(Spieler_mit())->Lautstärke);
 }
 
 TEST_F(Nachrichten, FensterrufeBleibenBeimFenster) {
