@@ -150,13 +150,12 @@ TEST_F(Albenbühne, nach_einem_Fehlschlag_steht_noch_eine_ganze_Datei) {
     ordner.datei(Alben_Datei_Name, ganz);
     ASSERT_TRUE(datei.Alben_lesen());
     modell.Alben_geändert = true;
-    dateien.voll = true;
+    störungen.Fehler_bestellen(Vorgang::schreiben, 1);
     EXPECT_FALSE(datei.Alben_schreiben());
     EXPECT_TRUE(modell.Alben_geändert);
     EXPECT_EQ(ordner.inhalt(Alben_Kopie_Name), ganz);
     EXPECT_FALSE(kanäle.offen(1));
     // As long as that copy is there, it is not overwritten.
-    dateien.voll = false;
     const std::string rest = albdatei();
     EXPECT_FALSE(datei.Alben_schreiben());
     EXPECT_EQ(ordner.inhalt(Alben_Kopie_Name), ganz);

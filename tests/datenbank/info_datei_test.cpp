@@ -101,26 +101,5 @@ TEST_F(Info_Test, Kopf) {
     }
 }
 
-// The access file of a saved collection is taken away; a folder of its name cannot be, and counts as none.
-TEST_F(Info_Test, OrdnerStattZugriffsdatei) {
-    ordner.datei("MP3_Info.MDB", Datei("x"));
-    ASSERT_TRUE(laden());
-    ordner.ordner("MP3_Info.DBG");
-    EXPECT_TRUE(info.schreibe_Datenbank(false));
-}
-
-TEST_F(Info_Test, InsTempKonvertiertWirdNichtGespeichert) {
-    ordner.datei("MP3_Info.MDB", Datei("x"));
-    ASSERT_TRUE(laden());
-    modell.konvertiert_in_Temp = true;
-    modell.Temp_Info_Datei = ordner.datei("Tempkonv.MDB", "x");
-    EXPECT_FALSE(info.schreibe_Datenbank(true));
-    EXPECT_EQ(ansicht.Meldungen.back(),
-              "Datenbank speichern|Die Datenbank wurde nur in ein Temp-Verzeichnis konvertiert."
-              "\r\rAlle Änderungen gehen beim schließen verloren.");
-    EXPECT_FALSE(ordner.da("Tempkonv.MDB"));
-    EXPECT_FALSE(modell.konvertiert_in_Temp);
-}
-
 }  // namespace
 }  // namespace tonkartei

@@ -152,43 +152,30 @@ void prüfe_Einschluss(std::string_view von, const Raum& raum, const std::string
 }
 
 // Depth first; each loop is reported once, at the file that closes it.
-class Schleifensuche {
-public:
-    Schleifensuche(const std::map<std::string, std::vector<std::string>>& kanten, std::vector<Verstoß>& verstöße)
-        : Kanten_(kanten), Verstöße_(verstöße) {}
-
-    void suche() {
-        for (const auto& [datei, _] : Kanten_) besuche(datei);
-    }
-
-private:
-    void besuche(const std::string& datei) {
-        if (Fertig_.contains(datei)) return;
-        Weg_.push_back(datei);
-        if (const auto nach = Kanten_.find(datei); nach != Kanten_.end()) {
-            for (const std::string& ziel : nach->second) {
-                const auto anfang = std::find(Weg_.begin(), Weg_.end(), ziel);
-                if (anfang == Weg_.end()) {
-                    besuche(ziel);
-                    continue;
-                }
-                std::string runde;
-                for (auto station = anfang; station != Weg_.end(); ++station) runde.append(*station).append(" > ");
-                Verstöße_.push_back({datei, 0, "include loop: " + runde + ziel});
+void suche_Schleifen(const std::map<std::string, std::vector<std::string>>& kanten, std::vector<Verstoß>& verstöße) {
+    std::vector<std::string> weg;
+    std::set<std::string> fertig;
+    const std::function<void(const std::string&)> besuche = [&](const std::string& datei) {
+        const auto nach = kanten.find(datei);
+        if (nach == kanten.end() || fertig.contains(datei)) return;
+        weg.push_back(datei);
+        for (const std::string& ziel : nach->second) {
+            auto station = std::find(weg.begin(), weg.end(), ziel);
+            if (station == weg.end()) {
+                besuche(ziel);
+                continue;
             }
+            std::string runde;
+            for (; station != weg.end(); ++station) runde += *station + " > ";
+            verstöße.push_back({datei, 0, "include loop: " + runde + ziel});
         }
-        Weg_.pop_back();
-        Fertig_.insert(datei);
-    }
+        weg.pop_back();
+        fertig.insert(datei);
+    };
+    for (const auto& [datei, _] : kanten) besuche(datei);
+}
 
-    const std::map<std::string, std::vector<std::string>>& Kanten_;
-    std::vector<Verstoß>& Verstöße_;
-    std::vector<std::string> Weg_;
-    std::set<std::string> Fertig_;
-};
-
-}  // namespace
-
+// Comments and the contents of strings and character literals as blanks, line breaks kept; include paths stay.
 std::string nur_Code(const std::string& text) {
     std::string code = text;
     const auto hinter = [&](std::string_view schluss, std::size_t ab) {
@@ -222,6 +209,8 @@ std::string nur_Code(const std::string& text) {
     return code;
 }
 
+}  // namespace
+
 std::vector<Verstoß> prüfe(const Quellen& quellen) {
     std::vector<Verstoß> verstöße;
     std::map<std::string, std::vector<std::string>> kanten;
@@ -249,7 +238,7 @@ std::vector<Verstoß> prüfe(const Quellen& quellen) {
             if (raum) prüfe_Einschluss(von, *raum, pfad, spitz, ziel, melde);
         }
     }
-    Schleifensuche(kanten, verstöße).suche();
+    suche_Schleifen(kanten, verstöße);
     return verstöße;
 }
 

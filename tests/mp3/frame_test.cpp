@@ -2,7 +2,6 @@
 
 #include "mp3/bausteine.hpp"
 #include "mp3/mp3_taghead.hpp"
-#include "mp3/mpeg_tabellen.hpp"
 #include "mp3/speicher_dateisystem.hpp"
 
 namespace tonkartei {
@@ -126,17 +125,6 @@ TEST_F(Frame, feste_Bitrate_und_Zeit) {
         ASSERT_TRUE(mp3.MP3_Info_lesen());
         EXPECT_EQ(mp3.Bitrate, Raten[i]);
     }
-}
-
-TEST(MPEG_Tabellen, auch_was_kein_Kopf_ergibt) {
-    EXPECT_EQ(Samplerate_von(27, 0), 22050);
-    for (const Long version : {25, 0, 2}) EXPECT_FALSE(Samplerate_von(version, 0));
-    EXPECT_EQ(Bitrate_von(1, 1, 14), 448);
-    EXPECT_EQ(Bitrate_von(1, 2, 2), 48);
-    EXPECT_EQ(Bitrate_von(25, 5, 9), 144);
-    EXPECT_EQ(Bitrate_von(2, 3, 9), 1);
-    EXPECT_EQ(Framegröße_Faktor(1), 12);
-    EXPECT_EQ(Framegröße_Faktor(2), 144);
 }
 
 TEST_F(Frame, Xing) {

@@ -140,17 +140,6 @@ TEST_F(Desktop, ListClicksCountAlsoOnTheChosenLineAndTheRightButtonChoosesNothin
     EXPECT_TRUE(liste.viewport()->rect().contains(gewählte)) << "the chosen line stays wholly in sight";
 }
 
-TEST_F(Desktop, TypingReachesTheModelOnceAndProgramTextsDoNotComeBack) {
-    auto& zeile = widget<QLineEdit>(fenster.Suche);
-    Taste_auf(zeile, Qt::Key_A, QStringLiteral("ä"));
-    EXPECT_EQ(fenster.Suche.text(), "ä");
-    EXPECT_EQ(fenster.geändert, 1);
-    fenster.Suche.text("Programm");
-    abgleichen();
-    EXPECT_EQ(zeile.text(), QStringLiteral("Programm"));
-    EXPECT_EQ(fenster.geändert, 2);
-}
-
 TEST_F(Desktop, KeysGoToHandlersFirst) {
     auto& zeile = widget<QLineEdit>(fenster.Suche);
     std::vector<Taste::Art> gesehen;
@@ -161,6 +150,11 @@ TEST_F(Desktop, KeysGoToHandlersFirst) {
     Taste_auf(zeile, Qt::Key_X, QStringLiteral("x"));
     Taste_auf(zeile, Qt::Key_Y, QStringLiteral("y"));
     EXPECT_EQ(fenster.Suche.text(), "y");
+    EXPECT_EQ(fenster.geändert, 1);
+    fenster.Suche.text("Programm");
+    abgleichen();
+    EXPECT_EQ(zeile.text(), QStringLiteral("Programm"));
+    EXPECT_EQ(fenster.geändert, 2) << "it does not come back";
     Taste_auf(zeile, Qt::Key_Return, QStringLiteral("\r"));
     EXPECT_EQ(fenster.ok, 1) << "Return presses the default button";
     EXPECT_EQ(gesehen, (std::vector{Taste::Art::Zeichen, Taste::Art::Zeichen, Taste::Art::Return}));
@@ -348,6 +342,7 @@ TEST_F(Desktop, AMenusPictureShowsItsMarksAndGrowsWithItsEntries) {
         EXPECT_TRUE(ansicht.maler().Bild_speichern(datei, ordner.pfad("menü.png")));
         return QImage(QString::fromStdString(ordner.pfad("menü.png")));
     };
+    EXPECT_TRUE(ansicht.maler().Bild_speichern(fenster, ordner.pfad("fenster.png")));
     const QImage vorher = malen();
     Menüpunkt& neu = datei.anfügen({"Neu", "&Übermäßig langer Eintrag eines Menüs", 1, [] {}, {}});
     const QImage länger = malen();

@@ -75,20 +75,6 @@ TEST_F(DateisystemTest, FehlerNachZahlen) {
     EXPECT_EQ(dateien.Dateilänge(p("fifo")), -1);
 }
 
-TEST_F(DateisystemTest, OhneRechte) {
-    if (::geteuid() == 0) GTEST_SKIP() << "root may do everything";
-    const Text gesperrt = ordner.ordner("gesperrt");
-    ordner.datei("gesperrt/x", "x");
-    ::chmod(ordner.datei("geheim", "x").c_str(), 0);
-    ::chmod(gesperrt.c_str(), 0500);
-    EXPECT_EQ(Fehler_von([&] { dateien.öffnen(ordner.pfad("geheim"), Dateimodus::lesen); }), 75);
-    EXPECT_EQ(Fehler_von([&] { dateien.löschen(gesperrt + "x"); }), 70);
-    EXPECT_EQ(Fehler_von([&] { dateien.umbenennen(gesperrt + "x", gesperrt + "y"); }), 75);
-    EXPECT_EQ(Fehler_von([&] { dateien.öffnen(gesperrt + "neu", Dateimodus::schreiben); }), 75);
-    ::chmod(gesperrt.c_str(), 0);
-    EXPECT_EQ(Fehler_von([&] { dateien.auflisten(gesperrt); }), 70);
-}
-
 // What is open here is refused under every name of the file, and is free again once it is closed.
 TEST_F(DateisystemTest, OffeneDateien) {
     const Text pfad = ordner.datei("lied", "alt");
@@ -116,23 +102,6 @@ TEST_F(DateisystemTest, OffeneDateien) {
     EXPECT_EQ(Fehler_von([&] { dateien.lesen(schreibend, 0, {}); }), 52);
     EXPECT_NO_THROW(dateien.löschen(zweiter));
     EXPECT_NO_THROW(dateien.löschen(pfad));
-}
-
-TEST_F(DateisystemTest, StückeLesenUndÄndern) {
-    const Text pfad = ordner.datei("lied", "0123456789");
-    const auto griff = dateien.öffnen(pfad, Dateimodus::ändern);
-    dateien.schreiben(griff, 8, std::string_view("abcd"));
-    EXPECT_EQ(dateien.Länge(griff), 12U);
-    char puffer[8];
-    EXPECT_EQ(dateien.lesen(griff, 7, puffer), 5U);
-    EXPECT_EQ(std::string_view(puffer, 5), "7abcd");
-    EXPECT_EQ(dateien.lesen(griff, 12, puffer), 0U);
-    EXPECT_EQ(dateien.lesen(griff, 5'000'000'000, puffer), 0U);
-    dateien.sichern(griff);
-    dateien.schließen(griff);
-    EXPECT_EQ(ordner.inhalt("lied"), "01234567abcd");
-    schreib(pfad, "kurz");
-    EXPECT_EQ(ordner.inhalt("lied"), "kurz");
 }
 
 TEST_F(DateisystemTest, SchreibweiseDesNamens) {

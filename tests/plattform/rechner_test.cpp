@@ -55,10 +55,10 @@ TEST(Rechner, ZweiteInstanz) {
         EXPECT_TRUE(zweite.andere_Instanz_läuft());
         // A started process does not hold the lock on: exec closes it.
         if (::fork() == 0) {
-            ::execl("/bin/sleep", "sleep", "1", static_cast<char*>(nullptr));
+            ::execl("/bin/sleep", "sleep", "0.4", static_cast<char*>(nullptr));
             ::_exit(1);
         }
-        ::usleep(200'000);
+        ::usleep(100'000);
     }
     EXPECT_FALSE(Rechner_Linux(ordner.pfad()).andere_Instanz_läuft());
     EXPECT_FALSE(Rechner_Linux(ordner.pfad("fehlt")).andere_Instanz_läuft());

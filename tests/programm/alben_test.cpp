@@ -105,13 +105,13 @@ TEST_F(Alben_Tab, Lage_und_Bewegung) {
         EXPECT_EQ(pausen(), animiert ? 150 : 0);
         hand("wähle Tonkartei.Liste 1");  // it is there already
         EXPECT_EQ(pausen(), 0);
-        for (int runde = 0; runde < 2; ++runde) {
-            const auto liste = lage("Liste"), liste2 = lage("Liste2");
-            const int unten = liste["oben"].get<int>() + liste["höhe"].get<int>();
-            EXPECT_EQ(liste2["oben"].get<int>(), liste["oben"].get<int>() + liste["höhe"].get<int>() / 5);
-            EXPECT_EQ(liste2["oben"].get<int>() + liste2["höhe"].get<int>(), unten);
-            EXPECT_EQ(liste2["breite"], liste["breite"]);
-            hand("größe Tonkartei 18000 12000");
+        for (const char* größe : {"18000 12000", "13000 9000"}) {
+            hand(std::string("größe Tonkartei ") + größe);
+            const auto unten = lage("Liste2");
+            const int oben = lage("Liste")["oben"], höhe = lage("Liste")["höhe"];
+            EXPECT_EQ(unten["oben"].get<int>(), oben + höhe / 5);
+            EXPECT_EQ(unten["oben"].get<int>() + unten["höhe"].get<int>(), oben + höhe);
+            EXPECT_EQ(unten["breite"], lage("Liste")["breite"]);
         }
         tab(0);
         EXPECT_EQ(pausen(), animiert ? 150 : 0);
@@ -138,8 +138,20 @@ TEST_F(Alben_Tab, startet_das_Lied_des_Titels) {
     EXPECT_EQ(Befehl_nach({"klick Tonkartei.Lied_starten"}), "") << "no title is chosen";
     EXPECT_EQ(Befehl_nach({"wähle Tonkartei.Liste2 1", "klick Tonkartei.Lied_starten"}), "") << "not in the collection";
     EXPECT_EQ(Befehl_nach({"wähle Tonkartei.Liste2 2", "klick Tonkartei.Lied_starten"}), "\"" + a + "00000003.MP3\"");
-    EXPECT_EQ(Befehl_nach({"klick Tonkartei.Menü_starte_Album", "wähle Album_wählen.Liste 0", "klick Album_wählen.Ok"}),
-              "\"" + wa + "Tonkartei-Playlist.M3U\"");
+    // The whole album, chosen from the menu: only with a line and not when cancelled.
+    const std::string liste = "\"" + wa + "Tonkartei-Playlist.M3U\"";
+    const struct {
+        Zeilen hände;
+        std::string befehl;
+    } fälle[] = {{{"klick Album_wählen.Ok"}, ""},
+                 {{"wähle Album_wählen.Liste 0", "klick Album_wählen.Abbruch"}, ""},
+                 {{"wähle Album_wählen.Liste 0", "doppelklick Album_wählen.Liste"}, liste},
+                 {{"wähle Album_wählen.Liste 0", "klick Album_wählen.Ok"}, liste}};
+    for (const auto& fall : fälle) {
+        hand("klick Tonkartei.Menü_starte_Album");
+        EXPECT_EQ(b->zeilen("Album_wählen.Liste"), (Zeilen{"Aller Anfang - Berta", "Eins - Änne", "Zwei - anna"}));
+        EXPECT_EQ(Befehl_nach(fall.hände), fall.befehl);
+    }
     EXPECT_EQ(ordner.inhalt("wa/Tonkartei-Playlist.M3U"), a + "00000002.MP3\r\n" + a + "00000003.MP3\r\n");
     EXPECT_EQ(geschehen(), Zeilen{"Fortschritt|Datenbank laden..."});
 }
@@ -148,6 +160,9 @@ TEST_F(Alben_Tab, fällt_zurück_wo_nichts_zu_zeigen_ist) {
     öffnen(a);
     geschehen();
     const std::string kaputt = Kopf + " 2 \r\n" + Album_leer;
+    hand("klick Tonkartei.Menü_starte_Album");
+    EXPECT_EQ(geschehen(), Zeilen{"Album spielen|Für diese Datenbank existiert noch keine Alben-Verwaltung!|i"});
+    hand("antwort OK");
     for (const std::string& box : {Fehlt, Unlesbar}) {
         if (box == Unlesbar) ordner.datei("a/MP3_Info.ALB", kaputt);
         tab(1);
@@ -156,6 +171,8 @@ TEST_F(Alben_Tab, fällt_zurück_wo_nichts_zu_zeigen_ist) {
         EXPECT_EQ(gewählter_Tab(), 0);
         EXPECT_EQ(liste().size(), 3U);
     }
+    hand("klick Tonkartei.Menü_starte_Album");
+    EXPECT_EQ(geschehen(), Zeilen{}) << "it ends without a word";
     beenden();
     EXPECT_EQ(ordner.inhalt("a/MP3_Info.ALB"), kaputt);
 }

@@ -45,27 +45,30 @@ TEST_F(Start, Parameter) {
                 << k;
         hand("schließe Tonkartei");
     }
+    öffnen(a, "I");
+    hand("klick Tonkartei.zeige_Parameter");
+    EXPECT_TRUE(geschehen().back().ends_with("anneinander gereiht werden. Zum Beispiel:\n\nTonkartei RAM|i"));
 }
 
 TEST_F(Start, Platz_auf_dem_Schirm) {
     öffnen(a);
     const auto erstes = b->fenster("Tonkartei");
-    const int breite = erstes["breite"], höhe = erstes["höhe"];
-    const int rechts = 1280 * 15 - breite, unten = 1024 * 15 - höhe;
+    const int rechts = 1280 * 15 - erstes["breite"].get<int>(), unten = 1024 * 15 - erstes["höhe"].get<int>();
     // Kept only when the window lies wholly on the screen, edges included.
-    struct Fall {
-        int x, y;
-        bool merken, gilt;
-    };
-    for (const Fall& f : {Fall{0, 0, true, true}, Fall{rechts, unten, true, true}, Fall{rechts + 1, 0, true, false},
-                          Fall{0, unten + 1, true, false}, Fall{-1, 0, true, false}, Fall{0, -1, true, false},
-                          Fall{15, 15, false, false}, Fall{2147483647, 0, true, false}}) {
-        SCOPED_TRACE(std::to_string(f.x) + " " + std::to_string(f.y));
+    for (const auto& [x, y, merken, gilt] : {std::tuple{rechts, unten, true, true},
+                                             {0, 0, true, true},
+                                             {rechts + 1, 0, true, false},
+                                             {0, unten + 1, true, false},
+                                             {-1, 0, true, false},
+                                             {0, -1, true, false},
+                                             {15, 15, false, false},
+                                             {2147483647, 0, true, false}}) {
+        SCOPED_TRACE(std::to_string(x) + " " + std::to_string(y));
         öffnen(a, "I",
-               {"PositionX=" + std::to_string(f.x), "PositionY=" + std::to_string(f.y),
-                std::string("Position merken=") + (f.merken ? "True" : "False")});
-        EXPECT_EQ(b->fenster("Tonkartei")["links"], f.gilt ? f.x : rechts / 2);
-        EXPECT_EQ(b->fenster("Tonkartei")["oben"], f.gilt ? f.y : unten / 2);
+               {"PositionX=" + std::to_string(x), "PositionY=" + std::to_string(y),
+                std::string("Position merken=") + (merken ? "True" : "False")});
+        EXPECT_EQ(b->fenster("Tonkartei")["links"], gilt ? x : rechts / 2);
+        EXPECT_EQ(b->fenster("Tonkartei")["oben"], gilt ? y : unten / 2);
     }
 }
 

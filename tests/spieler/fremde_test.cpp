@@ -5,7 +5,6 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 
-#include <atomic>
 #include <random>
 
 #include "plattform/linux/schreibtisch.hpp"
@@ -15,7 +14,6 @@ namespace tonkartei::spieler {
 namespace {
 
 using protokoll::Anfrage;
-using protokoll::Antwort;
 using protokoll::Art;
 
 template <class Werk>
@@ -153,57 +151,6 @@ TEST_F(Fremde, WasKeinFensterIstStörtDenBlickNicht) {
         << "who was mute is not waited for again";
     EXPECT_EQ(0, System.SendMessageA(9006, WM_USER, 0, 104));
     EXPECT_EQ(0, Status(f));
-}
-
-// Listening sockets that answer the greeting with each of these; only the last one is a window, and it answers its first
-// question with rubbish.
-TEST_F(Fremde, FalscheKöpfeSindKeineFenster) {
-    Antwort kopf, fremd;
-    fremd.Kennung = 1;
-    fremd.Ergebnis = 9003;
-    const auto mit = [&](Hwnd griff, std::string_view klasse) {
-        kopf.Ergebnis = griff;
-        return protokoll::gepackt(kopf, klasse);
-    };
-    const std::vector<std::string> Köpfe{
-        "x",
-        std::string(sizeof(Antwort), '\xFF'),
-        mit(9002, "Tonkartei").substr(0, 16),
-        protokoll::gepackt(fremd, "Tonkartei"),
-        mit(1, "Tonkartei"),
-        mit(9005, ""),
-        mit(9006, std::string(256, 'k')),
-        mit(9007, std::string(60'000, 'k')),
-        "",
-        mit(9009, "Tonkartei"),
-    };
-    std::vector<Deskriptor> attrappen;
-    for (std::size_t i = 0; i < Köpfe.size(); ++i) attrappen.push_back(Attrappe(static_cast<Hwnd>(9000 + i)));
-    std::atomic<bool> ende = false;
-    std::thread antworter([&] {
-        std::vector<Deskriptor> offen;
-        while (!ende) {
-            for (std::size_t i = 0; i < Köpfe.size(); ++i) {
-                pollfd p{attrappen[i].fd(), POLLIN, 0};
-                if (::poll(&p, 1, 1) <= 0) continue;
-                Deskriptor s(::accept(attrappen[i].fd(), nullptr, nullptr));
-                if (!Köpfe[i].empty()) senden(s, Köpfe[i]);
-                if (i + 1 == Köpfe.size()) offen.push_back(std::move(s));
-            }
-            for (auto& s : offen) {
-                char puffer[256];
-                const auto n = ::recv(s.fd(), puffer, sizeof(puffer), MSG_DONTWAIT);
-                Anfrage anfrage;
-                if (n == sizeof(anfrage)) std::memcpy(&anfrage, puffer, sizeof(anfrage));
-                if (n > 0 && anfrage.Art != Art::Gruß) senden(s, "unfug");
-            }
-        }
-    });
-    EXPECT_EQ(std::vector<Hwnd>{9009}, alle_Fenster());
-    EXPECT_EQ(0, System.SendMessageA(9009, WM_USER, 0, 104));
-    EXPECT_TRUE(alle_Fenster().empty()) << "a window that talks rubbish was none";
-    ende = true;
-    antworter.join();
 }
 
 TEST_F(Fremde, HängenderSpielerKostetNurDieFrist) {

@@ -125,7 +125,6 @@ TEST(WinAmp_Optionen, Verzeichnis) {
     b.Spiel.Optionen.WinAmp_Verzeichnis_wählen();
     EXPECT_EQ(b.Ansicht.gefragt, "Verzeichnis von WinAmp:");
     EXPECT_EQ(b.Einstellungen.WinAmp_Verzeichnis, vorher) << "cancelled";
-    EXPECT_TRUE(b.Ansicht.Meldungen.empty());
 
     const Text anderes = b.Ordner.ordner("anderes");
     b.Ansicht.Antworten = {b.Ordner.pfad("anderes"), vorher.substr(0, vorher.size() - 1)};
@@ -139,16 +138,9 @@ TEST(WinAmp_Optionen, Verzeichnis) {
 
 TEST(WinAmp_Optionen, Zeit_Anzahl) {
     Bühne b;
-    for (const auto& [antwort, danach] : {std::pair<const char*, Long>{"30", 30},
-                                          {"", 10},
-                                          {"0", 10},
-                                          {"-5", 10},
-                                          {"viel", 10},
-                                          {"0,5", 10},
-                                          {"0.5", 0},
-                                          {"1.5", 2},
-                                          {"2.5", 2},
-                                          {" 7 Sekunden", 7}}) {
+    const std::pair<const char*, Long> fälle[] = {{"30", 30}, {"0", 10},  {"-5", 10}, {"viel", 10},       {"0,5", 10},
+                                                  {"0.5", 0}, {"1.5", 2}, {"2.5", 2}, {" 7 Sekunden", 7}, {"", 10}};
+    for (const auto& [antwort, danach] : fälle) {
         b.Einstellungen.Anzahl_Zeit = 10;
         b.Ansicht.Antworten = {antwort};
         b.Spiel.Optionen.Zeit_Anzahl();
