@@ -14,8 +14,13 @@ struct Schaufenster : Fenster {
         Vorgabeknopf = &Ok;
         Abbruchknopf = &Abbruch;
         Lied_Titel.wie_Daten = Lied_Titel.eingerahmt = Hinweis.umbrechen = true;
+        Lied_Titel.ausrichtung = Schriftfeld::Ausrichtung::rechts;
         Play.Bild = "play";
-        Play.klein = true;
+        Pause.Bild = "pause";
+        Vor.Bild = "vor";
+        Play.klein = Pause.klein = Vor.klein = true;
+        Pop.farbe(RGB(192, 0, 0));
+        Rot.aktiv(false);
         Rot.hintergrund(RGB(255, 220, 220));
         Genre.setzen({"Blues", "Classic Rock", "Jazz", "Übermäßig lange Bezeichnung eines Genres"});
         Genre.wähle(1);
@@ -32,8 +37,9 @@ struct Schaufenster : Fenster {
                           Zeile({Spalte({Knoten(Liste).dehnen(1, 1), Zeile({Suche_Schrift, Knoten(Suche).dehnen(1)})})
                                      .dehnen(1, 1),
                                  Spalte({Gruppe(Kategorien, Gitter(2, {Pop, Klassik})),
-                                         Gruppe(Sortierung, Zeile({nach_Titel, nach_Artist})), Genre, Play, Lautstärke,
-                                         Bildlauf, Hinweis, Fortschritt, Feder(0, 1)})})
+                                         Gruppe(Sortierung, Zeile({nach_Titel, nach_Artist})), Genre,
+                                         Gruppe(Panel, Zeile({Play, Pause, Vor})), Lautstärke, Bildlauf, Hinweis,
+                                         Fortschritt, Feder(0, 1)})})
                               .dehnen(1, 1),
                           Zeile({Feder(1), Rot, Ok, Abbruch}),
                       })
@@ -54,7 +60,10 @@ struct Schaufenster : Fenster {
     Optionsfeld nach_Titel{*this, "sortieren", "Titel", 1};
     Optionsfeld nach_Artist{*this, "sortieren", "Artist", 2};
     Auswahlfeld Genre{*this, "Genre"};
+    Rahmen Panel{*this, "Panel"};
     Knopf Play{*this, "Play", "Play"};
+    Knopf Pause{*this, "Pause", "Pause"};
+    Knopf Vor{*this, "Vor", ">>"};
     Regler Lautstärke{*this, "Lautstärke", 0, 100};
     Regler Bildlauf{*this, "Bildlauf", 0, 20, ohne_Index, Regler::Form::Bildlauf};
     Schriftfeld Hinweis{*this, "Hinweis", "Doppelklick startet das Lied; mit der rechten Taste öffnet sich das Menü."};

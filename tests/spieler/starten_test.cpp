@@ -120,6 +120,7 @@ TEST_F(Starten, NichtsSpielbaresIstGestoppt) {
     EXPECT_TRUE(warte([&] { return Status(f) == 0; }));
     for (const int code : {40046, 40047, 40144, 40148, 1}) Befehl(f, code);
     springen(f, 5000);
+    EXPECT_EQ(0, System.SendMessageA(f, WM_USER, 1, 4711));
     EXPECT_EQ(0, Status(f));
     EXPECT_EQ(-1, Position(f));
     EXPECT_EQ(-1, Länge(f));
