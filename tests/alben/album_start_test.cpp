@@ -49,7 +49,7 @@ TEST_F(Album_starten, nichts_davon_da) {
 
 TEST_F(Album_starten, Liste_kann_nicht_geschrieben_werden) {
     const Long nr = album("x", {1});
-    dateien.voll = true;
+    störungen.Fehler_bestellen(Vorgang::schreiben, 1);
     start.starte_Album(nr);
     einstellungen.WinAmp_Verzeichnis = ordner.pfad("fehlt/");
     start.starte_Album(nr);
@@ -58,59 +58,6 @@ TEST_F(Album_starten, Liste_kann_nicht_geschrieben_werden) {
     EXPECT_TRUE(ansicht.Meldungen[1].starts_with("Tonkartei|"));
     EXPECT_TRUE(ansicht.Meldungen[1].ends_with(ordner.pfad("fehlt/Tonkartei-Playlist.M3U")));
     EXPECT_FALSE(kanäle.offen(1));
-}
-
-TEST_F(Album_starten, vom_Menü_aus) {
-    befehle.Menü_starte_Album();
-    EXPECT_EQ(ansicht.Meldungen,
-              std::vector<Text>{"Album spielen|Für diese Datenbank existiert noch keine Alben-Verwaltung!"});
-    neue_Boxen();
-
-    album("Zett", {1});
-    album("äpfel", {2});
-    album("Birnen", {3});
-    album("äpfel", {});
-    modell.Alben_geladen = true;
-    ASSERT_TRUE(datei.Alben_schreiben());
-    modell.Alben_geladen = false;
-    alben.eigene = {};
-    std::vector<Text> angeboten;
-    const auto mit = [&](const std::function<void()>& handgriff) {
-        ansicht.Handgriffe = [&, handgriff](Fenster&) {
-            angeboten = auswahl.Liste.zeilen();
-            handgriff();
-        };
-        gestartet.clear();
-        befehle.Menü_starte_Album();
-    };
-    mit([&] {
-        Hand::wählen(auswahl.Liste, 2);
-        Hand::klicken(auswahl.Ok);
-    });
-    EXPECT_EQ(angeboten, (std::vector<Text>{"äpfel - ", "äpfel - ", "Birnen - ", "Zett - "}));
-    EXPECT_TRUE(modell.Alben_geladen);
-    EXPECT_TRUE(liste().ends_with("00000003.MP3\r\n"));
-    EXPECT_EQ(gestartet.size(), 1U);
-    mit([&] {
-        Hand::wählen(auswahl.Liste, 0);
-        Hand::doppelklicken(auswahl.Liste);
-    });
-    EXPECT_TRUE(liste().ends_with("00000002.MP3\r\n"));
-    EXPECT_EQ(gestartet.size(), 1U);
-    mit([&] {
-        Hand::wählen(auswahl.Liste, 0);
-        Hand::klicken(auswahl.Abbruch);
-    });
-    EXPECT_TRUE(gestartet.empty());
-    mit([&] { Hand::klicken(auswahl.Ok); });
-    EXPECT_TRUE(gestartet.empty());
-
-    // A file that cannot be read ends the command without a further word.
-    modell.Alben_geladen = false;
-    ordner.datei(Alben_Datei_Name, Kopf);
-    ansicht.Handgriffe = [](Fenster&) { ADD_FAILURE() << "nothing to choose from"; };
-    befehle.Menü_starte_Album();
-    EXPECT_TRUE(ansicht.Meldungen.empty());
 }
 
 }  // namespace

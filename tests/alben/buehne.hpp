@@ -3,16 +3,14 @@
 
 #include <gtest/gtest.h>
 
-#include "alben/alben_befehle.hpp"
 #include "alben/alben_datei.hpp"
 #include "alben/album_start.hpp"
-#include "alben/album_waehlen.hpp"
 #include "datenbank/einstellungen.hpp"
 #include "datenbank/m3u.hpp"
 #include "datenbank/modell.hpp"
-#include "oberflaeche/hand.hpp"
 #include "plattform/kanaele.hpp"
 #include "plattform/linux/dateisystem_linux.hpp"
+#include "probe/dateisystem_probe.hpp"
 #include "probe/rechner_probe.hpp"
 #include "probe/stumme_ansicht.hpp"
 #include "testordner.hpp"
@@ -20,33 +18,21 @@
 namespace tonkartei {
 
 struct Ansicht_Antwortend : Stumme_Ansicht {
-    Antwort antwort = Antwort::OK;             // to questions; OK: their default
-    std::vector<Antwort> Vorgaben;             // of the questions
-    std::function<void(Fenster&)> Handgriffe;  // in a modal window
+    Antwort antwort = Antwort::OK;  // to questions; OK: their default
+    std::vector<Antwort> Vorgaben;  // of the questions
     Antwort melden(const Meldungsfeld& feld) override {
         const Antwort vorgabe = Stumme_Ansicht::melden(feld);
         if (feld.art != Meldungsfeld::Art::Frage) return vorgabe;
         Vorgaben.push_back(vorgabe);
         return antwort == Antwort::OK ? vorgabe : antwort;
     }
-    void modal_laufen(Fenster& fenster) override {
-        if (Handgriffe) Handgriffe(fenster);
-        EXPECT_FALSE(fenster.sichtbar());
-    }
-};
-
-// A disk that can be full.
-struct Dateisystem_Voll : Dateisystem_Linux {
-    bool voll = false;
-    void schreiben(Griff griff, std::uint64_t stelle, std::span<const char> bytes) override {
-        if (voll) throw Dateifehler(61);
-        Dateisystem_Linux::schreiben(griff, stelle, bytes);
-    }
 };
 
 struct Albenbühne : testing::Test {
     Testordner ordner;
-    Dateisystem_Voll dateien;
+    Dateisystem_Linux platte;
+    Störungen störungen{[] {}};
+    Dateisystem_Probe dateien{platte, störungen};
     Kanäle kanäle{dateien};
     Ansicht_Antwortend ansicht;
     Rechner_Probe rechner{{2026, 1, 15, 12, 0, 0}, ordner.pfad(), false};
@@ -54,10 +40,8 @@ struct Albenbühne : testing::Test {
     Einstellungen einstellungen;
     Alben alben{rechner, ansicht};
     Alben_Datei datei{modell, alben, kanäle, dateien, ansicht};
-    Album_wählen auswahl{ansicht, alben};
     M3U m3u{modell, kanäle};
     Album_Start start{modell, einstellungen, alben, m3u, ansicht};
-    Alben_Befehle befehle{modell, datei, auswahl, start, ansicht};
 
     Albenbühne() {
         modell.Programmversion = "V 1.02 16";

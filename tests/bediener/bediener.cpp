@@ -95,7 +95,8 @@ Bediener::~Bediener() { beenden(); }
 
 void Bediener::beenden() noexcept {
     // Without input it ends by itself and takes its scratch folder along, unless it hangs.
-    Eingabe_schließen();
+    if (hinein_ >= 0) close(hinein_);
+    hinein_ = -1;
     if (heraus_ >= 0) close(heraus_);
     heraus_ = -1;
     if (prozess_ <= 0) return;
@@ -160,28 +161,15 @@ void Bediener::Antworten_lesen() {
     }
 }
 
-std::string Bediener::bereit() const {
-    return antworten_.empty() ? std::string() : antworten_.back().value("bereit", std::string());
-}
-
-std::string Bediener::bereit_name() const {
-    return antworten_.empty() ? std::string() : antworten_.back().value("name", std::string());
-}
-
-std::string Bediener::fehler() const {
-    return antworten_.empty() ? std::string() : antworten_.back().value("fehler", std::string());
-}
-
-std::vector<json> Bediener::ereignisse(const std::string& art) const {
-    std::vector<json> ergebnis;
-    for (const json& antwort : antworten_)
-        if (antwort.value("ereignis", std::string()) == art) ergebnis.push_back(antwort);
-    return ergebnis;
+std::string Bediener::zuletzt(const char* schlüssel) const {
+    return antworten_.empty() ? std::string() : antworten_.back().value(schlüssel, std::string());
 }
 
 json Bediener::ereignis(const std::string& art) const {
-    const auto alle = ereignisse(art);
-    return alle.empty() ? json() : alle.back();
+    json letztes;
+    for (const json& antwort : antworten_)
+        if (antwort.value("ereignis", std::string()) == art) letztes = antwort;
+    return letztes;
 }
 
 std::string Bediener::meldung() const {
@@ -221,11 +209,6 @@ json Bediener::protokoll(bool alles) { return schau(alles ? "protokoll alles" : 
 json Bediener::registrierung() { return schau("registrierung", "registrierung")["registrierung"]; }
 
 json Bediener::spieler() { return schau("spieler", "spieler")["spieler"]; }
-
-void Bediener::Eingabe_schließen() noexcept {
-    if (hinein_ >= 0) close(hinein_);
-    hinein_ = -1;
-}
 
 int Bediener::Ende_abwarten() {
     if (prozess_ > 0) {

@@ -45,14 +45,13 @@ public:
     // Of the last reply:
     const Antworten& antworten() const noexcept { return antworten_; }
     // What the program waits for; "" when it died without a word.
-    std::string bereit() const;
+    std::string bereit() const { return zuletzt("bereit"); }
     // The window that waits, for "fenster".
-    std::string bereit_name() const;
+    std::string bereit_name() const { return zuletzt("name"); }
     // Why the command could not be done; "" when it was.
-    std::string fehler() const;
+    std::string fehler() const { return zuletzt("fehler"); }
     // The last event of a kind ("meldung"); null without one.
     nlohmann::json ereignis(const std::string& art) const;
-    std::vector<nlohmann::json> ereignisse(const std::string& art) const;
     // Text of the last message box; "" without one.
     std::string meldung() const;
 
@@ -66,8 +65,6 @@ public:
     nlohmann::json registrierung();
     nlohmann::json spieler();
 
-    // Closes its input, which ends it as a crash does.
-    void Eingabe_schließen() noexcept;
     // Waits for its end. The exit status, or minus the signal that ended it.
     int Ende_abwarten();
 
@@ -77,6 +74,7 @@ public:
     static std::string zitiert(const std::string& text);
 
 private:
+    std::string zuletzt(const char* schlüssel) const;
     nlohmann::json schau(const std::string& zeile, const std::string& schlüssel);
     void Antworten_lesen();
     bool Zeile_lesen(std::string& zeile);

@@ -47,24 +47,18 @@ bool aktiv_im_Rahmen(const Element& element) {
 }
 
 void Zeilen_beschreiben(Json::Objekt& ziel, const Zeilenelement& liste) {
-    std::vector<Text> zeilen;
-    zeilen.reserve(liste.zeilen().size());
-    for (const Text& zeile : liste.zeilen()) zeilen.push_back(zeile);
-    ziel.mit("text", liste.gewählter_Text()).roh("zeilen", Json::Textliste(zeilen)).mit("gewählt", liste.gewählt());
+    ziel.mit("text", liste.gewählter_Text()).roh("zeilen", Json::Textliste(liste.zeilen())).mit("gewählt", liste.gewählt());
     if (liste.art() == Elementart::Liste) ziel.mit("erste", static_cast<const Listenfeld&>(liste).erste());
 }
 
 // The kind's own keys.
 void Wert_beschreiben(Json::Objekt& ziel, const Element& element) {
+    const auto beschriftet = [&]() -> Json::Objekt& {
+        return ziel.mit("text", einheitliche_Umbrüche(element.beschriftung()));
+    };
     switch (element.art()) {
-        case Elementart::Kasten:
-            ziel.mit("text", einheitliche_Umbrüche(element.beschriftung()));
-            ziel.mit("wert", static_cast<const Kasten&>(element).wert());
-            break;
-        case Elementart::Option:
-            ziel.mit("text", einheitliche_Umbrüche(element.beschriftung()));
-            ziel.mit("wert", static_cast<const Optionsfeld&>(element).wert());
-            break;
+        case Elementart::Kasten: beschriftet().mit("wert", static_cast<const Kasten&>(element).wert()); break;
+        case Elementart::Option: beschriftet().mit("wert", static_cast<const Optionsfeld&>(element).wert()); break;
         case Elementart::Eingabe:
             ziel.mit("text", einheitliche_Umbrüche(static_cast<const Textfeld&>(element).text()));
             break;
@@ -87,16 +81,10 @@ void Wert_beschreiben(Json::Objekt& ziel, const Element& element) {
             ziel.mit("min", Dreistufer::oben_Stufe).mit("max", Dreistufer::unten_Stufe);
             break;
         case Elementart::Balken: ziel.mit("wert", static_cast<const Balken&>(element).wert()); break;
-        case Elementart::Menü:
-            ziel.mit("text", einheitliche_Umbrüche(element.beschriftung()));
-            ziel.mit("haken", static_cast<const Menüpunkt&>(element).haken());
-            break;
-        case Elementart::Knopf:
-            ziel.mit("text", einheitliche_Umbrüche(element.beschriftung()));
-            ziel.mit("bild", static_cast<const Knopf&>(element).Bild);
-            break;
+        case Elementart::Menü: beschriftet().mit("haken", static_cast<const Menüpunkt&>(element).haken()); break;
+        case Elementart::Knopf: beschriftet().mit("bild", static_cast<const Knopf&>(element).Bild); break;
         case Elementart::Fläche: ziel.mit("bild", static_cast<const Bildfläche&>(element).Bild).roh("linien", "[]"); break;
-        default: ziel.mit("text", einheitliche_Umbrüche(element.beschriftung())); break;
+        default: beschriftet(); break;
     }
 }
 

@@ -4,9 +4,9 @@
 
 #include "datenbank/fortschritt.hpp"
 #include "datenbank/info_datei.hpp"
-#include "datenbank/text_form.hpp"
 #include "plattform/kanaele.hpp"
 #include "plattform/linux/dateisystem_linux.hpp"
+#include "probe/dateisystem_probe.hpp"
 #include "probe/stumme_ansicht.hpp"
 #include "testordner.hpp"
 
@@ -28,46 +28,12 @@ const std::string Alt_1_01 = "Tonkartei\r\nV 1.01 05\r\n 2 \r\nAlle\r\n Rock, Po
                              Neun_Schemas.substr(Neun_Schemas.find(" 1 \r\nSchema 2")) +
                              " 2 \r\n 7 \r\n Earth, Wind \r\n 3072 \r\n 2 \r\n\"So\"\r\n-1 \r\n\r\n 0 \r\n 1 \r\nT\r\n";
 
-// Fails the nth call of a kind, and refuses all writing below a folder.
-struct Gestörtes_Dateisystem : Dateisystem_Linux {
-    int Schreiben_scheitert = 0, Öffnen_scheitert = 0, Sichern_scheitert = 0;
-    Text geschützt;
-
-    Griff öffnen(const Text& pfad, Dateimodus modus) override {
-        if (--Öffnen_scheitert == 0) throw Dateifehler(57, pfad);
-        if (modus != Dateimodus::lesen) prüfen(pfad);
-        return Dateisystem_Linux::öffnen(pfad, modus);
-    }
-    void schreiben(Griff griff, std::uint64_t stelle, std::span<const char> bytes) override {
-        if (--Schreiben_scheitert == 0) throw Dateifehler(61);
-        Dateisystem_Linux::schreiben(griff, stelle, bytes);
-    }
-    void sichern(Griff griff) override {
-        if (--Sichern_scheitert == 0) throw Dateifehler(57);
-        Dateisystem_Linux::sichern(griff);
-    }
-    void umbenennen(const Text& von, const Text& nach) override {
-        prüfen(von);
-        Dateisystem_Linux::umbenennen(von, nach);
-    }
-    void löschen(const Text& pfad) override {
-        prüfen(pfad);
-        Dateisystem_Linux::löschen(pfad);
-    }
-    void prüfen(const Text& pfad) const {
-        if (!geschützt.empty() && pfad.starts_with(geschützt)) throw Dateifehler(70, pfad);
-    }
-};
-
 struct Antwortende_Ansicht : Stumme_Ansicht {
     bool Temp_erlaubt = true;
     Antwort melden(const Meldungsfeld& feld) override {
         Stumme_Ansicht::melden(feld);
-        if (feld.titel == "Datenbank konvertieren") {
-            EXPECT_EQ(feld.art, Meldungsfeld::Art::Frage);
-            return Temp_erlaubt ? Antwort::Ja : Antwort::Nein;
-        }
-        return feld.vorgabe;
+        if (feld.titel != "Datenbank konvertieren") return feld.vorgabe;
+        return Temp_erlaubt ? Antwort::Ja : Antwort::Nein;
     }
 };
 
@@ -75,7 +41,9 @@ struct Konvertierung_Test : testing::Test {
     Testordner ordner;
     const std::string cd = ordner.ordner("cd");
     const std::string temp = ordner.ordner("temp");
-    Gestörtes_Dateisystem dateien;
+    Dateisystem_Linux platte;
+    Störungen störungen{[] {}};
+    Dateisystem_Probe dateien{platte, störungen};
     Kanäle kanäle{dateien};
     Antwortende_Ansicht ansicht;
     Fortschritts_Fenster fortschritt{ansicht};
@@ -135,7 +103,7 @@ TEST_F(Konvertierung_Test, EinSchrittBehaeltNamenUndSchemas) {
 TEST_F(Konvertierung_Test, SchreibgeschuetztGehtInsTemporaereVerzeichnis) {
     ordner.datei("cd/MP3_Info.MDB", Alt_1_01);
     ordner.datei("temp/Tempkonv.MDB", "von früher");
-    dateien.geschützt = cd;
+    dateien.Schreibschutz(cd, true);
     ASSERT_TRUE(laden());
     EXPECT_EQ(
         Meldung(),
@@ -149,14 +117,12 @@ TEST_F(Konvertierung_Test, SchreibgeschuetztGehtInsTemporaereVerzeichnis) {
     EXPECT_EQ(ordner.inhalt("cd/MP3_Info.MDB"), Alt_1_01);
     EXPECT_EQ(ordner.inhalt("temp/Tempkonv.MDB").substr(0, 22), "Tonkartei\r\nV 1.02 16\r\n");
     EXPECT_EQ(modell.Anzahl_Lieder, 2);
-    EXPECT_FALSE(info.schreibe_Datenbank(false));
+    EXPECT_FALSE(info.schreibe_Datenbank(true));
+    EXPECT_EQ(Meldung(),
+              "Datenbank speichern|Die Datenbank wurde nur in ein Temp-Verzeichnis konvertiert."
+              "\r\rAlle Änderungen gehen beim schließen verloren.");
     EXPECT_FALSE(ordner.da("temp/Tempkonv.MDB"));
-    EXPECT_EQ(ordner.inhalt("cd/MP3_Info.MDB"), Alt_1_01);
-}
 
-TEST_F(Konvertierung_Test, TemporaeresVerzeichnisAbgelehnt) {
-    ordner.datei("cd/MP3_Info.MDB", Alt_1_01);
-    dateien.geschützt = cd;
     ansicht.Temp_erlaubt = false;
     EXPECT_FALSE(laden());
     EXPECT_EQ(ansicht.Meldungen.size(), 2U);
@@ -170,7 +136,7 @@ TEST_F(Konvertierung_Test, TemporaeresVerzeichnisAbgelehnt) {
 // saved.
 TEST_F(Konvertierung_Test, ZweiSchritteVonSchreibgeschuetztScheitern) {
     ordner.datei("cd/MP3_Info.MDB", Alt_1_00);
-    dateien.geschützt = cd;
+    dateien.Schreibschutz(cd, true);
     EXPECT_FALSE(laden());
     ASSERT_EQ(ansicht.Meldungen.size(), 3U);
     EXPECT_TRUE(ansicht.Meldungen[1].starts_with("Datenbank konvertieren|"));
@@ -197,40 +163,17 @@ TEST_F(Konvertierung_Test, AbgeschnittenBleibtDieAlteDateiGanz) {
 }
 
 TEST_F(Konvertierung_Test, FehlerDerPlatteHalbWegs) {
-    struct Fall {
-        const char* name;
-        int Gestörtes_Dateisystem::*zähler;
-        int n;
-    };
-    const Fall fälle[] = {
-        {"source", &Gestörtes_Dateisystem::Öffnen_scheitert, 2},
-        {"target", &Gestörtes_Dateisystem::Öffnen_scheitert, 3},
-        {"write", &Gestörtes_Dateisystem::Schreiben_scheitert, 1},
-        {"flush", &Gestörtes_Dateisystem::Sichern_scheitert, 1},
-    };
-    for (const Fall& fall : fälle) {
+    // The source, the target, what is written into it.
+    for (const auto& [vorgang, n] : {std::pair{Vorgang::öffnen, 2}, {Vorgang::öffnen, 3}, {Vorgang::schreiben, 1}}) {
+        SCOPED_TRACE(n);
         std::filesystem::remove(ordner.pfad("cd/konvert.bak"));
         ordner.datei("cd/MP3_Info.MDB", Alt_1_01);
-        dateien.*fall.zähler = fall.n;
-        EXPECT_FALSE(laden()) << fall.name;
-        EXPECT_EQ(Meldung(), Gescheitert) << fall.name;
-        EXPECT_EQ(ordner.inhalt("cd/konvert.bak"), Alt_1_01) << fall.name;
-        EXPECT_FALSE(kanäle.offen(1) || kanäle.offen(2)) << fall.name;
+        störungen.Fehler_bestellen(vorgang, n);
+        EXPECT_FALSE(laden());
+        EXPECT_EQ(Meldung(), Gescheitert);
+        EXPECT_EQ(ordner.inhalt("cd/konvert.bak"), Alt_1_01);
+        EXPECT_FALSE(kanäle.offen(1) || kanäle.offen(2));
     }
-}
-
-TEST_F(Konvertierung_Test, TextFormHinUndZurueck) {
-    const Text pfad = ordner.pfad("text");
-    const int nach = kanäle.öffnen_zum_Schreiben(pfad);
-    Text_schreiben(kanäle, nach, "a, \"b\"\r\nÄ");
-    Text_schreiben(kanäle, nach, "");
-    kanäle.schließen(nach);
-    EXPECT_EQ(ordner.inhalt("text"),
-              "a\x82 \x81"
-              "b\x81\x80\x7f\xc4\r\n\r\n");
-    const int von = kanäle.öffnen_zum_Lesen(pfad);
-    EXPECT_EQ(Text_lesen(kanäle, von), "a, \"b\"\r\nÄ");
-    EXPECT_EQ(Text_lesen(kanäle, von), "");
 }
 
 }  // namespace

@@ -12,6 +12,10 @@ namespace {
 // Remembers the largest piece that was asked for: the reader's buffer is not larger.
 struct Platte : Speicher_Dateisystem {
     std::size_t größtes_Stück = 0;
+    Griff öffnen(const Text& pfad, Dateimodus modus) override {
+        if (pfad == "gesperrt") throw Dateifehler(70, pfad);
+        return Speicher_Dateisystem::öffnen(pfad, modus);
+    }
     std::size_t lesen(Griff griff, std::uint64_t stelle, std::span<char> ziel) override {
         größtes_Stück = std::max(größtes_Stück, ziel.size());
         return Speicher_Dateisystem::lesen(griff, stelle, ziel);
@@ -40,7 +44,7 @@ TEST_F(M3U_Test, schreibt_nur_was_ein_Lied_sein_kann) {
     platte.Dateien["l"];
     EXPECT_TRUE(m3u.Playlist_schreiben("l", {12, 41}));
     EXPECT_EQ(platte.Dateien["l"].Inhalt, "/Müsik \xfc/00000012.MP3\r\n/Müsik \xfc/00000041.MP3\r\n");
-    EXPECT_FALSE(m3u.Playlist_schreiben("fehlt", {3}));
+    EXPECT_FALSE(m3u.Playlist_schreiben("gesperrt", {3}));
     EXPECT_THROW(m3u.Playlist_schreiben("l", {0}), Laufzeitfehler);
     EXPECT_EQ(platte.offene(), 0U);
 }

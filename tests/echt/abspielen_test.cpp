@@ -111,7 +111,7 @@ TEST_F(Abspielen, Autoplay_durch_drei_Lieder_und_zwei_tote_Spieler) {
 
 // A list of its own: the player goes through it, the program sees it play, and none of it counts.
 TEST_F(Abspielen, Listendatei) {
-    lege(3, 1.5);
+    lege(3, 2.5);
     // In a folder of any name.
     const std::string winamp = ordner.ordner("mein Spieler");
     std::filesystem::create_symlink(std::filesystem::canonical("/proc/self/exe").replace_filename("WinAmp.Exe"),

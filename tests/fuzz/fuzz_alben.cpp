@@ -2,11 +2,11 @@
 // so that it reads the same again.
 #include "alben/alben_datei.hpp"
 #include "datenbank/modell.hpp"
+#include "fuzz/treiber.hpp"
 #include "mp3/speicher_dateisystem.hpp"
 #include "plattform/kanaele.hpp"
 #include "probe/rechner_probe.hpp"
 #include "probe/stumme_ansicht.hpp"
-#include "treiber.hpp"
 
 using namespace tonkartei;
 
@@ -14,23 +14,6 @@ namespace {
 
 constexpr const char* Pfad = "/MP3_Info.ALB";
 constexpr const char* Kopie = "MP3_Bak.ALB";
-
-// Nobody is there to say no: every question is answered with yes.
-struct Ja_Ansicht : Stumme_Ansicht {
-    Antwort melden(const Meldungsfeld&) override { return Antwort::Ja; }
-};
-
-struct Tauschordner : Speicher_Dateisystem {
-    Griff öffnen(const Text& pfad, Dateimodus modus) override {
-        if (modus == Dateimodus::schreiben) Dateien[pfad].Inhalt.clear();
-        return Speicher_Dateisystem::öffnen(pfad, modus);
-    }
-    void umbenennen(const Text& von, const Text& nach) override {
-        Dateien[nach] = Dateien.at(von);
-        Dateien.erase(von);
-    }
-    void löschen(const Text& pfad) override { Dateien.erase(pfad); }
-};
 
 std::string Saat(const std::string& version) {
     std::string bytes = "Tonkartei\r\n" + version + "\r\nDatenbank Alben-Verwaltung\r\n 3 \r\n";
@@ -46,7 +29,7 @@ std::string Saat(const std::string& version) {
 std::vector<std::string> Fuzz_Saat() { return {Saat("V 1.02 16"), Saat("V 1.02 03"), Saat("V 9.99 99"), ""}; }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t größe) {
-    Tauschordner dateien;
+    Speicher_Dateisystem dateien;
     dateien.Dateien[Pfad].Inhalt.assign(reinterpret_cast<const char*>(daten), größe);
     Kanäle kanäle(dateien);
     Ja_Ansicht ansicht;

@@ -1,24 +1,39 @@
-// The reader of the info file: whatever its bytes, it reads them, says that it cannot, or ends with the overflow or bounds
-// error that damaged counts and numbers call for; and what it could read it writes back.
-#include <cstring>
-
+// The reader of the info file with its conversions: whatever the bytes, it reads them, says that it cannot, or ends with the
+// overflow or bounds error that damaged counts and numbers call for. The old file is whole until the new one is.
 #include "datenbank/fortschritt.hpp"
 #include "datenbank/info_datei.hpp"
+#include "datenbank/konvertierung.hpp"
 #include "datenbank/vorschau.hpp"
+#include "fuzz/treiber.hpp"
 #include "mp3/speicher_dateisystem.hpp"
 #include "plattform/kanaele.hpp"
 #include "probe/stumme_ansicht.hpp"
-#include "treiber.hpp"
 
 using namespace tonkartei;
 
 namespace {
 
-// Nobody is there to say no: every question is answered with yes.
-struct Ja_Ansicht : Stumme_Ansicht {
-    Antwort melden(const Meldungsfeld&) override { return Antwort::Ja; }
+constexpr const char* Pfad = "/MP3_Info.MDB";
+
+struct Platte : Speicher_Dateisystem {
+    void umbenennen(const Text& von, const Text& nach) override {
+        verlangt(offene() == 0, "no file is renamed while one is open");
+        Speicher_Dateisystem::umbenennen(von, nach);
+    }
 };
 
+std::string Saat_1_00() {
+    return "Tonkartei\r\nV 1.00 03\r\n 2 \r\nAlle\r\nTechno\r\n 2 \r\n"
+           " 1 \r\nA\x82 B\r\n 3000 \r\n 2 \r\n\x81T\x81\r\n-1 \r\n\r\n 0 \r\n 1 \r\n\r\n";
+}
+
+std::string Saat_1_01() {
+    std::string bytes = "Tonkartei\r\nV 1.01 05\r\n 2 \r\nAlle\r\nTechno\r\n 1 \r\n";
+    for (int s = 1; s <= 9; ++s) bytes += " 1 \r\nSchema " + std::to_string(s) + "\r\n 1 \r\n";
+    return bytes + " 1 \r\n 7 \r\nArtist, der\r\n 3000 \r\n 2 \r\n Titel\r\n";
+}
+
+// Of today's form, whatever version it bears.
 std::string Saat(const std::string& version) {
     std::string bytes = "Tonkartei\r\n" + version + "\r\n 2 \r\nAlle\r\nTechno\r\n 1 \r\n";
     for (int s = 1; s <= 9; ++s) bytes += " 1 \r\nSchema " + std::to_string(s) + "\r\n 1 \r\n";
@@ -29,11 +44,14 @@ std::string Saat(const std::string& version) {
 
 }  // namespace
 
-std::vector<std::string> Fuzz_Saat() { return {Saat("V 1.02 16"), Saat("V 1.02 03"), Saat("V 9.99 99"), ""}; }
+std::vector<std::string> Fuzz_Saat() {
+    return {Saat("V 1.02 16"), Saat("V 1.02 03"), Saat("V 9.99 99"), Saat_1_00(), Saat_1_01(), ""};
+}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t größe) {
-    Speicher_Dateisystem dateien;
-    dateien.Dateien["/MP3_Info.MDB"].Inhalt.assign(reinterpret_cast<const char*>(daten), größe);
+    const std::string vorher(reinterpret_cast<const char*>(daten), größe);
+    Platte dateien;
+    dateien.Dateien[Pfad].Inhalt = vorher;
     Kanäle kanäle(dateien);
     Ja_Ansicht ansicht;
     Fortschritts_Fenster fortschritt(ansicht);
@@ -41,21 +59,42 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t gr�
     modell.Programmversion = "V 1.02 16";
     modell.Datenbank_Verzeichnis = "/";
     Info_Datei info(modell, kanäle, dateien, ansicht, fortschritt);
+    Konvertierung konvertierung(modell, kanäle, dateien, ansicht, fortschritt, "/temp/");
+    bool erster = true;
+    const auto Schritt = [&](bool gelungen, int nummer) {
+        verlangt(gelungen == kanäle.offen(1) && !kanäle.offen(2),
+                 "the new file is open after success, nothing after failure");
+        verlangt(gelungen == (nummer != 0), "the number tells");
+        const auto kopie = dateien.Dateien.find("/konvert.bak");
+        verlangt(gelungen == (kopie == dateien.Dateien.end()), "the old file goes with success only");
+        if (!gelungen && erster) verlangt(kopie->second.Inhalt == vorher, "the old file is whole");
+        erster = false;
+        return gelungen;
+    };
+    info.konvertiere_1_00 = [&](Text& datei, int& nummer) {
+        const bool gelungen = konvertierung.konvertiere_1_00(datei, nummer);
+        return Schritt(gelungen, nummer);
+    };
+    info.konvertiere_1_01 = [&](Text& datei, int& nummer) {
+        const bool gelungen = konvertierung.konvertiere_1_01(datei, nummer);
+        return Schritt(gelungen, nummer);
+    };
     try {
-        Text pfad = "/MP3_Info.MDB";
+        Text pfad = Pfad;
         int nummer = 0;
-        if (!info.pruefe_Info_Datei(pfad, nummer) || !info.lesen(nummer)) {
-            verlangt(!kanäle.offen(1), "a refused file is closed");
-            return 0;
-        }
+        const bool geprüft = info.pruefe_Info_Datei(pfad, nummer);
+        const bool konvertiert = geprüft && dateien.Dateien.at(Pfad).Inhalt != vorher;
+        const bool gelesen = geprüft && info.lesen(nummer);
+        verlangt(gelesen || !geprüft || !konvertiert, "what was converted can be read");
+        verlangt(!kanäle.offen(1), "read or refused, the file is closed");
+        for (Long n = 1; gelesen && n <= modell.Anzahl_Lieder; ++n)
+            verlangt(modell.Lieder[n].Kategorie >= 1, "every song has a category");
+        lese_Vorschau(kanäle, Pfad, modell.Programmversion);
+        verlangt(!kanäle.offen(1), "the preview closes its file");
     } catch (const Dateifehler&) {
-        verlangt(false, "file failures stay within the reader");
+        verlangt(false, "file failures stay within the steps");
     } catch (const Laufzeitfehler& fehler) {
         verlangt(fehler.Nummer() == Fehler_Überlauf || fehler.Nummer() == Fehler_Index, "only overflow and bounds end it");
-        return 0;
     }
-    for (Long n = 1; n <= modell.Anzahl_Lieder; ++n) verlangt(modell.Lieder[n].Kategorie >= 1, "every song has a category");
-    lese_Vorschau(kanäle, "/MP3_Info.MDB", modell.Programmversion);
-    verlangt(!kanäle.offen(1), "the preview closes its file");
     return 0;
 }

@@ -11,13 +11,11 @@
 // The input that is being run stands in fuzz_x.letzte_eingabe of the current folder; after a finding the file stays. A
 // target links with clang's -fsanitize=fuzzer as well, without this file.
 #include <fcntl.h>
-#include <sys/mman.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <cstring>
 #include <fstream>
 #include <iterator>
 #include <random>
@@ -31,35 +29,25 @@ constexpr std::size_t größte_Eingabe = std::size_t{1} << 20;
 constexpr unsigned Bündel = 64;           // runs between two looks at the clock
 constexpr unsigned Geduld_Sekunden = 60;  // for one bundle; then it hangs
 
-// Memory that outlives the process as a file: 8 bytes length, then the input.
+// The input that is being run, in a file that outlives the process.
 class Letzte_Eingabe {
 public:
-    explicit Letzte_Eingabe(std::string pfad) : pfad_(std::move(pfad)) {
-        griff_ = open(pfad_.c_str(), O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
-        if (griff_ < 0 || ftruncate(griff_, größte_Eingabe) != 0) return;
-        void* const ort = mmap(nullptr, größte_Eingabe, PROT_READ | PROT_WRITE, MAP_SHARED, griff_, 0);
-        if (ort != MAP_FAILED) speicher_ = static_cast<char*>(ort);
-    }
+    explicit Letzte_Eingabe(std::string pfad)
+        : pfad_(std::move(pfad)), griff_(open(pfad_.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644)) {}
     ~Letzte_Eingabe() {
-        if (speicher_ != nullptr) munmap(speicher_, größte_Eingabe);
-        if (griff_ >= 0) close(griff_);
+        close(griff_);
         unlink(pfad_.c_str());
     }
     Letzte_Eingabe(const Letzte_Eingabe&) = delete;
     Letzte_Eingabe& operator=(const Letzte_Eingabe&) = delete;
 
-    void merken(const std::string& eingabe) {
-        if (speicher_ == nullptr) return;
-        std::memcpy(speicher_ + Kopf, eingabe.data(), eingabe.size());
-        const std::uint64_t länge = eingabe.size();
-        std::memcpy(speicher_, &länge, Kopf);
+    void merken(const std::string& eingabe) const {
+        if (ftruncate(griff_, 0) == 0) (void)!pwrite(griff_, eingabe.data(), eingabe.size(), 0);
     }
-    static constexpr std::size_t Kopf = sizeof(std::uint64_t);
 
 private:
     std::string pfad_;
-    int griff_ = -1;
-    char* speicher_ = nullptr;
+    int griff_;
 };
 
 class Veränderer {
@@ -69,7 +57,7 @@ public:
     std::string nächste() {
         std::string eingabe = saat_[bis(saat_.size())];
         for (std::size_t i = bis(6) + 1; i > 0; --i) verändern(eingabe);
-        if (eingabe.size() > größte_Eingabe - Letzte_Eingabe::Kopf) eingabe.resize(größte_Eingabe - Letzte_Eingabe::Kopf);
+        eingabe.resize(std::min(eingabe.size(), größte_Eingabe));
         return eingabe;
     }
 
@@ -140,13 +128,7 @@ int wiederholen(int anzahl, char** pfade) {
             std::fprintf(stderr, "%s: nicht lesbar\n", pfade[i]);
             return 2;
         }
-        std::string inhalt(std::istreambuf_iterator<char>(datei), {});
-        if (std::string_view(pfade[i]).ends_with(".letzte_eingabe") && inhalt.size() >= Letzte_Eingabe::Kopf) {
-            std::uint64_t länge = 0;
-            std::memcpy(&länge, inhalt.data(), Letzte_Eingabe::Kopf);
-            inhalt = inhalt.substr(Letzte_Eingabe::Kopf, static_cast<std::size_t>(länge));
-        }
-        laufen(inhalt);
+        laufen(std::string(std::istreambuf_iterator<char>(datei), {}));
         std::printf("%s: ohne Befund\n", pfade[i]);
     }
     return 0;

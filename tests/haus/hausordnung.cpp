@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <filesystem>
+#include <functional>
 #include <optional>
 #include <set>
 #include <sstream>
@@ -66,53 +68,17 @@ bool hat_Tür(std::string_view von, std::string_view nach) {
 }
 
 bool ist_Einschluss(std::string_view zeile) {
-    const std::size_t raute = zeile.find_first_not_of(" \t");
-    if (raute == std::string_view::npos || zeile[raute] != '#') return false;
-    const std::size_t wort = zeile.find_first_not_of(" \t", raute + 1);
-    return wort != std::string_view::npos && zeile.substr(wort).starts_with("include");
-}
-
-struct Einschluss {
-    int Zeile;
-    bool Spitz;  // <...>
-    std::string Pfad;
-};
-
-std::vector<Einschluss> Einschlüsse(const std::string& code) {
-    std::vector<Einschluss> ergebnis;
-    std::istringstream strom(code);
-    std::string zeile;
-    for (int nummer = 1; std::getline(strom, zeile); ++nummer) {
-        if (!ist_Einschluss(zeile)) continue;
-        const std::size_t anfang = zeile.find_first_of("<\"");
-        if (anfang == std::string::npos) continue;
-        const bool spitz = zeile[anfang] == '<';
-        const std::size_t ende = zeile.find(spitz ? '>' : '"', anfang + 1);
-        ergebnis.push_back({nummer, spitz, zeile.substr(anfang + 1, ende - anfang - 1)});
-    }
-    return ergebnis;
-}
-
-std::string normal(const std::string& pfad) {
-    std::vector<std::string> teile;
-    std::istringstream strom(pfad);
-    for (std::string teil; std::getline(strom, teil, '/');) {
-        if (teil == ".." && !teile.empty())
-            teile.pop_back();
-        else if (!teil.empty() && teil != ".")
-            teile.push_back(teil);
-    }
-    std::string ergebnis;
-    for (const std::string& teil : teile) ergebnis += (ergebnis.empty() ? "" : "/") + teil;
-    return ergebnis;
+    const std::size_t raute = std::min(zeile.find_first_not_of(" \t"), zeile.size());
+    const std::size_t wort = std::min(zeile.find_first_not_of(" \t", raute + 1), zeile.size());
+    return zeile.substr(raute).starts_with('#') && zeile.substr(wort).starts_with("include");
 }
 
 // Beside the including file first, then below the include folders, as the compiler looks.
 std::optional<std::string> Ziel(const Quellen& quellen, const std::string& von, const std::string& pfad) {
     const std::string beide[] = {von.substr(0, von.rfind('/') + 1) + pfad, "src/" + pfad, "tests/" + pfad,
                                  "leistung/" + pfad};
-    for (const std::string& versuch : beide)
-        if (const std::string ziel = normal(versuch); quellen.contains(ziel)) return ziel;
+    for (const std::filesystem::path versuch : beide)
+        if (const std::string ziel = versuch.lexically_normal().generic_string(); quellen.contains(ziel)) return ziel;
     return std::nullopt;
 }
 
@@ -152,42 +118,32 @@ Fremdes Herkunft_des_Wortes(std::string_view wort, bool ist_Aufruf) {
     return nichts;
 }
 
-void prüfe_Wörter(const std::string& datei, const std::string& code, unsigned darf, std::vector<Verstoß>& verstöße) {
-    std::istringstream strom(code);
-    std::string zeile;
-    for (int nummer = 1; std::getline(strom, zeile); ++nummer) {
-        if (ist_Einschluss(zeile)) continue;
-        for (std::size_t i = 0; i < zeile.size();) {
-            std::size_t ende = i;
-            while (ende < zeile.size() && im_Wort(zeile[ende])) ++ende;
-            const std::size_t danach = zeile.find_first_not_of(' ', ende);
-            const std::string_view wort = std::string_view(zeile).substr(i, ende - i);
-            const Fremdes fremdes = Herkunft_des_Wortes(wort, danach != std::string::npos && zeile[danach] == '(');
-            if (fremdes != nichts && !(darf & fremdes))
-                verstöße.push_back({datei, nummer, std::string("names ") + Name(fremdes) + ": " + std::string(wort)});
-            i = ende + 1;
-        }
+using Meldung = std::function<void(const std::string& grund)>;
+
+void prüfe_Wörter(std::string_view zeile, unsigned darf, const Meldung& melde) {
+    for (std::size_t i = 0, ende = 0; i < zeile.size(); i = ende + 1) {
+        for (ende = i; ende < zeile.size() && im_Wort(zeile[ende]);) ++ende;
+        const std::size_t danach = zeile.find_first_not_of(' ', ende);
+        const std::string_view wort = zeile.substr(i, ende - i);
+        const Fremdes fremdes = Herkunft_des_Wortes(wort, danach != zeile.npos && zeile[danach] == '(');
+        if (fremdes != nichts && !(darf & fremdes)) melde(std::string("names ") + Name(fremdes) + ": " + std::string(wort));
     }
 }
 
-void prüfe_Einschluss(const std::string& datei, const Raum& raum, const Einschluss& einschluss,
-                      const std::optional<std::string>& ziel, std::vector<Verstoß>& verstöße) {
-    const auto melde = [&](const std::string& grund) {
-        verstöße.push_back({datei, einschluss.Zeile, grund + ": " + einschluss.Pfad});
-    };
+void prüfe_Einschluss(std::string_view von, const Raum& raum, const std::string& pfad, bool spitz,
+                      const std::optional<std::string>& ziel, const Meldung& melde) {
     if (!ziel) {
-        const bool erzeugt = einschluss.Pfad.ends_with(".moc") || einschluss.Pfad.find("moc_") != std::string::npos;
-        const bool eigen = !einschluss.Spitz && einschluss.Pfad.ends_with(".hpp");
-        const Fremdes fremdes = erzeugt ? Qt : eigen ? nichts : Herkunft(einschluss.Pfad);
+        const bool erzeugt = pfad.ends_with(".moc");
+        const bool eigen = !spitz && pfad.ends_with(".hpp");
+        const Fremdes fremdes = erzeugt ? Qt : eigen ? nichts : Herkunft(pfad);
         if (fremdes != nichts && !(raum.Darf & fremdes))
             melde(std::string("names ") + Name(fremdes));
-        else if (!einschluss.Spitz && !erzeugt)
+        else if (!spitz && !erzeugt)
             melde("no such file in the project");
         return;
     }
-    if (einschluss.Spitz) return melde("own files are included in quotes");
+    if (spitz) return melde("own files are included in quotes");
     if (!ziel->starts_with("src/")) return melde("leaves src/");
-    const std::string_view von = std::string_view(datei).substr(4);
     const Raum* nach = Raum_von(std::string_view(*ziel).substr(4));
     if (!nach || nach == &raum || hat_Tür(von, nach->Ordner)) return;
     if (std::find(Verschlossen.begin(), Verschlossen.end(), nach->Ordner) != Verschlossen.end())
@@ -196,99 +152,93 @@ void prüfe_Einschluss(const std::string& datei, const Raum& raum, const Einschl
 }
 
 // Depth first; each loop is reported once, at the file that closes it.
-class Schleifensuche {
-public:
-    Schleifensuche(const std::map<std::string, std::vector<std::string>>& kanten, std::vector<Verstoß>& verstöße)
-        : Kanten_(kanten), Verstöße_(verstöße) {}
-
-    void suche() {
-        for (const auto& [datei, _] : Kanten_) besuche(datei);
-    }
-
-private:
-    void besuche(const std::string& datei) {
-        if (Fertig_.contains(datei)) return;
-        Weg_.push_back(datei);
-        if (const auto nach = Kanten_.find(datei); nach != Kanten_.end()) {
-            for (const std::string& ziel : nach->second) {
-                const auto anfang = std::find(Weg_.begin(), Weg_.end(), ziel);
-                if (anfang == Weg_.end()) {
-                    besuche(ziel);
-                    continue;
-                }
-                std::string runde;
-                for (auto station = anfang; station != Weg_.end(); ++station) runde.append(*station).append(" > ");
-                Verstöße_.push_back({datei, 0, "include loop: " + runde + ziel});
+void suche_Schleifen(const std::map<std::string, std::vector<std::string>>& kanten, std::vector<Verstoß>& verstöße) {
+    std::vector<std::string> weg;
+    std::set<std::string> fertig;
+    const std::function<void(const std::string&)> besuche = [&](const std::string& datei) {
+        const auto nach = kanten.find(datei);
+        if (nach == kanten.end() || fertig.contains(datei)) return;
+        weg.push_back(datei);
+        for (const std::string& ziel : nach->second) {
+            auto station = std::find(weg.begin(), weg.end(), ziel);
+            if (station == weg.end()) {
+                besuche(ziel);
+                continue;
             }
+            std::string runde;
+            for (; station != weg.end(); ++station) runde += *station + " > ";
+            verstöße.push_back({datei, 0, "include loop: " + runde + ziel});
         }
-        Weg_.pop_back();
-        Fertig_.insert(datei);
-    }
+        weg.pop_back();
+        fertig.insert(datei);
+    };
+    for (const auto& [datei, _] : kanten) besuche(datei);
+}
 
-    const std::map<std::string, std::vector<std::string>>& Kanten_;
-    std::vector<Verstoß>& Verstöße_;
-    std::vector<std::string> Weg_;
-    std::set<std::string> Fertig_;
-};
-
-}  // namespace
-
+// Comments and the contents of strings and character literals as blanks, line breaks kept; include paths stay.
 std::string nur_Code(const std::string& text) {
     std::string code = text;
-    const auto leere = [&](std::size_t von, std::size_t bis) {
-        for (std::size_t i = von; i < bis && i < code.size(); ++i)
-            if (code[i] != '\n') code[i] = ' ';
+    const auto hinter = [&](std::string_view schluss, std::size_t ab) {
+        const std::size_t stelle = text.find(schluss, ab);
+        return stelle == std::string::npos ? text.size() : stelle + schluss.size();
     };
-    std::size_t i = 0;
-    while (i < text.size()) {
+    for (std::size_t i = 0; i < text.size();) {
+        const std::size_t anfang = i;
+        const char zeichen = text[i];
+        if (zeichen == '#' && ist_Einschluss(std::string_view(text).substr(i, 20))) {
+            i = hinter("\n", i);
+            continue;
+        }
         if (text.compare(i, 2, "//") == 0) {
-            const std::size_t ende = std::min(text.find('\n', i), text.size());
-            leere(i, ende);
-            i = ende;
+            i = std::min(text.find('\n', i), text.size());
         } else if (text.compare(i, 2, "/*") == 0) {
-            const std::size_t ende = text.find("*/", i + 2);
-            leere(i, ende == std::string::npos ? text.size() : ende + 2);
-            i = ende == std::string::npos ? text.size() : ende + 2;
+            i = hinter("*/", i + 2);
         } else if (text.compare(i, 2, "R\"") == 0) {
-            const std::size_t klammer = text.find('(', i);
-            if (klammer == std::string::npos) return code;
-            const std::string schluss = ")" + text.substr(i + 2, klammer - i - 2) + "\"";
-            const std::size_t ende = std::min(text.find(schluss, klammer), text.size());
-            leere(klammer + 1, ende);
-            i = std::min(ende + schluss.size(), text.size());
-        } else if (text[i] == '"' ||
-                   (text[i] == '\'' && (i == 0 || !std::isalnum(static_cast<unsigned char>(text[i - 1]))))) {
-            const char zeichen = text[i];
-            const std::size_t zeilenanfang = i == 0 ? 0 : text.rfind('\n', i - 1) + 1;
-            const bool einschluss = ist_Einschluss(std::string_view(text).substr(zeilenanfang, i - zeilenanfang));
-            std::size_t ende = i + 1;
-            while (ende < text.size() && text[ende] != zeichen && text[ende] != '\n') ende += text[ende] == '\\' ? 2u : 1u;
-            if (!einschluss) leere(i + 1, ende);
-            i = ende + 1;
+            const std::size_t klammer = std::min(text.find('(', i), text.size());
+            i = hinter(")" + text.substr(i + 2, klammer - i - 2) + "\"", klammer);
+        } else if (zeichen == '"' || (zeichen == '\'' && !(i > 0 && im_Wort(text[i - 1])))) {
+            for (++i; i < text.size() && text[i] != zeichen && text[i] != '\n'; ++i) i += text[i] == '\\';
+            ++i;
         } else {
             ++i;
+            continue;
         }
+        for (std::size_t j = anfang; j < std::min(i, text.size()); ++j)
+            if (code[j] != '\n') code[j] = ' ';
     }
     return code;
 }
+
+}  // namespace
 
 std::vector<Verstoß> prüfe(const Quellen& quellen) {
     std::vector<Verstoß> verstöße;
     std::map<std::string, std::vector<std::string>> kanten;
     for (const auto& [datei, text] : quellen) {
-        const std::string code = nur_Code(text);
+        // Tests and benchmarks may look everywhere; only loops are looked for there.
         const bool geprüft = datei.starts_with("src/");
-        const Raum* raum = geprüft ? Raum_von(std::string_view(datei).substr(4)) : nullptr;
+        const std::string_view von = std::string_view(datei).substr(geprüft ? 4 : 0);
+        const Raum* raum = geprüft ? Raum_von(von) : nullptr;
         if (geprüft && !raum) verstöße.push_back({datei, 0, "its folder has no floor in the table"});
-        for (const Einschluss& einschluss : Einschlüsse(code)) {
-            const std::optional<std::string> ziel = Ziel(quellen, datei, einschluss.Pfad);
+        std::istringstream strom(nur_Code(text));
+        std::string zeile;
+        for (int nummer = 1; std::getline(strom, zeile); ++nummer) {
+            const Meldung melde = [&, &name = datei](const std::string& grund) {
+                verstöße.push_back({name, nummer, grund});
+            };
+            const std::size_t anfang = zeile.find_first_of("<\"");
+            if (!ist_Einschluss(zeile) || anfang == std::string::npos) {
+                if (raum) prüfe_Wörter(zeile, raum->Darf, melde);
+                continue;
+            }
+            const bool spitz = zeile[anfang] == '<';
+            const std::string pfad = zeile.substr(anfang + 1, zeile.find(spitz ? '>' : '"', anfang + 1) - anfang - 1);
+            const std::optional<std::string> ziel = Ziel(quellen, datei, pfad);
             if (ziel) kanten[datei].push_back(*ziel);
-            // Tests and benchmarks may look everywhere; only loops are looked for there.
-            if (raum) prüfe_Einschluss(datei, *raum, einschluss, ziel, verstöße);
+            if (raum) prüfe_Einschluss(von, *raum, pfad, spitz, ziel, melde);
         }
-        if (raum) prüfe_Wörter(datei, code, raum->Darf, verstöße);
     }
-    Schleifensuche(kanten, verstöße).suche();
+    suche_Schleifen(kanten, verstöße);
     return verstöße;
 }
 

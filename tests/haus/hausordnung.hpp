@@ -16,9 +16,6 @@ struct Verstoß {
     std::string Grund;
 };
 
-// Comments and the contents of strings and character literals as blanks, line breaks kept; include paths stay.
-std::string nur_Code(const std::string& text);
-
 std::vector<Verstoß> prüfe(const Quellen& quellen);
 
 }  // namespace tonkartei::haus

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
+#include <iterator>
 
 #include "haus/hausordnung.hpp"
 
@@ -22,9 +22,9 @@ Quellen lies_Projekt(const std::filesystem::path& wurzel) {
         for (const auto& eintrag : std::filesystem::recursive_directory_iterator(wurzel / ordner)) {
             const auto endung = eintrag.path().extension();
             if (!eintrag.is_regular_file() || (endung != ".cpp" && endung != ".hpp" && endung != ".h")) continue;
-            std::ostringstream text;
-            text << std::ifstream(eintrag.path(), std::ios::binary).rdbuf();
-            quellen[eintrag.path().lexically_relative(wurzel).generic_string()] = text.str();
+            std::ifstream strom(eintrag.path(), std::ios::binary);
+            quellen[eintrag.path().lexically_relative(wurzel).generic_string()].assign(std::istreambuf_iterator<char>(strom),
+                                                                                       {});
         }
     }
     return quellen;
@@ -49,51 +49,29 @@ struct Fall {
 
 }  // namespace
 
-TEST(Hausordnung, FindetWasSieVerbietet) {
+TEST(Hausordnung, FindetWasSieVerbietetUndNurDas) {
     const Fall fälle[] = {
         {"src/grundlagen/a.cpp", "#include \"plattform/shell.hpp\"\n", "points up a floor"},
-        {"src/mp3/a.cpp", "#include \"datenbank/modell.hpp\"\n", "points up a floor"},
         {"src/mp3/a.cpp", "#include \"../datenbank/modell.hpp\"\n", "points up a floor"},
         {"src/kategorien/a.cpp", "  #  include \"liste/bereich.hpp\"\n", "points up a floor"},
         {"src/oberflaeche/qt/a.cpp", "#include \"datenbank/modell.hpp\"\n", "points up a floor"},
-        {"src/plattform/linux/a.cpp", "#include \"mp3/tag.hpp\"\n", "points up a floor"},
-        {"src/spieler/a.cpp", "#include \"datenbank/modell.hpp\"\n", "points up a floor"},
-        {"src/dj/a.cpp", "#include \"programm/programm.hpp\"\n", "points up a floor"},
         {"src/mp3/a.cpp", "#include \"plattform/linux/xdg.hpp\"\n", "only the composition"},
         {"src/programm/a.cpp", "#include \"oberflaeche/qt/ansicht_qt.hpp\"\n", "only the composition"},
         {"src/programm/a.cpp", "#include \"probe/probe.hpp\"\n", "leaves src/"},
         {"src/programm/a.cpp", "#include \"fehlt.hpp\"\n", "no such file"},
         {"src/programm/a.cpp", "#include <mp3/tag.hpp>\n", "in quotes"},
         {"src/garten/a.cpp", "", "no floor"},
-        {"src/mp3/a.cpp", "#include <QString>\n", "Qt"},
-        {"src/mp3/a.cpp", "#include <QtCore/qstring.h>\n", "Qt"},
         {"src/mp3/a.cpp", "#include <qglobal.h>\n", "Qt"},
-        {"src/programm/main.cpp", "#include <QApplication>\n", "Qt"},
         {"src/programm/main.cpp", "int x = QThread::idealThreadCount();\n", "Qt"},
         {"src/plattform/linux/a.cpp", "#include <QFile>\n", "Qt"},
-        {"src/datenbank/a.cpp", "#include <unistd.h>\n", "POSIX"},
         {"src/datenbank/a.cpp", "#include <sys/stat.h>\n", "POSIX"},
         {"src/datenbank/a.cpp", "#include \"unistd.h\"\n", "POSIX"},
         {"src/datenbank/a.cpp", "int main() { return getpid (); }\n", "POSIX"},
         {"src/grundlagen/a.cpp", "#ifdef __linux__\n", "POSIX"},
         {"src/oberflaeche/qt/a.cpp", "#include <fcntl.h>\n", "POSIX"},
         {"src/wiedergabe/a.cpp", "#include <mpv/client.h>\n", "libmpv"},
-        {"src/plattform/linux/a.cpp", "auto* p = mpv_create();\n", "libmpv"},
-        {"src/datenbank/modell.hpp", "#include \"datenbank/modell.hpp\"\n", "include loop"},
         {"src/grundlagen/a.cpp", "auto s = \"// \";  auto* p = mpv_create();\n", "libmpv"},
         {"src/grundlagen/a.cpp", "int n = 1'000; char c = '\"'; int y = fork();\n", "POSIX"},
-    };
-    for (const Fall& fall : fälle) {
-        Quellen quellen = Umgebung();
-        quellen[fall.Datei] = fall.Text;
-        const auto verstöße = prüfe(quellen);
-        EXPECT_EQ(verstöße.size(), 1u) << fall.Datei << ": " << fall.Text << Gründe(verstöße);
-        EXPECT_NE(Gründe(verstöße).find(fall.Grund), std::string::npos) << fall.Text << Gründe(verstöße);
-    }
-}
-
-TEST(Hausordnung, ErlaubtWasErlaubtIst) {
-    const Fall fälle[] = {
         {"src/datenbank/a.cpp", "#include <vector>\n#include \"mp3/tag.hpp\"\n#include \"grundlagen/text.hpp\"\n", ""},
         {"src/oberflaeche/qt/a.cpp", "#include <QWidget>\n#include \"oberflaeche/fenster.hpp\"\n#include \"a.moc\"\n", ""},
         {"src/plattform/linux/a.cpp", "#include <sys/stat.h>\n#include \"xdg.hpp\"\nint a = getpid();\n", ""},
@@ -107,7 +85,9 @@ TEST(Hausordnung, ErlaubtWasErlaubtIst) {
     for (const Fall& fall : fälle) {
         Quellen quellen = Umgebung();
         quellen[fall.Datei] = fall.Text;
-        EXPECT_EQ(Gründe(prüfe(quellen)), "") << fall.Text;
+        const auto verstöße = prüfe(quellen);
+        EXPECT_EQ(verstöße.size(), *fall.Grund == '\0' ? 0U : 1U) << fall.Datei << ": " << fall.Text << Gründe(verstöße);
+        EXPECT_NE(Gründe(verstöße).find(fall.Grund), std::string::npos) << fall.Text << Gründe(verstöße);
     }
 }
 

@@ -75,22 +75,6 @@ TEST(Lieder_Liste, Suche) {
     for (const Fall& fall : fälle) EXPECT_EQ(alle(modell, fall.sortierung, fall.suche), fall.nummern) << fall.suche;
 }
 
-TEST(Lieder_Liste, Kategorien) {
-    Modell modell = mit_Liedern({{"a", ""}, {"b", ""}, {"c", ""}});
-    modell.Lieder[1].Kategorie = 1;
-    modell.Lieder[2].Kategorie = 3;
-    modell.Lieder[3].Kategorie = 255;  // a category that is being asked for
-    const auto mit = [&](std::vector<int> kästen) {
-        return Liederordnung().gefilterte_Lieder(modell, Sortierung::Artist, {}, [&](int k) {
-            return std::find(kästen.begin(), kästen.end(), k) != kästen.end();
-        });
-    };
-    EXPECT_EQ(mit({1}), (Nummern{1, 2, 3}));
-    EXPECT_EQ(mit({1, 2}), (Nummern{1, 2, 3}));
-    EXPECT_EQ(mit({2, 3}), (Nummern{2}));
-    EXPECT_EQ(mit({}), Nummern{});
-}
-
 // The order is kept from one build to the next: every change of the songs must show all the same.
 TEST(Lieder_Liste, GemerkteOrdnungFolgtJederAenderung) {
     Modell modell = mit_Liedern({{"b", "x"}, {"a", "x"}, {"c", "x"}});
@@ -121,13 +105,6 @@ TEST(Lieder_Liste, GemerkteOrdnungFolgtJederAenderung) {
     prüfen("one more");
     modell.Anzahl_Lieder = 0;
     prüfen("none");
-}
-
-TEST(Lieder_Liste, Zeilen) {
-    Lied lied;
-    lied.Artist = "A & B";
-    EXPECT_EQ(Listenzeile(lied, Sortierung::Artist), "A & B - ");
-    EXPECT_EQ(Listenzeile(lied, Sortierung::Titel), " (A & B)");
 }
 
 }  // namespace

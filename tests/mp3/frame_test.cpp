@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "mp3/bausteine.hpp"
-#include "mp3/bits.hpp"
 #include "mp3/mp3_taghead.hpp"
-#include "mp3/mpeg_tabellen.hpp"
 #include "mp3/speicher_dateisystem.hpp"
 
 namespace tonkartei {
@@ -31,37 +29,14 @@ protected:
     void TearDown() override { EXPECT_EQ(dateien.offene(), 0U) << "every way out closes the file"; }
 };
 
-TEST(Bits, hin_und_zurück) {
-    struct Fall {
-        std::array<Byte, 4> Bytes;
-        Text Bits;
-        Long Zahl;
-    };
-    const Fall Fälle[] = {
-        {{0, 0, 0, 0}, "", 0},
-        {{0, 0, 0, 1}, "1", 1},
-        {{0, 0, 11, 184}, "101110111000", 3000},
-        {{0x7F, 0xFF, 0xFF, 0xFF}, Text(31, '1'), 2147483647},
-    };
-    for (const Fall& fall : Fälle) {
-        auto bytes = fall.Bytes;
-        EXPECT_EQ(Bytes_zu_Bits(bytes), fall.Bits);
-        EXPECT_EQ(bytes, (std::array<Byte, 4>{})) << "cleared in the process";
-        EXPECT_EQ(Bits_zu_Zahl(fall.Bits), fall.Zahl);
-    }
-    EXPECT_EQ(Bits_zu_Zahl(Text(40, '0') + "101"), 5);
-    EXPECT_THROW(Bits_zu_Zahl("1" + Text(31, '0')), Laufzeitfehler);
-}
-
 TEST_F(Frame, wo_gesucht_wird) {
-    struct Fall {
+    std::string Köder = Lied_Bytes(600, 300, Kopf_128);
+    Köder.replace(10, 2, "\xFF\xF3").replace(20, 2, "\xFF\xFD").replace(30, 3, "\xFF\xFF\xFF");
+    const struct {
         const char* Name;
         std::string Inhalt;
         bool gefunden;
-    };
-    std::string Köder = Lied_Bytes(600, 300, Kopf_128);
-    Köder.replace(10, 2, "\xFF\xF3").replace(20, 2, "\xFF\xFD").replace(30, 3, "\xFF\xFF\xFF");
-    const Fall Fälle[] = {
+    } Fälle[] = {
         {"255 bytes are not searched", Lied_Bytes(255, 1, Kopf_128), false},
         {"256 are", Lied_Bytes(256, 1, Kopf_128), true},
         {"position 5000", Lied_Bytes(6000, 5000, Kopf_128), true},
@@ -72,9 +47,8 @@ TEST_F(Frame, wo_gesucht_wird) {
         {"pair cut by the end", Lied_Bytes(300, 300, Kopf_128), false},
         {"pair at the end: what follows is zero", Lied_Bytes(300, 299, Kopf_128), true},
         {"nothing but FF", std::string(7000, '\xFF'), false},
-        {"zeros", std::string(7000, '\0'), false},
     };
-    for (const Fall& fall : Fälle) {
+    for (const auto& fall : Fälle) {
         Datei(fall.Inhalt);
         EXPECT_EQ(mp3.MP3_Info_lesen(), fall.gefunden) << fall.Name;
         EXPECT_EQ(mp3.Frame_Kopf_lesen().empty(), !fall.gefunden) << fall.Name;
@@ -83,9 +57,7 @@ TEST_F(Frame, wo_gesucht_wird) {
     EXPECT_EQ(mp3.Frame_Kopf_lesen(), "11111111111110111001000001100100");
     Datei(Lied_Bytes(300, 299, Kopf_128));
     EXPECT_EQ(mp3.Frame_Kopf_lesen(), "11111111111110110000000000000000");
-}
-
-TEST_F(Frame, der_erste_Fund_zählt_auch_wenn_er_keiner_ist) {
+    // The first hit counts, also where it is none.
     Datei(Lied_Bytes(4000, 5, 0xFFFBF000).replace(100, 4, vier_Bytes(Kopf_128)));
     ASSERT_TRUE(mp3.MP3_Info_lesen());
     EXPECT_EQ(mp3.Bitrate, 0);
@@ -100,19 +72,15 @@ TEST_F(Frame, Felder_des_Kopfes) {
     EXPECT_EQ(mp3.Emphasis, "no");
     EXPECT_FALSE(mp3.Schutz || mp3.Padding || mp3.Privat || mp3.Copyright || mp3.Original || mp3.VBR);
 
-    struct Bit {
-        std::uint32_t Wert;
-        bool MP3_TagHead::*Feld;
-    };
-    const Bit Bits[] = {{0x10000, &MP3_TagHead::Schutz},
-                        {0x200, &MP3_TagHead::Padding},
-                        {0x100, &MP3_TagHead::Privat},
-                        {0x8, &MP3_TagHead::Copyright},
-                        {0x4, &MP3_TagHead::Original}};
-    for (const Bit& bit : Bits) {
-        Datei(Lied_Bytes(4000, 1, 0xFFFA9000 | bit.Wert));
+    const std::pair<std::uint32_t, bool MP3_TagHead::*> Bits[] = {{0x10000, &MP3_TagHead::Schutz},
+                                                                  {0x200, &MP3_TagHead::Padding},
+                                                                  {0x100, &MP3_TagHead::Privat},
+                                                                  {0x8, &MP3_TagHead::Copyright},
+                                                                  {0x4, &MP3_TagHead::Original}};
+    for (const auto& [wert, _] : Bits) {
+        Datei(Lied_Bytes(4000, 1, 0xFFFA9000 | wert));
         ASSERT_TRUE(mp3.MP3_Info_lesen());
-        for (const Bit& anderes : Bits) EXPECT_EQ(mp3.*anderes.Feld, anderes.Wert == bit.Wert) << bit.Wert;
+        for (const auto& [anderer, feld] : Bits) EXPECT_EQ(mp3.*feld, anderer == wert) << wert;
     }
     const char* Modi[] = {"Stereo", "Joint stereo", "Zwei-Kanal", "Ein-Kanal"};
     const char* Emphasen[] = {"no", "50/15", "reserviert", "CCITT J 17"};
@@ -127,12 +95,11 @@ TEST_F(Frame, Felder_des_Kopfes) {
 }
 
 TEST_F(Frame, feste_Bitrate_und_Zeit) {
-    struct Fall {
+    const struct {
         std::uint32_t Kopf;
         std::uint64_t Länge;
         Long Bitrate, ms, Minuten, Sekunden;
-    };
-    const Fall Fälle[] = {
+    } Fälle[] = {
         {0xFFFB9064, 4'000'000, 128, 250'000, 4, 10},
         {0xFFFB9C64, 4'000'000, 128, 250'000, 4, 10},  // no sample rate, which nothing needs
         {0xFFFB1064, 1002, 32, 250, 0, 0},             // 250.5, to the even neighbour
@@ -143,7 +110,7 @@ TEST_F(Frame, feste_Bitrate_und_Zeit) {
         {0xFFFBF064, 4'000'000, 0, 0, 0, 0},
         {0xFFFB1064, 268'435'455, 32, 67'108'864, 1118, 28},  // the largest that fits
     };
-    for (const Fall& fall : Fälle) {
+    for (const auto& fall : Fälle) {
         Datei(Lied_Bytes(300, 1, fall.Kopf), fall.Länge - 300);
         ASSERT_TRUE(mp3.MP3_Info_lesen()) << fall.Länge;
         EXPECT_EQ(mp3.Bitrate, fall.Bitrate);
@@ -158,17 +125,6 @@ TEST_F(Frame, feste_Bitrate_und_Zeit) {
         ASSERT_TRUE(mp3.MP3_Info_lesen());
         EXPECT_EQ(mp3.Bitrate, Raten[i]);
     }
-}
-
-TEST(MPEG_Tabellen, auch_was_kein_Kopf_ergibt) {
-    EXPECT_EQ(Samplerate_von(27, 0), 22050);
-    for (const Long version : {25, 0, 2}) EXPECT_FALSE(Samplerate_von(version, 0));
-    EXPECT_EQ(Bitrate_von(1, 1, 14), 448);
-    EXPECT_EQ(Bitrate_von(1, 2, 2), 48);
-    EXPECT_EQ(Bitrate_von(25, 5, 9), 144);
-    EXPECT_EQ(Bitrate_von(2, 3, 9), 1);
-    EXPECT_EQ(Framegröße_Faktor(1), 12);
-    EXPECT_EQ(Framegröße_Faktor(2), 144);
 }
 
 TEST_F(Frame, Xing) {
@@ -191,24 +147,21 @@ TEST_F(Frame, Xing) {
     ASSERT_TRUE(mp3.MP3_Info_lesen()) << "behind the last frame position";
     EXPECT_TRUE(mp3.VBR);
 
-    const std::string daneben =
-        Xing_Lied_Bytes(400, 41, 0xFFFB9064, 3000).replace(40, 4, std::string(4, 0)).replace(39, 4, vier_Bytes(Kopf_128));
-    Datei(daneben);
+    Datei(Xing_Lied_Bytes(400, 41, 0xFFFB9064, 3000).replace(39, 5, vier_Bytes(Kopf_128) + '\0'));
     ASSERT_TRUE(mp3.MP3_Info_lesen());
     EXPECT_FALSE(mp3.VBR) << "one byte off is no Xing header";
     EXPECT_EQ(mp3.Xing_Frames, 1) << "keeps the earlier count";
 }
 
 TEST_F(Frame, Fehler_der_Rechnung) {
-    struct Fall {
+    const std::string fest = Lied_Bytes(400, 1, Kopf_128);
+    const std::string variabel = Xing_Lied_Bytes(400, 1, Kopf_128, 100'000);
+    const struct {
         const char* Name;
         std::string Inhalt;
         std::uint64_t Länge;
         int Nummer;
-    };
-    const std::string fest = Lied_Bytes(400, 1, Kopf_128);
-    const std::string variabel = Xing_Lied_Bytes(400, 1, Kopf_128, 100'000);
-    const Fall Fälle[] = {
+    } Fälle[] = {
         {"below 256 MByte", fest, 268'435'455, 0},
         {"256 MByte", fest, 268'435'456, Fehler_Überlauf},
         {"far beyond", fest, 5'000'000'000, Fehler_Überlauf},
@@ -219,7 +172,7 @@ TEST_F(Frame, Fehler_der_Rechnung) {
         {"no frames and no rate", Xing_Lied_Bytes(400, 1, 0xFFFB9C64, 0), 400, Fehler_Division},
         {"frame count behind the end", Xing_Lied_Bytes(300, 260, Kopf_128, 5), 300, Fehler_Division},
     };
-    for (const Fall& fall : Fälle) {
+    for (const auto& fall : Fälle) {
         Datei(fall.Inhalt, fall.Länge - fall.Inhalt.size());
         EXPECT_EQ(Fehlernummer(), fall.Nummer) << fall.Name;
     }

@@ -28,6 +28,7 @@ public:
     std::size_t offene() const { return griffe_.size(); }
 
     Griff öffnen(const Text& pfad, Dateimodus modus) override {
+        if (modus == Dateimodus::schreiben) Dateien[pfad] = {};
         const auto datei = Dateien.find(pfad);
         if (datei == Dateien.end()) throw Dateifehler(53, pfad);
         if (datei->second.gesperrt || (modus != Dateimodus::lesen && datei->second.nur_lesbar)) throw Dateifehler(75, pfad);
@@ -68,11 +69,15 @@ public:
         return static_cast<std::int64_t>(datei->second.Inhalt.size() + datei->second.Länge_dahinter);
     }
 
+    void umbenennen(const Text& von, const Text& nach) override {
+        Dateien[nach] = Dateien.at(von);
+        Dateien.erase(von);
+    }
+    void löschen(const Text& pfad) override { Dateien.erase(pfad); }
+
     // Nothing here reads or changes folders.
     bool Ordner_da(const Text&) override { return false; }
     std::optional<Zeitpunkt> Änderungszeit(const Text&) override { return std::nullopt; }
-    void umbenennen(const Text&, const Text&) override { throw Dateifehler(70); }
-    void löschen(const Text&) override { throw Dateifehler(70); }
     void Ordner_anlegen(const Text&) override { throw Dateifehler(70); }
     void Ordner_löschen(const Text&) override { throw Dateifehler(70); }
     std::vector<Eintrag> auflisten(const Text&) override { throw Dateifehler(70); }

@@ -1,4 +1,4 @@
-// A window with every kind of control, for looking at and for working by synthetic events.
+// A window with every kind of control, for working by synthetic events.
 #pragma once
 
 #include "oberflaeche/ansicht.hpp"
@@ -13,71 +13,56 @@ struct Schaufenster : Fenster {
         Menü_setzen(menü_tabelle);
         Vorgabeknopf = &Ok;
         Abbruchknopf = &Abbruch;
-        Lied_Titel.wie_Daten = Lied_Titel.eingerahmt = true;
-        Dauer.wie_Daten = Dauer.eingerahmt = true;
-        Dauer.ausrichtung = Schriftfeld::Ausrichtung::rechts;
-        Hinweis.umbrechen = true;
+        Lied_Titel.wie_Daten = Lied_Titel.eingerahmt = Hinweis.umbrechen = true;
+        Lied_Titel.ausrichtung = Schriftfeld::Ausrichtung::rechts;
         Play.Bild = "play";
-        Play.klein = Pause.klein = Stop.klein = Vor.klein = true;
         Pause.Bild = "pause";
-        Stop.Bild = "stop";
         Vor.Bild = "vor";
-        Gesperrt.aktiv(false);
-        Gesperrter_Kasten.aktiv(false);
+        Play.klein = Pause.klein = Vor.klein = true;
         Pop.farbe(RGB(192, 0, 0));
+        Rot.aktiv(false);
         Rot.hintergrund(RGB(255, 220, 220));
         Genre.setzen({"Blues", "Classic Rock", "Jazz", "Übermäßig lange Bezeichnung eines Genres"});
         Genre.wähle(1);
         Ok.Klick.verbinden([this] { ++ok; });
         Suche.Geändert.verbinden([this] { ++geändert; });
         Liste.Klick.verbinden([this] { ++listenklicks; });
-        Rock.Klick.verbinden([this] { ++kastenklicks; });
-        Fortschritt.wert(62);
-        Lautstärke.wert(75);
-        Rock.wert(true);
         nach_Artist.wählen();
     }
 
     Knoten anordnung() override {
         return Spalte({
-                          Zeile({Symbol, Spalte({Überschrift, Zeile({Knoten(Lied_Titel).dehnen(1), Dauer})}).dehnen(1)}),
+                          Zeile({Symbol, Knoten(Lied_Titel).dehnen(1)}),
                           Modus,
                           Zeile({Spalte({Knoten(Liste).dehnen(1, 1), Zeile({Suche_Schrift, Knoten(Suche).dehnen(1)})})
                                      .dehnen(1, 1),
-                                 Spalte({Gruppe(Kategorien, Gitter(2, {Rock, Pop, Klassik, Gesperrter_Kasten})),
-                                         Gruppe(Sortierung, Zeile({nach_Titel, nach_Artist})), Zeile({Genre_Schrift, Genre}),
-                                         Gruppe(Panel,
-                                                Spalte({Zeile({Play, Pause, Stop, Vor, Feder(1)}), Lautstärke, Bildlauf})),
-                                         Hinweis, Zeile({Stufen, Feder()}), Fortschritt, Feder(0, 1)})})
+                                 Spalte({Gruppe(Kategorien, Gitter(2, {Pop, Klassik})),
+                                         Gruppe(Sortierung, Zeile({nach_Titel, nach_Artist})), Genre,
+                                         Gruppe(Panel, Zeile({Play, Pause, Vor})), Lautstärke, Bildlauf, Hinweis,
+                                         Zeile({Stufen, Feder()}), Fortschritt, Feder(0, 1)})})
                               .dehnen(1, 1),
-                          Zeile({Feder(1), Rot, Gesperrt, Ok, Abbruch}),
+                          Zeile({Feder(1), Rot, Ok, Abbruch}),
                       })
             .rand(180);
     }
     Größe Startgröße() override { return {12000, 8400}; }
 
     Bildfläche Symbol{*this, "Symbol", "symbol"};
-    Schriftfeld Überschrift{*this, "Überschrift", "Gewähltes Lied"};
     Schriftfeld Lied_Titel{*this, "Lied_Titel", "Simon && Garfunkel - The Sound of Silence (Live, 1966)"};
-    Schriftfeld Dauer{*this, "Dauer", "03:05"};
     Reiter Modus{*this, "Modus", {"Lieder", "Alben"}};
     Listenfeld Liste{*this, "Liste"};
     Schriftfeld Suche_Schrift{*this, "Suche_Schrift", "&Schnellsuche:"};
     Textfeld Suche{*this, "Suche"};
     Rahmen Kategorien{*this, "Kategorien", "Kategorien"};
-    Kasten Rock{*this, "Rock", "&Rock"};
     Kasten Pop{*this, "Pop", "Pop"};
     Kasten Klassik{*this, "Klassik", "Klassik"};
-    Kasten Gesperrter_Kasten{*this, "Gesperrter_Kasten", "Weihnachten"};
     Rahmen Sortierung{*this, "Sortierung", "sortieren nach"};
     Optionsfeld nach_Titel{*this, "sortieren", "Titel", 1};
     Optionsfeld nach_Artist{*this, "sortieren", "Artist", 2};
-    Schriftfeld Genre_Schrift{*this, "Genre_Schrift", "Genre:"};
     Auswahlfeld Genre{*this, "Genre"};
     Rahmen Panel{*this, "Panel"};
     Knopf Play{*this, "Play", "Play"};
     Knopf Pause{*this, "Pause", "Pause"};
-    Knopf Stop{*this, "Stop", "Stop"};
     Knopf Vor{*this, "Vor", ">>"};
     Regler Lautstärke{*this, "Lautstärke", 0, 100};
     Regler Bildlauf{*this, "Bildlauf", 0, 20, ohne_Index, Regler::Form::Bildlauf};
@@ -85,7 +70,6 @@ struct Schaufenster : Fenster {
     Dreistufer Stufen{*this, "Stufen"};
     Balken Fortschritt{*this, "Fortschritt"};
     Knopf Rot{*this, "Rot", "Warnung"};
-    Knopf Gesperrt{*this, "Gesperrt", "Gesperrt"};
     Knopf Ok{*this, "Ok", "OK"};
     Knopf Abbruch{*this, "Abbruch", "Abbrechen"};
     Menü menü_tabelle{*this,
@@ -93,7 +77,7 @@ struct Schaufenster : Fenster {
                        {"Optionen", "&Optionen", ohne_Index, {}, {{"Fett", "&Fett", ohne_Index, [] {}, {}}}},
                        {"Hilfe", "&?", ohne_Index, {}, {{"Info", "&Info", ohne_Index, [] {}, {}}}}}};
 
-    int ok = 0, geändert = 0, listenklicks = 0, kastenklicks = 0, menüklicks = 0;
+    int ok = 0, geändert = 0, listenklicks = 0, menüklicks = 0;
 };
 
 }  // namespace tonkartei

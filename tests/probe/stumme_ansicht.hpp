@@ -36,4 +36,10 @@ public:
     [[noreturn]] void an_Laufzeitfehler_enden(const Laufzeitfehler& fehler) override { throw fehler; }
 };
 
+// Says yes to every question.
+class Ja_Ansicht : public Stumme_Ansicht {
+public:
+    Antwort melden(const Meldungsfeld&) override { return Antwort::Ja; }
+};
+
 }  // namespace tonkartei

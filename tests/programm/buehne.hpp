@@ -118,6 +118,10 @@ protected:
     void hände(const std::vector<std::string>& zeilen) {
         for (const auto& zeile : zeilen) hand(zeile);
     }
+    void beenden() {
+        hand("klick Tonkartei.MP_Beenden");
+        EXPECT_EQ(b->Ende_abwarten(), 0);
+    }
     // What has happened since the last look.
     std::vector<std::string> geschehen() { return std::exchange(Ablauf, {}); }
     std::string mdb(const std::string& name = "a") const { return ordner.inhalt(name + "/MP3_Info.MDB"); }

@@ -5,20 +5,15 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 
-#include <algorithm>
-#include <atomic>
-#include <memory>
 #include <random>
 
 #include "plattform/linux/schreibtisch.hpp"
 #include "spieler/buehne.hpp"
-#include "spieler/fenster.hpp"
 
 namespace tonkartei::spieler {
 namespace {
 
 using protokoll::Anfrage;
-using protokoll::Antwort;
 using protokoll::Art;
 
 template <class Werk>
@@ -124,11 +119,8 @@ TEST_F(Fremde, StummeUndVieleStörenDenSpielerNicht) {
     std::vector<Deskriptor> stumme;
     for (int i = 0; i < 150; ++i) {
         stumme.push_back(verbinden(f));
-        if (i % 10 == 0) {
-            EXPECT_EQ(1, Status(f)) << i;
-        }
+        ASSERT_EQ(1, i % 10 == 0 ? Status(f) : 1) << i;
     }
-    EXPECT_EQ(f, System.FindWindowA("Tonkartei"));
     EXPECT_TRUE(beendet(stumme.back())) << "who does not greet is not kept";
 
     // Greets and asks without ever taking an answer, with full speed.
@@ -149,71 +141,16 @@ TEST_F(Fremde, WasKeinFensterIstStörtDenBlickNicht) {
     { const Deskriptor tot = Attrappe(9004); }
     const Deskriptor strom = Attrappe(9005, SOCK_STREAM);
     const Deskriptor stumm = Attrappe(9006);
-    const Deskriptor ohne_Ziffern = Attrappe(9007);
-    std::filesystem::rename(ordner + "9007", ordner + "9007x");
 
     EXPECT_GT(2000, Millisekunden([&] { EXPECT_EQ(std::vector{f}, alle_Fenster()); }));
     EXPECT_FALSE(std::filesystem::exists(ordner + "9004")) << "dead, swept away";
-    for (const auto* name : {"9001", "9002", "9003", "9005", "9006", "9007x"})
+    for (const auto* name : {"9001", "9002", "9003", "9005", "9006"})
         EXPECT_TRUE(std::filesystem::exists(std::filesystem::symlink_status(ordner + name)))
             << name << ": not ours to delete";
     EXPECT_GT(100, Millisekunden([&] { EXPECT_EQ(std::vector{f}, alle_Fenster()); }))
         << "who was mute is not waited for again";
     EXPECT_EQ(0, System.SendMessageA(9006, WM_USER, 0, 104));
     EXPECT_EQ(0, Status(f));
-}
-
-// Listening sockets that answer the greeting with each of these; only the last one is a window.
-TEST_F(Fremde, FalscheKöpfeSindKeineFenster) {
-    Antwort kopf;
-    const auto mit = [&](Hwnd griff, std::string_view klasse) {
-        kopf.Ergebnis = griff;
-        return protokoll::gepackt(kopf, klasse);
-    };
-    Antwort fremd;
-    fremd.Kennung = 1;
-    fremd.Ergebnis = 9003;
-    const std::vector<std::string> Köpfe{
-        "x",
-        std::string(sizeof(Antwort), '\xFF'),
-        mit(9001, "Tonkartei").substr(0, 16),
-        protokoll::gepackt(fremd, "Tonkartei"),
-        mit(1, "Tonkartei"),
-        mit(9005, ""),
-        mit(9006, std::string(256, 'k')),
-        mit(9007, std::string(60'000, 'k')),
-        "",
-        mit(9009, "Tonkartei"),
-    };
-    std::vector<Deskriptor> attrappen;
-    for (std::size_t i = 0; i < Köpfe.size(); ++i) attrappen.push_back(Attrappe(static_cast<Hwnd>(9000 + i)));
-    std::atomic<bool> ende = false;
-    std::thread antworter([&] {
-        std::vector<std::pair<Deskriptor, std::size_t>> offen;
-        while (!ende) {
-            for (std::size_t i = 0; i < Köpfe.size(); ++i) {
-                pollfd p{attrappen[i].fd(), POLLIN, 0};
-                if (::poll(&p, 1, 1) <= 0) continue;
-                Deskriptor s(::accept(attrappen[i].fd(), nullptr, nullptr));
-                if (!Köpfe[i].empty()) senden(s, Köpfe[i]);
-                if (i + 1 == Köpfe.size()) offen.emplace_back(std::move(s), i);
-            }
-            // The last one answers its first question with rubbish.
-            for (auto& [s, i] : offen) {
-                char puffer[256];
-                const auto n = ::recv(s.fd(), puffer, sizeof(puffer), MSG_DONTWAIT);
-                Anfrage anfrage;
-                if (n == sizeof(anfrage)) std::memcpy(&anfrage, puffer, sizeof(anfrage));
-                if (n > 0 && anfrage.Art != Art::Gruß) senden(s, "unfug");
-            }
-        }
-    });
-    EXPECT_EQ(9009, System.FindWindowA("Tonkartei"));
-    EXPECT_EQ(std::vector<Hwnd>{9009}, alle_Fenster());
-    EXPECT_EQ(0, System.SendMessageA(9009, WM_USER, 0, 104));
-    EXPECT_TRUE(alle_Fenster().empty()) << "a window that talks rubbish was none";
-    ende = true;
-    antworter.join();
 }
 
 TEST_F(Fremde, HängenderSpielerKostetNurDieFrist) {
@@ -239,41 +176,6 @@ TEST_F(Fremde, FremderOrdnerIstKeinSchreibtisch) {
     EXPECT_EQ(1, Ende(starten({"/CLASS=Tonkartei"})));
     ::chmod(Fensterordner().c_str(), 0700);
     EXPECT_EQ(f, System.FindWindowA("Tonkartei"));
-}
-
-// Fifty windows, served by one thread.
-TEST_F(Fremde, VieleFensterSindSchnellDurchgesehen) {
-    struct Nichts final : Fensterprozedur {
-        std::int32_t Nachricht(std::uint32_t, std::int32_t w, std::int64_t) override { return w; }
-        void Dateien(const std::vector<Text>&, bool) override {}
-        Auskunft Auskunft_geben() const override { return {}; }
-        void geschlossen() override {}
-    } nichts;
-    std::vector<std::unique_ptr<Fenster>> fenster;
-    for (int i = 0; i < 50; ++i) fenster.push_back(std::make_unique<Fenster>("Klasse" + std::to_string(i), nichts));
-    std::atomic<bool> ende = false;
-    std::thread diener([&] {
-        std::vector<pollfd> liste;
-        while (!ende) {
-            liste.clear();
-            for (const auto& f : fenster) f->anmelden(liste);
-            if (::poll(liste.data(), liste.size(), 5) <= 0) continue;
-            for (const auto& f : fenster) f->bedienen(liste);
-        }
-    });
-    EXPECT_EQ(50U, alle_Fenster().size());
-    std::vector<double> zeiten;
-    for (int i = 0; i < 50; ++i) {
-        zeiten.push_back(Millisekunden([&] {
-            for (const Hwnd f : alle_Fenster()) EXPECT_FALSE(System.GetClassNameA(f).empty());
-        }));
-    }
-    std::ranges::nth_element(zeiten, zeiten.begin() + 25);
-    RecordProperty("Millisekunden_je_Blick", std::to_string(zeiten[25]));
-    EXPECT_GT(5, zeiten[25]);
-    EXPECT_EQ(7, System.SendMessageA(fenster.back()->Griff(), WM_USER, 7, 0));
-    ende = true;
-    diener.join();
 }
 
 }  // namespace

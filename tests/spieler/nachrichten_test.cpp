@@ -6,19 +6,6 @@ namespace {
 
 class Nachrichten : public Bühne {};
 
-TEST_F(Nachrichten, OhneDateiGestoppt) {
-    const Hwnd f = Spieler_mit();
-    ASSERT_NE(0, f);
-    EXPECT_EQ("Tonkartei", System.GetClassNameA(f));
-    EXPECT_EQ(0, Status(f));
-    EXPECT_EQ(-1, Position(f));
-    EXPECT_EQ(-1, Länge(f));
-    for (const int code : {40045, 40046, 40047, 40144, 40148, 1}) Befehl(f, code);
-    springen(f, 5000);
-    EXPECT_EQ(0, Status(f));
-    EXPECT_EQ(-1, Position(f));
-}
-
 TEST_F(Nachrichten, WiedergabePauseStopp) {
     const Hwnd f = Spieler_mit({Lied("a.wav")});
     EXPECT_EQ(1, Status(f)) << "taken is playing, sound or not";
@@ -101,14 +88,6 @@ TEST_F(Nachrichten, Springen) {
     EXPECT_EQ(-1, Länge(f));
 }
 
-TEST_F(Nachrichten, EndeDesLiedesStoppt) {
-    const Hwnd f = Spieler_mit({Lied("kurz.wav", 0.3)});
-    EXPECT_TRUE(warte([&] { return Status(f) == 0; }));
-    EXPECT_EQ(-1, Position(f));
-    Befehl(f, 40045);
-    EXPECT_EQ(1, Status(f));
-}
-
 TEST_F(Nachrichten, LautstärkeBleibtJeKlasse) {
     const Hwnd a = Spieler_mit();
     EXPECT_EQ(255, System.Zustand(a)->Lautstärke);
@@ -116,51 +95,41 @@ TEST_F(Nachrichten, LautstärkeBleibtJeKlasse) {
         System.SendMessageA(a, WM_USER, gesendet, 122);
         EXPECT_EQ(gilt, System.Zustand(a)->Lautstärke);
     }
-    System.SendMessageA(a, WM_CLOSE, 0, 0);
-    EXPECT_EQ(191, System.Zustand(Spieler_mit())->Lautstärke);
-    starten({"/CLASS=../Tonkartei"});
-    EXPECT_EQ(255, System.Zustand(Fenster_von("../Tonkartei"))->Lautstärke);
-}
-
-TEST_F(Nachrichten, SchließenHeißtWeg) {
-    const pid_t pid = starten({"/CLASS=Tonkartei", Lied("a.wav")});
-    const Hwnd f = Fenster_von("Tonkartei");
     Fenstersystem_Linux anderes;
-    ASSERT_EQ(f, anderes.FindWindowA("Tonkartei"));
-    std::int32_t null = 0;
-    System.SendMessageA(f, WM_CLOSE, 0, reinterpret_cast<std::intptr_t>(&null));
-    EXPECT_EQ(0, System.FindWindowA("Tonkartei"));
-    EXPECT_EQ(0, anderes.SendMessageA(f, WM_USER, 0, 104));
-    EXPECT_FALSE(std::filesystem::exists(Fensterordner() + std::to_string(f)));
-    EXPECT_EQ(0, Ende(pid));
-}
-
-TEST_F(Nachrichten, SignalEndetOrdentlich) {
-    const pid_t pid = starten({"/CLASS=Tonkartei", Lied("a.wav")});
-    const Hwnd f = Fenster_von("Tonkartei");
+    ASSERT_EQ(a, anderes.FindWindowA("Tonkartei"));
+    System.SendMessageA(a, WM_CLOSE, 0, 0);
+    EXPECT_EQ(0, System.FindWindowA("Tonkartei")) << "gone at once";
+    EXPECT_EQ(0, anderes.SendMessageA(a, WM_USER, 0, 104));
+    EXPECT_EQ(191, System.Zustand(Spieler_mit())->Lautstärke);
+    // A signal ends it in order, too.
+    const pid_t pid = starten({"/CLASS=../Tonkartei"});
+    const Hwnd f = Fenster_von("../Tonkartei");
+    EXPECT_EQ(255, System.Zustand(f)->Lautstärke) << "no path";
     System.SendMessageA(f, WM_USER, 77, 122);
     ::kill(pid, SIGTERM);
     EXPECT_EQ(0, Ende(pid));
     EXPECT_FALSE(std::filesystem::exists(Fensterordner() + std::to_string(f)));
-    EXPECT_EQ(77, System.Zustand(Spieler_mit())->Lautstärke);
+    starten({"/CLASS=../Tonkartei"});
+    EXPECT_EQ(77, System.Zustand(Fenster_von("../Tonkartei"))->Lautstärke);
 }
 
 TEST_F(Nachrichten, FensterrufeBleibenBeimFenster) {
     const Hwnd f = Spieler_mit();
-    EXPECT_TRUE(System.Zustand(f)->sichtbar);
+    EXPECT_EQ("Tonkartei", System.GetClassNameA(f));
     EXPECT_TRUE(System.SetWindowPos(f, HWND_NOTOPMOST, 9, 9, 9, 9, SWP_HIDEWINDOW | SWP_NOMOVE | SWP_NOSIZE));
     EXPECT_FALSE(System.Zustand(f)->sichtbar);
     EXPECT_EQ(f, System.FindWindowA("Tonkartei")) << "hidden is not gone";
     System.SetWindowPos(f, HWND_NOTOPMOST, 0, 0, 0, 0, SWP_SHOWWINDOW | SWP_NOMOVE | SWP_NOSIZE);
     EXPECT_TRUE(System.Zustand(f)->sichtbar);
 
-    Rechteck r;
-    System.SetWindowPos(f, HWND_NOTOPMOST, 10, 20, 300, 200, 0);
-    ASSERT_TRUE(System.GetWindowRect(f, r));
-    EXPECT_EQ((std::array{10, 20, 310, 220}), (std::array{r.links, r.oben, r.rechts, r.unten}));
-    System.SetWindowPos(f, HWND_NOTOPMOST, 2147483647, 0, 2147483647, -4, 0);
-    ASSERT_TRUE(System.GetWindowRect(f, r));
-    EXPECT_EQ((std::array{2147483647, 0, 2147483647, 0}), (std::array{r.links, r.oben, r.rechts, r.unten}));
+    const auto Platz_nach = [&](int x, int y, int breite, int höhe) {
+        Rechteck r;
+        System.SetWindowPos(f, HWND_NOTOPMOST, x, y, breite, höhe, 0);
+        EXPECT_TRUE(System.GetWindowRect(f, r));
+        return std::array{r.links, r.oben, r.rechts, r.unten};
+    };
+    EXPECT_EQ((std::array{10, 20, 310, 220}), Platz_nach(10, 20, 300, 200));
+    EXPECT_EQ((std::array{2147483647, 0, 2147483647, 0}), Platz_nach(2147483647, 0, 2147483647, -4));
 
     EXPECT_EQ(System.GetDesktopWindow(), System.SetParent(f, 4711));
     EXPECT_EQ(4711, System.SetParent(f, 0));

@@ -14,6 +14,8 @@
 #include "oberflaeche/ansicht.hpp"
 #include "plattform/kanaele.hpp"
 #include "plattform/linux/dateisystem_linux.hpp"
+#include "plattform/linux/rechner_linux.hpp"
+#include "plattform/linux/registrierung_linux.hpp"
 #include "plattform/plattform.hpp"
 #include "probe/stumme_ansicht.hpp"
 #include "testordner.hpp"
@@ -136,16 +138,13 @@ private:
     Aufzeichnung& aufzeichnung_;
 };
 
-class Rechner_Bühne : public Rechner {
+class Rechner_Bühne : public Rechner_Linux {
 public:
     explicit Rechner_Bühne(Aufzeichnung& aufzeichnung) : aufzeichnung_(aufzeichnung) {}
     long long Uhr_ms = 12LL * 3600 * 1000;  // since midnight of the first day
 
     void stellen(int stunde, int minute, int sekunde) { Uhr_ms = ((stunde * 60LL + minute) * 60 + sekunde) * 1000; }
 
-    Text GetComputerNameA() override { return "RECHNER"; }
-    Text GetUserNameA() override { return "BENUTZER"; }
-    Text Temp_Verzeichnis() override { return {}; }
     Zeitpunkt jetzt() override {
         const auto sekunde = static_cast<int>(Uhr_ms / 1000 % 86400);
         return {2026, 1, 15, sekunde / 3600, sekunde / 60 % 60, sekunde % 60};
@@ -154,7 +153,6 @@ public:
         aufzeichnung_.push_back("warten " + Zahltext(ms));
         Uhr_ms += ms;
     }
-    bool andere_Instanz_läuft() override { return false; }
     std::deque<float> Zufall;  // the next values of the generator; then it runs freely
     float Zufallszahl() override {
         if (Zufall.empty()) return static_cast<float>(generator_() >> 8U) / 16777216.0F;
@@ -163,24 +161,10 @@ public:
         return zahl;
     }
     void Zufall_säen() override {}
-    Text WinAmp_Vorgabe() override { return {}; }
 
 private:
     Aufzeichnung& aufzeichnung_;
     std::mt19937 generator_{4711};
-};
-
-class Registrierung_Bühne : public Registrierung {
-public:
-    long RegOpenKeyExA(Schlüssel, const Text&, std::uint32_t, Schlüssel&) override { return ERROR_FILE_NOT_FOUND; }
-    long RegCreateKeyExA(Schlüssel, const Text&, Schlüssel&) override { return ERROR_FILE_NOT_FOUND; }
-    long RegQueryValueExA(Schlüssel, const Text&, std::uint32_t&, std::uint32_t&, std::vector<char>*) override {
-        return ERROR_FILE_NOT_FOUND;
-    }
-    long RegSetValueExA(Schlüssel, const Text&, std::uint32_t, const std::vector<char>&) override { return ERROR_SUCCESS; }
-    long RegFlushKey(Schlüssel) override { return ERROR_SUCCESS; }
-    long RegCloseKey(Schlüssel) override { return ERROR_SUCCESS; }
-    long RegDeleteKeyA(Schlüssel, const Text&) override { return ERROR_SUCCESS; }
 };
 
 // A disk on which one kind of work can be made to fail.
@@ -208,7 +192,7 @@ struct Bühne {
     Fenster_Bühne Fenster{Protokoll};
     Shell_Bühne Shell{Protokoll};
     Rechner_Bühne Rechner{Protokoll};
-    Registrierung_Bühne Registrierung;
+    Registrierung_Linux Registrierung{Ordner.pfad("einstellungen.reg")};
     Dateisystem_Bühne Dateien;
     Kanäle Kanäle_{Dateien};
     tonkartei::Modell Modell;

@@ -6,39 +6,7 @@
 namespace tonkartei {
 namespace {
 
-TEST(Winamp_Steuerung, jeder_Ruf_ist_eine_Nachricht) {
-    Aufzeichnung protokoll;
-    Fenster_Bühne fenster(protokoll);
-    Winamp_Steuerung steuerung(fenster);
-    fenster.Fenster = {{9, Fenster_Bühne::Schreibtisch, "Winamp v1.x"}};
-
-    steuerung.WinAmp_Befehl(40045, 9);
-    steuerung.WinAmp_springen(9, 63000);
-    steuerung.WinAmp_Befehl_Standard(40047);
-    steuerung.verstecken(9);
-    steuerung.zeigen(9);
-    EXPECT_EQ(steuerung.WinAmp_Position_lesen(9), fenster.Position);
-    EXPECT_EQ(steuerung.WinAmp_Länge_lesen(9), fenster.Länge);
-    EXPECT_EQ(steuerung.WinAmp_Standard_Fenster(), 9);
-    steuerung.Fenster_schließen(9);
-    EXPECT_EQ(protokoll, (Aufzeichnung{"senden 9 273 40045 0", "senden 9 1024 63000 106", "senden 9 273 40047 0",
-                                       "lage 9 -2 0 131", "lage 9 -2 0 67", "schließen 9"}));
-    EXPECT_EQ(steuerung.WinAmp_Standard_Fenster(), 0);
-}
-
-TEST(Winamp_Steuerung, Lautstärke_wird_begrenzt_und_zurückgeschrieben) {
-    Aufzeichnung protokoll;
-    Fenster_Bühne fenster(protokoll);
-    Winamp_Steuerung steuerung(fenster);
-    for (const auto& [gewollt, gesetzt] : {std::pair<Long, Long>{-1, 0}, {0, 0}, {255, 255}, {256, 255}}) {
-        Long wert = gewollt;
-        steuerung.WinAmp_Lautstärke_setzen(9, wert);
-        EXPECT_EQ(wert, gesetzt);
-        EXPECT_EQ(protokoll.back(), "senden 9 1024 " + Zahltext(gesetzt) + " 122");
-    }
-}
-
-TEST(Winamp_Steuerung, Status) {
+TEST(Winamp_Steuerung, Status_und_Ort) {
     Aufzeichnung protokoll;
     Fenster_Bühne fenster(protokoll);
     Winamp_Steuerung steuerung(fenster);
@@ -48,18 +16,19 @@ TEST(Winamp_Steuerung, Status) {
         EXPECT_EQ(steuerung.WinAmp_Status_lesen(9), status) << antwort;
     }
     EXPECT_EQ(steuerung.WinAmp_Status_lesen(10), 3) << "a window that is gone";
-    EXPECT_EQ(steuerung.WinAmp_Position_lesen(10), 0);
+    steuerung.WinAmp_springen(9, 63000);
+    EXPECT_EQ(protokoll, Aufzeichnung{"senden 9 1024 63000 106"});
+    EXPECT_EQ(steuerung.WinAmp_Position_lesen(9), fenster.Position);
+    EXPECT_EQ(steuerung.WinAmp_Länge_lesen(9), fenster.Länge);
 }
-
-struct Suchfall {
-    const char* was;
-    std::vector<Fenster_Bühne::Eintrag> fenster;
-    Hwnd gefunden;
-};
 
 TEST(Fenstersuche, welches_Fenster_gilt) {
     constexpr Hwnd oben = Fenster_Bühne::Schreibtisch;
-    const std::vector<Suchfall> fälle = {
+    const struct {
+        const char* was;
+        std::vector<Fenster_Bühne::Eintrag> fenster;
+        Hwnd gefunden;
+    } fälle[] = {
         {"no window at all", {}, 0},
         {"none of the class", {{2, oben, "Editor"}}, 0},
         {"the last one wins", {{2, oben, "Tonkartei"}, {3, oben, "Tonkartei"}, {4, oben, "Editor"}}, 3},
@@ -70,7 +39,7 @@ TEST(Fenstersuche, welches_Fenster_gilt) {
         {"nor does it replace one found above", {{2, oben, "Tonkartei"}, {3, 2, "Tonkartei"}, {4, 3, "Tonkartei"}}, 2},
         {"only 254 characters are read", {{2, oben, Text(254, 'x') + "Tonkartei"}}, 0},
     };
-    for (const Suchfall& fall : fälle) {
+    for (const auto& fall : fälle) {
         Aufzeichnung protokoll;
         Fenster_Bühne fenster(protokoll);
         Ansicht_Bühne ansicht;

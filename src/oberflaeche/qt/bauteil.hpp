@@ -4,13 +4,13 @@
 #include <QObject>
 #include <QPoint>
 #include <QPointer>
+#include <QWidget>
 #include <memory>
 
 #include "oberflaeche/element.hpp"
 
 class QKeyEvent;
 class QMouseEvent;
-class QWidget;
 
 namespace tonkartei {
 

@@ -49,7 +49,6 @@ struct Haupt : Fenster {
             dialog.zeigen_modal();
             zeigen_als("nach modal");
         });
-        knopf("Fehler", [] { throw Laufzeitfehler(Fehler_Index); });
         knopf("Endlos", [this] {
             for (;;) this->ansicht().Ereignisse_laufen_lassen();
         });

@@ -1,8 +1,10 @@
-// The frame reader on any file at all, beside a search that follows its rules byte by byte.
+// The readers of a song file on any file at all: the frame beside a search that follows its rules byte by byte, the tag
+// there and back.
 #include <cstring>
 #include <optional>
 
 #include "fuzz/treiber.hpp"
+#include "grundlagen/codepage.hpp"
 #include "grundlagen/fehler.hpp"
 #include "mp3/bausteine.hpp"
 #include "mp3/mp3_taghead.hpp"
@@ -21,6 +23,32 @@ std::size_t langsam_gesucht(const std::string& inhalt, std::uint64_t länge) {
     for (std::size_t p = 1; p <= 5000; ++p)
         if (byte(p) == 255 && (byte(p + 1) == 250 || byte(p + 1) == 251)) return p;
     return 0;
+}
+
+void sauber(const Text& text, std::size_t breite) {
+    verlangt(Zeichenzahl(text) <= breite, "text no longer than its field");
+    verlangt(text.find_first_of(std::string_view("\0\r\n", 3)) == Text::npos, "no zero and no line break");
+    verlangt(text == getrimmt(text), "no blanks at the ends");
+    verlangt(text == auf_Seite(text), "only characters of the page");
+}
+
+void Tag_hin_und_zurück(Speicher_Dateisystem& dateien) {
+    const std::string& inhalt = dateien.Dateien["a"].Inhalt;
+    const std::string alt = inhalt;
+    MP3_TagHead mp3(dateien), neu(dateien);
+    mp3.MP3_Datei = neu.MP3_Datei = "a";
+    const bool lang_genug = alt.size() >= 128;
+    const bool da = lang_genug && alt.compare(alt.size() - 128, 3, "TAG") == 0;
+    verlangt(mp3.Tag_lesen() == da, "a tag is 128 bytes and a marker");
+    for (const Text* text : {&mp3.Tag_Titel, &mp3.Tag_Artist, &mp3.Tag_Album, &mp3.Tag_Kommentar}) sauber(*text, 30);
+    sauber(mp3.Tag_Jahr, 4);
+    verlangt(mp3.Tag_schreiben() == lang_genug, "writing needs 128 bytes");
+    verlangt(inhalt.size() == alt.size(), "the file never grows");
+    verlangt(!lang_genug || inhalt.compare(0, alt.size() - 128, alt, 0, alt.size() - 128) == 0, "the sound stays");
+    verlangt(neu.Tag_lesen() == lang_genug, "a tag stands now");
+    verlangt(mp3.Tag_Titel == neu.Tag_Titel && mp3.Tag_Artist == neu.Tag_Artist && mp3.Tag_Album == neu.Tag_Album &&
+                 mp3.Tag_Jahr == neu.Tag_Jahr && mp3.Tag_Kommentar == neu.Tag_Kommentar && mp3.Tag_Genre == neu.Tag_Genre,
+             "what was written is read again");
 }
 
 // The value of a call, or none for one of the two failures it may report.
@@ -77,6 +105,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t gr�
         verlangt(daten_auf_einmal->Größe == einzeln.Lied_Größe_lesen("a"), "the same size in one go");
         verlangt(daten_auf_einmal->Titel == Titel && daten_auf_einmal->Artist == Artist, "the same names in one go");
     }
+    if (dahinter == 0) Tag_hin_und_zurück(dateien);
     verlangt(dateien.offene() == 0, "all closed");
     return 0;
 }
@@ -93,5 +122,9 @@ std::vector<std::string> Fuzz_Saat() {
         viel + Xing_Lied_Bytes(400, 1, 0xFFFB9C64, 70'000),
         nichts + Xing_Lied_Bytes(300, 1, 0xFFFB9064, 0x80000000),
         nichts + std::string(300, '\xFF'),
+        nichts + Tag_Bytes{}.Block(),
+        nichts + "Ton" + Tag_Bytes{.Titel = "ab\rcd\n", .Kommentar = " \xE4\x80 ", .Füllung = ' '}.Block(),
+        nichts + std::string(127, 'x'),
+        nichts + Tag_Bytes{.Marke = "tag"}.Block(),
     };
 }
