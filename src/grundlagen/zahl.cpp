@@ -66,8 +66,7 @@ Text Zahltext(long long wert) { return std::to_string(wert); }
 Text Zahl_mit_Nullen(long long Wert, int Stellen) {
     const Text ziffern = Zahltext(Wert);
     if (ziffern.size() > static_cast<std::size_t>(Stellen)) return {};
-    Text text(static_cast<std::size_t>(Stellen), '0');
-    return text.replace(text.size() - ziffern.size(), ziffern.size(), ziffern);
+    return Text(static_cast<std::size_t>(Stellen) - ziffern.size(), '0') + ziffern;
 }
 
 int Prozent(double Anteil, double Gesamt) {
