@@ -12,7 +12,8 @@
 
 namespace tonkartei {
 
-// Both ways run in turn, once unmeasured and then `Runden` times; their medians are compared. A way is a callable without
+// Both ways run in turn, once unmeasured and then `Runden` times (an odd number). What is told is the median of the rounds'
+// ratios: a load that comes and goes meets both ways of a round alike. A way is a callable without
 // arguments that returns a number made from its results, so that no work can be left out.
 class Verhältnisse {
 public:
@@ -25,14 +26,14 @@ public:
     // "Tags von 5000 Dateien: 1.21 x Systemaufrufe (höchstens 1.5)".
     template <class A, class B>
     void höchstens(std::string_view was, double grenze, std::string_view woran, A unser, B maß) {
-        const auto [a, b] = gemessen(unser, maß);
-        zeigen(was, a / b, woran, "höchstens", grenze, a / b <= grenze, a, b);
+        const auto [a, b, mal] = gemessen(unser, maß);
+        zeigen(was, mal, woran, "höchstens", grenze, mal <= grenze, a, b);
     }
     // `unser` is at least `grenze` times as fast as `maß`.
     template <class A, class B>
     void mindestens(std::string_view was, double grenze, std::string_view woran, A unser, B maß) {
-        const auto [a, b] = gemessen(unser, maß);
-        zeigen(was, b / a, woran, "mindestens", grenze, b / a >= grenze, a, b);
+        const auto [a, b, mal] = gemessen(unser, maß);
+        zeigen(was, 1 / mal, woran, "mindestens", grenze, 1 / mal >= grenze, a, b);
     }
     // For a figure measured otherwise (memory, say), in the same form.
     void Wert(std::string_view was, double wert, std::string_view einheit, double grenze) {
@@ -45,20 +46,22 @@ public:
     int Ergebnis() const { return gut_ ? 0 : 1; }
 
 private:
-    struct Paar {
+    struct Messung {
         double a, b;  // seconds of processor time
+        double mal;   // a as a multiple of b
     };
 
     template <class A, class B>
-    Paar gemessen(A& unser, B& maß) {
-        std::vector<double> a, b;
+    Messung gemessen(A& unser, B& maß) {
+        std::vector<double> a, b, mal;
         for (int runde = 0; runde <= Runden_; ++runde) {
             const double eins = Sekunden(unser), zwei = Sekunden(maß);
             if (runde == 0) continue;
             a.push_back(eins);
             b.push_back(zwei);
+            mal.push_back(eins / zwei);
         }
-        return {Median(a), Median(b)};
+        return {Median(a), Median(b), Median(mal)};
     }
     template <class F>
     double Sekunden(F& weg) {

@@ -73,8 +73,7 @@ Text Zahl_mit_Punkten(long long wert) {
 Text Zahl_mit_Nullen(long long Wert, int Stellen) {
     const Text ziffern = Zahltext(Wert);
     if (ziffern.size() > static_cast<std::size_t>(Stellen)) return {};
-    Text text(static_cast<std::size_t>(Stellen), '0');
-    return text.replace(text.size() - ziffern.size(), ziffern.size(), ziffern);
+    return Text(static_cast<std::size_t>(Stellen) - ziffern.size(), '0') + ziffern;
 }
 
 int Prozent(double Anteil, double Gesamt) {

@@ -16,6 +16,7 @@ DB_add_start_Kategorien::DB_add_start_Kategorien(Ansicht& ansicht)
         kasten.Beschriftung_wörtlich = true;
         kasten.tooltip(k == 1 ? "Alle Lieder der anderen Datenbank hinzufügen."
                               : "Die Lieder dieser Kategorie der anderen Datenbank hinzufügen.");
+        kasten.Klick.verbinden([this, k] { Kasten_geändert(k); });
     }
     Ok.tooltip("Die Lieder der gewählten Kategorien suchen.");
     Abbruch.tooltip("Nichts hinzufügen.");
@@ -65,5 +66,16 @@ Knoten DB_add_start_Kategorien::anordnung() {
 }
 
 void DB_add_start_Kategorien::beim_Entladen() { fertig_ = true; }
+
+// Box 1 excludes the others.
+void DB_add_start_Kategorien::Kasten_geändert(int k) {
+    if (gleicht_an_ || !Kategorie(k).wert()) return;
+    gleicht_an_ = true;
+    if (k == 1)
+        for (int andere = 2; andere <= Kategorien_maximal; ++andere) Kategorie(andere).wert(false);
+    else
+        Kategorie(1).wert(false);
+    gleicht_an_ = false;
+}
 
 }  // namespace tonkartei

@@ -23,8 +23,7 @@ public:
     Knopf Ok{*this, "Ok", "&OK"};
     Knopf Abbruch{*this, "Abbruch", "&Abbruch"};
 
-    // The box of a category of the other collection, 1 to 20; error 9 outside. The first stands for all
-    // songs, whatever the others say.
+    // The box of a category of the other collection, 1 to 20; error 9 outside. The first stands for all songs.
     Kasten& Kategorie(int k) const;
 
     // Waits for the choice; box 1 is checked at first. What is at k - 1 belongs to category k. None when it was cancelled.
@@ -35,7 +34,9 @@ protected:
     void beim_Entladen() override;
 
 private:
-    bool bestätigt_ = false, fertig_ = true;
+    void Kasten_geändert(int k);
+
+    bool bestätigt_ = false, fertig_ = true, gleicht_an_ = false;
 };
 
 }  // namespace tonkartei

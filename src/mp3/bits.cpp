@@ -1,21 +1,19 @@
 #include "mp3/bits.hpp"
 
-#include <bit>
-#include <cstdint>
+#include <algorithm>
 
 #include "grundlagen/fehler.hpp"
 
 namespace tonkartei {
 
 Text Bytes_zu_Bits(std::array<Byte, 4>& bytes) {
-    std::uint32_t wert = 0;
-    for (const Byte byte : bytes) wert = wert << 8U | byte;
+    std::array<char, 32> bits;
+    std::size_t stelle = 0;
+    for (const Byte byte : bytes)
+        for (int bit = 7; bit >= 0; --bit) bits[stelle++] = ((byte >> bit) & 1) != 0 ? '1' : '0';
     bytes.fill(0);
-    const auto stellen = static_cast<int>(std::bit_width(wert));
-    Text bits(static_cast<std::size_t>(stellen), '0');
-    for (int i = 0; i < stellen; ++i)
-        if ((wert >> (stellen - 1 - i) & 1U) != 0) bits[static_cast<std::size_t>(i)] = '1';
-    return bits;
+    const std::string_view alle(bits.data(), bits.size());
+    return Text(alle.substr(std::min(alle.find('1'), alle.size())));
 }
 
 Long Bits_zu_Zahl(std::string_view bits) {

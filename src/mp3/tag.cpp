@@ -38,7 +38,6 @@ constexpr std::size_t Genre_Stelle = 124;
 
 // Zeros are holes, not ends: what stands behind them joins up. A song is one line in the info file, so line breaks go too.
 void aus_Feld(std::string_view bytes, Text& ergebnis) {
-    bytes = bytes.substr(0, bytes.find_last_not_of('\0') + 1);  // the filling, as a rule most of the field
     std::array<char, 30> rest;
     std::size_t länge = 0;
     unsigned alle_Bits = 0;

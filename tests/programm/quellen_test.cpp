@@ -148,7 +148,10 @@ TEST_F(Quellen, andere_Datenbank_mit_verschobenen_Kategorien) {
     EXPECT_EQ(b->zeige("DB_add_start_Kategorien.Kategorie(4)")["sichtbar"], false);
     EXPECT_FALSE(Hauptfenster_frei());
     hände({"klick DB_add_start_Kategorien.Kategorie(2)", "klick DB_add_start_Kategorien.Kategorie(3)"});
-    hand("klick DB_add_start_Kategorien.Ok");  // the first box is still checked: all
+    EXPECT_EQ(b->zeige("DB_add_start_Kategorien.Kategorie(1)")["wert"], false);
+    hand("klick DB_add_start_Kategorien.Kategorie(1)");
+    EXPECT_EQ(b->zeige("DB_add_start_Kategorien.Kategorie(3)")["wert"], false);
+    hand("klick DB_add_start_Kategorien.Ok");
     EXPECT_EQ(b->zeilen("neue_Lieder_Liste.Lieder_hinzufügen"), (Zeilen{"Eva - 1", "Fritz - 2", "Gerd - 3", "Hans - 4"}));
     EXPECT_EQ(b->text("neue_Lieder_Liste.Liste_Größe(1)"), "3");
     EXPECT_EQ(b->zeige("neue_Lieder_Liste.add_Option(2)")["aktiv"], false);
@@ -184,8 +187,7 @@ TEST_F(Quellen, andere_Datenbank_eine_Kategorie_und_jedes_Lied_gefragt) {
     ordner.datei("b/00000002.MP3", Lied("Fritz", "2"));
     öffnen(a);
     andere(anderer);
-    hände({"klick DB_add_start_Kategorien.Kategorie(1)", "klick DB_add_start_Kategorien.Kategorie(3)",
-           "klick DB_add_start_Kategorien.Ok"});
+    hände({"klick DB_add_start_Kategorien.Kategorie(3)", "klick DB_add_start_Kategorien.Ok"});
     EXPECT_EQ(b->zeilen("neue_Lieder_Liste.Lieder_hinzufügen"), Zeilen{"Fritz - 2"});
     hände({"klick neue_Lieder_Liste.Ok", "klick DBadd_Kategorien.Ok"});
     EXPECT_EQ(b->text("Kategorie_Wahl.Artist"), "Fritz");
