@@ -307,6 +307,22 @@ bild Tonkartei "autoplay"
 tu "klick Tonkartei.Autoplay"
 tu "klick Tonkartei.zeige_Random_Liste"
 erwarte Tonkartei.Liste_Anzahl '"text":"4"'
+echo "== Boxes"
+for befehl in Random_Prozent Zeit_Anzahl auto_Kat_Wechsel_Setup Zufalls_Playlist; do
+    tu "klick Tonkartei.$befehl"
+    bild eingabe "eingabe_$befehl"
+    tu "abbrechen"
+    case $antwort in *'"bereit":"meldung"'*) bild meldung "meldung_$befehl" && tu "antwort OK" ;; esac
+done
+tu "klick Tonkartei.Lieder_Anzahl"
+bild meldung "meldung_Lieder_Anzahl"
+tu "antwort Nein"
+tu "klick Tonkartei.alle_Anzahl_ändern"
+bild eingabe "eingabe_Anzahl"
+tu "abbrechen"
+tu "klick Tonkartei.Lücken_füllen"
+bild meldung "meldung_Luecken"
+tu "antwort Nein"
 tu "klick Tonkartei.Menü_WinAmp_Beenden(2)"
 ende
 alben_anlegen "$arbeit/sammlungen/Tour"

@@ -31,6 +31,10 @@ struct Meldungsfeld {
     Text quelle = "programm";
 };
 
+struct Eingabefeld {
+    Text text, titel, vorgabe;
+};
+
 struct Dateiwahl {
     bool speichern = false;
     Text filter;     // "WinAmp-Playlist (*.M3U)|*.M3U| Alle Dateien (*.*) |*.*"

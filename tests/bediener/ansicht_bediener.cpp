@@ -275,7 +275,9 @@ Text Ansicht_Bediener::eingeben(const Text& text, const Text& titel, const Text&
                  .mit("vorgabe", vorgabe)
                  .text());
     Wartestand stand;
+    const Eingabefeld feld{text, titel, vorgabe};
     stand.art = Wartestand::Art::Eingabe;
+    stand.eingabe = &feld;
     stand.text = vorgabe;
     Feld_abwarten(stand);
     return stand.text;

@@ -22,6 +22,7 @@ struct Wartestand {
     Art art = Art::Schleife;
     const Fenster* fenster = nullptr;      // Fenster: the dialog
     const Meldungsfeld* feld = nullptr;    // Meldung
+    const Eingabefeld* eingabe = nullptr;  // Eingabe
     const Dateiwahl* dateiwahl = nullptr;  // Datei
 
     // A box is left once this is set; the value is where the kind says.

@@ -12,13 +12,17 @@ namespace tonkartei {
 class Ansicht_Bediener;
 class Fenster;
 class Menüpunkt;
+struct Eingabefeld;
 struct Maschine;
+struct Meldungsfeld;
 
 using Befehlstafel = std::map<Text, std::function<void(Befehlszeile&)>>;
 // Save a picture of a window, or of the menu below an entry; false when that fails. Empty without a toolkit.
 struct Bildspeicher {
     std::function<bool(Fenster&, const Text&)> fenster;
     std::function<bool(const Menüpunkt&, const Text&)> menü;
+    std::function<bool(const Meldungsfeld&, const Text&)> meldung;
+    std::function<bool(const Eingabefeld&, const Text&)> eingabe;
 };
 
 // What the hand does.

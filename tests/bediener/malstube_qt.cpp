@@ -21,7 +21,9 @@ public:
     }
     Bildspeicher bild() override {
         return {[this](Fenster& fenster, const Text& datei) { return maler_.Bild_speichern(fenster, datei); },
-                [this](const Menüpunkt& wurzel, const Text& datei) { return maler_.Bild_speichern(wurzel, datei); }};
+                [this](const Menüpunkt& wurzel, const Text& datei) { return maler_.Bild_speichern(wurzel, datei); },
+                [this](const Meldungsfeld& feld, const Text& datei) { return maler_.Bild_speichern(feld, datei); },
+                [this](const Eingabefeld& feld, const Text& datei) { return maler_.Bild_speichern(feld, datei); }};
     }
 
 private:

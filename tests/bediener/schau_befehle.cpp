@@ -72,8 +72,11 @@ Text Menü_beschreiben(const Ansicht& ansicht, const Text& name) {
     throw Befehlsfehler("kein solches Menü: " + name);
 }
 
-// A name without a dot is a window's, else a menu's.
-bool Bild_machen(const Ansicht& ansicht, const Bildspeicher& bild, const Text& name, const Text& datei) {
+// A name without a dot is a window's, else a menu's; a box that is up goes by the kind of what is waited for.
+bool Bild_machen(Ansicht_Bediener& ansicht, const Bildspeicher& bild, const Text& name, const Text& datei) {
+    const Wartestand& stand = ansicht.Stand();
+    if (name == "meldung" && stand.feld != nullptr) return bild.meldung(*stand.feld, datei);
+    if (name == "eingabe" && stand.eingabe != nullptr) return bild.eingabe(*stand.eingabe, datei);
     if (name.find('.') == Text::npos) {
         Fenster& fenster = Fenster_suchen(ansicht, name);
         if (!fenster.geladen()) throw Befehlsfehler("das Fenster ist nicht geladen: " + name);

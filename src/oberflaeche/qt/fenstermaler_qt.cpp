@@ -3,11 +3,14 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QInputDialog>
+#include <QMessageBox>
 #include <QPixmap>
 #include <QWindow>
 
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/qt/fensterwidget.hpp"
+#include "oberflaeche/qt/kaesten.hpp"
 #include "oberflaeche/qt/masse.hpp"
 #include "oberflaeche/qt/menueleiste.hpp"
 #include "oberflaeche/qt/umfeld.hpp"
@@ -106,6 +109,18 @@ bool Fenstermaler_Qt::Bild_speichern(Fenster& fenster, const Text& datei) {
 
 bool Fenstermaler_Qt::Bild_speichern(const Menüpunkt& wurzel, const Text& datei) {
     return schreiben(Menübild(wurzel), datei);
+}
+
+bool Fenstermaler_Qt::Bild_speichern(const Meldungsfeld& feld, const Text& datei) {
+    const auto kasten = Meldungskasten(feld, nullptr);
+    kasten->show();
+    return schreiben(kasten->grab(), datei);
+}
+
+bool Fenstermaler_Qt::Bild_speichern(const Eingabefeld& feld, const Text& datei) {
+    const auto kasten = Eingabekasten(feld.text, feld.titel, feld.vorgabe, nullptr);
+    kasten->show();
+    return schreiben(kasten->grab(), datei);
 }
 
 QWidget* Fenstermaler_Qt::Widget(Fenster& fenster) const { return innen_->umfeld.widget(fenster); }

@@ -13,6 +13,8 @@ namespace tonkartei {
 
 class Ansicht;
 class Menüpunkt;
+struct Eingabefeld;
+struct Meldungsfeld;
 
 class Fenstermaler_Qt : public Fenstermaler {
 public:
@@ -38,6 +40,9 @@ public:
     bool Bild_speichern(Fenster& fenster, const Text& datei);
     // The menu below that entry.
     bool Bild_speichern(const Menüpunkt& wurzel, const Text& datei);
+    // Boxes as they would come up.
+    bool Bild_speichern(const Meldungsfeld& feld, const Text& datei);
+    bool Bild_speichern(const Eingabefeld& feld, const Text& datei);
     // The window's widget, null before its first loading; parent of boxes.
     QWidget* Widget(Fenster& fenster) const;
     // The control's widget, null when it has none.

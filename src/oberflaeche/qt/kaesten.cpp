@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -37,6 +38,9 @@ bool hat_Knopf(Meldungsfeld::Knöpfe knöpfe, Antwort antwort) {
     return false;
 }
 
+// Of an input box.
+constexpr int Zeichen_je_Zeile = 60;
+
 Text Pfad(const QString& name) { return QFile::encodeName(name).toStdString(); }
 
 Text Pfad_wählen(QFileDialog& dialog) {
@@ -47,37 +51,52 @@ Text Pfad_wählen(QFileDialog& dialog) {
 
 }  // namespace
 
-Antwort Meldung_zeigen(const Meldungsfeld& feld, QWidget* eltern) {
-    QMessageBox kasten(eltern);
-    kasten.setWindowTitle(Anzeigetext(feld.titel));
-    kasten.setTextFormat(Qt::PlainText);
-    kasten.setText(Anzeigeabsätze(feld.text));
-    kasten.setIcon(feld.art == Meldungsfeld::Art::Frage ? QMessageBox::Question : QMessageBox::Information);
+std::unique_ptr<QMessageBox> Meldungskasten(const Meldungsfeld& feld, QWidget* eltern) {
+    auto kasten = std::make_unique<QMessageBox>(eltern);
+    kasten->setWindowTitle(Anzeigetext(feld.titel));
+    kasten->setTextFormat(Qt::PlainText);
+    kasten->setText(Anzeigeabsätze(feld.text));
+    kasten->setIcon(feld.art == Meldungsfeld::Art::Frage ? QMessageBox::Question : QMessageBox::Information);
     for (const Knopfart& knopf : Knopfarten) {
         if (!hat_Knopf(feld.knöpfe, knopf.antwort)) continue;
-        QPushButton* gemacht = kasten.addButton(knopf.art);
+        QPushButton* gemacht = kasten->addButton(knopf.art);
         gemacht->setText(QString::fromUtf8(knopf.beschriftung));
         gemacht->setIcon(QIcon());
-        if (feld.vorgabe == knopf.antwort) kasten.setDefaultButton(gemacht);
+        if (feld.vorgabe == knopf.antwort) kasten->setDefaultButton(gemacht);
     }
-    const int gedrückt = kasten.exec();
+    return kasten;
+}
+
+Antwort Meldung_zeigen(const Meldungsfeld& feld, QWidget* eltern) {
+    const int gedrückt = Meldungskasten(feld, eltern)->exec();
     for (const Knopfart& knopf : Knopfarten)
         if (knopf.art == gedrückt) return knopf.antwort;
     return feld.vorgabe;
 }
 
-Text Eingabe_zeigen(const Text& text, const Text& titel, const Text& vorgabe, QWidget* eltern) {
-    QInputDialog kasten(eltern);
-    kasten.setWindowTitle(Anzeigetext(titel));
+std::unique_ptr<QInputDialog> Eingabekasten(const Text& text, const Text& titel, const Text& vorgabe, QWidget* eltern) {
+    auto kasten = std::make_unique<QInputDialog>(eltern);
+    kasten->setWindowTitle(Anzeigetext(titel));
     // Qt would take "&" for an access key.
-    kasten.setLabelText(Anzeigeabsätze(text).replace(QLatin1Char('&'), QLatin1String("&&")));
-    kasten.setTextValue(Anzeigetext(vorgabe));
-    kasten.setOkButtonText(QStringLiteral("OK"));
-    kasten.setCancelButtonText(QStringLiteral("Abbrechen"));
-    kasten.resize(std::max(380, kasten.sizeHint().width()), kasten.sizeHint().height());
-    if (kasten.exec() != QDialog::Accepted) return {};
+    kasten->setLabelText(Anzeigeabsätze(text).replace(QLatin1Char('&'), QLatin1String("&&")));
+    kasten->setTextValue(Anzeigetext(vorgabe));
+    kasten->setOkButtonText(QStringLiteral("OK"));
+    kasten->setCancelButtonText(QStringLiteral("Abbrechen"));
+    // Whole paragraphs would make a box wider than the screen.
+    const int breite = Zeichen_je_Zeile * kasten->fontMetrics().averageCharWidth();
+    for (auto* schrift : kasten->findChildren<QLabel*>()) {
+        schrift->setWordWrap(true);
+        schrift->setMinimumSize(breite, schrift->heightForWidth(breite));
+    }
+    kasten->resize(kasten->sizeHint());
+    return kasten;
+}
+
+Text Eingabe_zeigen(const Text& text, const Text& titel, const Text& vorgabe, QWidget* eltern) {
+    const auto kasten = Eingabekasten(text, titel, vorgabe, eltern);
+    if (kasten->exec() != QDialog::Accepted) return {};
     // What the user left as it was keeps its bytes.
-    return kasten.textValue() == Anzeigetext(vorgabe) ? vorgabe : aus_Qt(kasten.textValue());
+    return kasten->textValue() == Anzeigetext(vorgabe) ? vorgabe : aus_Qt(kasten->textValue());
 }
 
 Text Ordnerwahl_zeigen(const Text& titel, QWidget* eltern) {
