@@ -134,9 +134,9 @@ void Playlist::beim_Laden() {
 
 bool Playlist::beim_Schließen(Schließgrund grund) {
     if (grund == Schließgrund::Hand && !Playlist_gespeichert_) {
-        const Antwort antwort =
-            drei_Antworten("Playlist beenden", "Die aktuelle Playlist ist noch nicht gespeichert!" + Text(CRCR) +
-                                                   "Wollen sie diese noch vor dem beenden speichern?");
+        modell_.Meldung = "Die aktuelle Playlist ist noch nicht gespeichert!" + Text(CRCR) +
+                          "Wollen sie diese noch vor dem beenden speichern?";
+        const Antwort antwort = ansicht().fragen_oder_abbrechen("Playlist beenden", modell_.Meldung);
         if (antwort == Antwort::Abbrechen) return false;
         // On Yes the window closes even where nothing was saved in the end.
         if (antwort == Antwort::Ja) speichern();
@@ -182,17 +182,6 @@ void Playlist::Lage_setzen(const Bereich& neue) {
     einstellungen_.Playlist_PositionY = neue.oben;
     einstellungen_.Playlist_Breite = neue.breite;
     einstellungen_.Playlist_Höhe = neue.höhe;
-}
-
-Antwort Playlist::drei_Antworten(const Text& titel, const Text& frage) {
-    modell_.Meldung = frage;
-    Meldungsfeld feld;
-    feld.titel = titel;
-    feld.text = frage;
-    feld.art = Meldungsfeld::Art::Frage;
-    feld.knöpfe = Meldungsfeld::Knöpfe::JaNeinAbbrechen;
-    feld.vorgabe = Antwort::Ja;
-    return ansicht().melden(feld);
 }
 
 }  // namespace tonkartei

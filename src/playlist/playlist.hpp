@@ -90,7 +90,6 @@ private:
     void setzen(const std::vector<Long>& nummern);
     void Anzahl_zeigen();
     void verschieben(int schritt);
-    Antwort drei_Antworten(const Text& titel, const Text& frage);
 
     void sortieren();
     void Dateigröße();

@@ -111,7 +111,8 @@ void Playlist::alles_löschen() {
 
 bool Playlist::Neu() {
     if (!Playlist_gespeichert_) {
-        const Antwort antwort = drei_Antworten("neue Playlist", "Wollen sie die aktuelle Playlist noch speichern?");
+        const Antwort antwort =
+            ansicht().fragen_oder_abbrechen("neue Playlist", "Wollen sie die aktuelle Playlist noch speichern?");
         if (antwort == Antwort::Abbrechen) return false;
         if (antwort == Antwort::Ja) speichern();
     }
