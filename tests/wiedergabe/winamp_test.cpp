@@ -178,6 +178,7 @@ TEST(WinAmp_Optionen, Zeit_Anzahl) {
                                           {"0.5", 0},
                                           {"1.5", 2},
                                           {"2.5", 2},
+                                          {"99999999999", 10},
                                           {" 7 Sekunden", 7}}) {
         b.Einstellungen.Anzahl_Zeit = 10;
         b.Ansicht.Antworten = {antwort};
