@@ -4,6 +4,7 @@
 #include <initializer_list>
 
 #include "datenbank/einstellungen.hpp"
+#include "grundlagen/waehrend.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fenster.hpp"
 #include "wiedergabe/winamp.hpp"
@@ -119,9 +120,10 @@ Knoten Fernsteuerung::Tafelknoten() {
 }
 
 void Fernsteuerung::Einstellungen_setzen() {
-    setzt_Einstellungen_ = true;
-    WinAmp_Vol.wert(einstellungen_.WinAmp_Lautstärke);
-    setzt_Einstellungen_ = false;
+    {
+        const Während setzt(setzt_Einstellungen_);
+        WinAmp_Vol.wert(einstellungen_.WinAmp_Lautstärke);
+    }
     Fernsteuerung_umgeschaltet();
 }
 
