@@ -176,7 +176,7 @@ void Playlist::öffnen() {
     try {
         inhalt = m3u_.lesen(datei);
     } catch (const Dateifehler& fehler) {
-        modell_.Meldung = fehler.Beschreibung() + Text(CRCR) + anzeigbar(datei);
+        modell_.Meldung = fehler.mit_Pfad(datei);
         ansicht().informieren(Programmtitel, modell_.Meldung);
         return;
     }

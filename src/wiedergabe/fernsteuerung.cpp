@@ -12,7 +12,6 @@
 namespace tonkartei {
 namespace {
 
-constexpr int Lautstärke_maximal = 100;
 constexpr int enge_Lücke = 3 * Twips_je_Pixel;
 
 // "nn:ss"; whole hours are dropped, and so is a sign: a player may tell any number, and the text must stay this short.
