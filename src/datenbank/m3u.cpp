@@ -1,7 +1,6 @@
 #include "datenbank/m3u.hpp"
 
 #include <optional>
-#include <utility>
 
 #include "grundlagen/versuchen.hpp"
 

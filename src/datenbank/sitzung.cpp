@@ -5,6 +5,7 @@
 #include "datenbank/info_datei.hpp"
 #include "datenbank/version.hpp"
 #include "datenbank/zugriffsdatei.hpp"
+#include "grundlagen/waehrend.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "plattform/plattform.hpp"
 
@@ -31,15 +32,6 @@ void Sitzung::Verzeichnis_setzen(const Text& Pfad) {
     if (!Pfad.empty()) plattform_.Dateisystem.aktuellen_Ordner_setzen(modell_.Datenbank_Verzeichnis);
 }
 
-// From the change of folder until memory holds what belongs to it.
-struct Sitzung::Wechsel {
-    bool& an;
-    explicit Wechsel(bool& flagge) : an(flagge) { an = true; }
-    ~Wechsel() { an = false; }
-    Wechsel(const Wechsel&) = delete;
-    Wechsel& operator=(const Wechsel&) = delete;
-};
-
 // Asks when the access file says that the collection is open already.
 bool Sitzung::Zugriff_erlaubt() {
     const Text datei = modell_.Pfad(Zugriffsdatei_Name);
@@ -59,7 +51,7 @@ bool Sitzung::Zugriff_erlaubt() {
 }
 
 bool Sitzung::lade_Datenbank() {
-    std::optional<Wechsel> wechsel(std::in_place, wechselt_);
+    std::optional<Während> wechsel(std::in_place, wechselt_);
     if (!Zugriff_erlaubt()) return false;
     Text datei = modell_.Pfad(Info_Datei_Name);
     if (!plattform_.Dateisystem.Datei_da(datei)) {
@@ -143,7 +135,7 @@ bool Sitzung::Datenbank_erstellen(bool fragen, bool Kategorien_übernehmen) {
         return false;
     }
     Verzeichnis_setzen(pfad);
-    std::optional<Wechsel> wechsel(std::in_place, wechselt_);
+    std::optional<Während> wechsel(std::in_place, wechselt_);
     if (fragen)
         Kategorien_übernehmen = ansicht_.fragen(
             Titel_erstellen, "Wollen sie die Kategorien aus der aktuellen Datenbank in die neue übernehmen?");

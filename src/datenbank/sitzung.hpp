@@ -52,8 +52,6 @@ public:
     Ereignis<bool> geladen;
 
 private:
-    struct Wechsel;
-
     bool Zugriff_erlaubt();
     bool gespeichert_oder_verzichtet(const Text& titel, const Text& frage);
     void andere_Speicher_vergessen();
@@ -64,6 +62,7 @@ private:
     Zugriffsdatei& zugriff_;
     const Plattform& plattform_;
     Ansicht& ansicht_;
+    // From the change of folder until memory holds what belongs to it.
     bool wechselt_ = false;
 };
 

@@ -34,6 +34,8 @@ public:
 
     // The path that the failed work was about; may be empty.
     const Text& Pfad() const noexcept { return pfad_; }
+    // What a box tells of it: the description, and the file as the user knows it, whatever path the work was about.
+    Text mit_Pfad(const Text& Datei) const { return Beschreibung() + Text(CRCR) + anzeigbar(Datei); }
 
 private:
     Text pfad_;

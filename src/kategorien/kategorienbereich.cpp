@@ -3,19 +3,11 @@
 #include <utility>
 
 #include "grundlagen/codepage.hpp"
+#include "grundlagen/waehrend.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fenster.hpp"
 
 namespace tonkartei {
-
-struct Kategorienbereich::Stille {
-    bool& an;
-    bool vorher;
-    explicit Stille(bool& flagge) : an(flagge), vorher(std::exchange(flagge, false)) {}
-    ~Stille() { an = vorher; }
-    Stille(const Stille&) = delete;
-    Stille& operator=(const Stille&) = delete;
-};
 
 Kategorienbereich::Kategorienbereich(Fenster& fenster, Modell& modell, Einstellungen& einstellungen)
     : Lied_Kategorie(fenster, "Lied_Kategorie"),
@@ -76,7 +68,7 @@ void Kategorienbereich::melden() { Tabelle_geändert(); }
 
 void Kategorienbereich::aktualisiere_Kategorie_List(bool Startkategorien_setzen) {
     {
-        const Stille stille(Kategorie_Ereignisse_an_);
+        const Während stille(Kategorie_Ereignisse_an_, false);
         std::vector<Text> namen;
         for (int k = 1; k <= Kategorien_maximal; ++k) {
             Kasten& kasten = zeige_Kategorie(k);
@@ -102,7 +94,7 @@ void Kategorienbereich::aktualisiere_Kategorie_List(bool Startkategorien_setzen)
 void Kategorienbereich::setzte_Startkategorien() {
     if (!einstellungen_.Kategorien_merken) return;
     {
-        const Stille stille(Kategorie_Ereignisse_an_);
+        const Während stille(Kategorie_Ereignisse_an_, false);
         for (int k = 1; k <= modell_.Anzahl_Kategorien; ++k)
             zeige_Kategorie(k).wert((static_cast<std::uint32_t>(einstellungen_.Kategorien) >> (k - 1) & 1U) != 0);
     }
@@ -124,7 +116,7 @@ void Kategorienbereich::Kasten_geändert(int k) {
         Pool_zeigen(k);
     }
     {
-        const Stille stille(Kategorie_Ereignisse_an_);
+        const Während stille(Kategorie_Ereignisse_an_, false);
         if (zeige_Kategorie(k).wert()) {
             if (k == 1) {
                 for (int anderer = 2; anderer <= Kategorien_maximal; ++anderer) zeige_Kategorie(anderer).wert(false);
@@ -140,20 +132,19 @@ void Kategorienbereich::Kasten_geändert(int k) {
 
 void Kategorienbereich::Pool_übernehmen() {
     {
-        const Stille stille(Kategorie_Ereignisse_an_);
-        Kategorie_intern = true;
+        const Während stille(Kategorie_Ereignisse_an_, false);
+        const Während intern(Kategorie_intern);
         for (int k = 2; k <= modell_.Anzahl_Kategorien; ++k) {
             Auto_Wechsel_Kategorie[k] = zeige_Kategorie(1).wert() || zeige_Kategorie(k).wert();
             zeige_Kategorie(k).wert(false);
         }
-        Kategorie_intern = false;
     }
     zeige_Kategorie_Farben();
 }
 
 // The boxes as the categories of the automatic change, as if the user had changed box k there.
 void Kategorienbereich::Pool_zeigen(int k) {
-    const Stille stille(Kategorie_Ereignisse_an_);
+    const Während stille(Kategorie_Ereignisse_an_, false);
     for (int i = 1; i <= Kategorien_maximal; ++i)
         if (i != k) zeige_Kategorie(i).wert(Auto_Wechsel_Kategorie[i]);
     zeige_Kategorie(k).wert(!Auto_Wechsel_Kategorie[k]);
@@ -181,7 +172,7 @@ void Kategorienbereich::Rechtsklick_auf_Kasten(int k) {
 
 // The same right click toggles between this category alone and all but this one (and never box 1 with others).
 void Kategorienbereich::nur_oder_alle_anderen(int k) {
-    const Stille stille(Kategorie_Ereignisse_an_);
+    const Während stille(Kategorie_Ereignisse_an_, false);
     const bool war_gewählt = zeige_Kategorie(k).wert();
     for (int i = 2; i <= modell_.Anzahl_Kategorien; ++i) zeige_Kategorie(i).wert(war_gewählt && i != k);
     zeige_Kategorie(1).wert(false);
@@ -259,7 +250,7 @@ void Kategorienbereich::Schema_klicken(int n) {
 
 void Kategorienbereich::Schema_wählen(int n) {
     {
-        const Stille stille(Kategorie_Ereignisse_an_);
+        const Während stille(Kategorie_Ereignisse_an_, false);
         for (int k = 1; k <= Kategorien_maximal; ++k) zeige_Kategorie(k).wert(false);
         const Schema& schema = modell_.Schemas[n];
         for (int i = 1; i <= schema.Anzahl; ++i) {

@@ -83,14 +83,13 @@ private:
     void Schema_beschreiben(int n);
     void Schemas_zeigen();
     void melden();
-    // While true a change of a box is not followed by a rebuild.
-    struct Stille;
 
     Fenster& fenster_;
     Modell& modell_;
     Einstellungen& einstellungen_;
     std::array<std::unique_ptr<Kasten>, Kategorien_maximal> kästen_;
     std::array<std::unique_ptr<Knopf>, Schemas_maximal> schemas_;
+    // While false a change of a box is not followed by a rebuild.
     bool Kategorie_Ereignisse_an_ = true;
     Schema_Modus schema_modus_ = Schema_Modus::wählen;
 };

@@ -42,7 +42,7 @@ void Lieder_hinzufügen::Lieder_hinzufügen_Verzeichnis() {
     try {
         einträge = dateien_.auflisten(pfad);
     } catch (const Dateifehler& fehler) {
-        liste_.ansicht().informieren(Programmtitel, fehler.Beschreibung() + Text(CRCR) + anzeigbar(pfad));
+        liste_.ansicht().informieren(Programmtitel, fehler.mit_Pfad(pfad));
         return aufgeben();
     }
     for (const Dateisystem::Eintrag& eintrag : einträge)
@@ -66,7 +66,7 @@ void Lieder_hinzufügen::Lieder_hinzufügen_Playlist() {
         kanäle_.schließen(nummer);
     } catch (const Dateifehler& fehler) {
         kanäle_.aufgeben(nummer);
-        liste_.ansicht().informieren(Programmtitel, fehler.Beschreibung() + Text(CRCR) + anzeigbar(datei));
+        liste_.ansicht().informieren(Programmtitel, fehler.mit_Pfad(datei));
         return aufgeben();
     }
     liste_.activate(Quelle_Dateien, true);

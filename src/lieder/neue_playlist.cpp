@@ -20,7 +20,7 @@ void Neue_Playlist::erstellen(Begleitung& begleitung) {
     try {
         liste = std::make_shared<M3U_Datei>(modell_, kanäle_, datei);
     } catch (const Dateifehler& fehler) {
-        ansicht_.informieren(Programmtitel, fehler.Beschreibung() + Text(CRCR) + anzeigbar(datei));
+        ansicht_.informieren(Programmtitel, fehler.mit_Pfad(datei));
         return;
     }
     begleitung.Playlist_Zeile = [liste](Long Nr) { liste->Lied(Nr); };

@@ -33,7 +33,7 @@ void Vergleichsbericht::Check_DB() {
         kanäle_.schließen(nummer);
     } catch (const Dateifehler& fehler) {
         kanäle_.aufgeben(nummer);
-        ansicht.informieren(Programmtitel, fehler.Beschreibung() + Text(CRCR) + anzeigbar(pfad));
+        ansicht.informieren(Programmtitel, fehler.mit_Pfad(pfad));
         return;
     }
     modell_.Meldung = "Das Vergleichs-Ergebnis wurde erfolgreich geschrieben." + Text(CRCR);

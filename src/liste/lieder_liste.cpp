@@ -1,6 +1,7 @@
 #include "liste/lieder_liste.hpp"
 
 #include <array>
+#include <charconv>
 
 #include "liste/sortierung.hpp"
 
@@ -89,6 +90,12 @@ Text Listenzeile(const Lied& lied, Sortierung sortierung) {
     else
         zeile.append(lied.Artist).append(" - ").append(lied.Titel);
     return zeile;
+}
+
+Long Nummer_von(const Text& zeile) {
+    Long nummer = 0;
+    std::from_chars(zeile.data(), zeile.data() + zeile.size(), nummer);
+    return nummer;
 }
 
 }  // namespace tonkartei

@@ -44,6 +44,8 @@ private:
 
 // "Titel (Artist)" or "Artist - Titel".
 Text Listenzeile(const Lied& lied, Sortierung sortierung);
+// The number of a line of a hidden Nr_Liste, which holds plain digits.
+Long Nummer_von(const Text& zeile);
 
 struct Listensumme {
     long long KByte = 0;

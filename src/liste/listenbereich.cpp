@@ -1,7 +1,6 @@
 #include "liste/listenbereich.hpp"
 
 #include <algorithm>
-#include <charconv>
 #include <utility>
 
 #include "alben/alben.hpp"
@@ -11,17 +10,6 @@
 #include "oberflaeche/fenster.hpp"
 
 namespace tonkartei {
-namespace {
-
-// The number of a line of Nr_Liste, which holds plain digits.
-Long Nummer_von(const Text& zeile) {
-    Long nummer = 0;
-    std::from_chars(zeile.data(), zeile.data() + zeile.size(), nummer);
-    return nummer;
-}
-
-}  // namespace
-
 Listenbereich::Listenbereich(Fenster& f, Modell& modell, const Einstellungen& einstellungen, const Albenbestand& alben,
                              Kategorienbereich& kategorien)
     : Datenbank_Modus(f, "Datenbank_Modus", {"Lieder", "Alben"}),

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "grundlagen/waehrend.hpp"
 #include "oberflaeche/ansicht.hpp"
 
 namespace tonkartei {
@@ -67,11 +68,7 @@ void Fenster::verstecken() {
 
 bool Fenster::entladen(Schließgrund grund) {
     if (!geladen_ || schließt_) return true;
-    struct Merker {
-        bool& m;
-        explicit Merker(bool& b) : m(b) { m = true; }
-        ~Merker() { m = false; }
-    } const merker(schließt_);
+    const Während schließt(schließt_);
     if (!beim_Schließen(grund) && grund != Schließgrund::außen) return false;
     beim_Entladen();
     geladen_ = false;

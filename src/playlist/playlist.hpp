@@ -83,7 +83,6 @@ private:
     void Haken_setzen();
     void Lage_merken();
 
-    Long Nummer(int zeile) const;
     std::vector<Long> Nummern() const;
     bool vorhanden(Long Nr) const { return Nr >= 1 && Nr <= modell_.Anzahl_Lieder; }
     Text Zeile_von(Long Nr) const;

@@ -1,6 +1,5 @@
 // The window's commands: on its list, and on files and collections.
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <utility>
 
@@ -21,17 +20,10 @@ constexpr int Stellen = 8;
 
 }  // namespace
 
-Long Playlist::Nummer(int zeile) const {
-    const Text& ziffern = Nr_Liste.zeile(zeile);
-    Long nummer = 0;
-    std::from_chars(ziffern.data(), ziffern.data() + ziffern.size(), nummer);
-    return nummer;
-}
-
 std::vector<Long> Playlist::Nummern() const {
     std::vector<Long> nummern;
     nummern.reserve(Nr_Liste.zeilen().size());
-    for (int i = 0; i < Nr_Liste.Anzahl(); ++i) nummern.push_back(Nummer(i));
+    for (const Text& zeile : Nr_Liste.zeilen()) nummern.push_back(Nummer_von(zeile));
     return nummern;
 }
 
@@ -137,7 +129,7 @@ void Playlist::verschieben(int schritt) {
 void Playlist::sortieren() {
     if (Liste.Anzahl() == 0) return;
     Sortier_Liste ordnung;
-    for (int i = 0; i < Liste.Anzahl(); ++i) ordnung.hinzufügen(Liste.zeile(i), {}, Nummer(i), Stellen);
+    for (int i = 0; i < Liste.Anzahl(); ++i) ordnung.hinzufügen(Liste.zeile(i), {}, Nummer_von(Nr_Liste.zeile(i)), Stellen);
     std::vector<Long> nummern;
     for (const long long nr : ordnung.sortierte_Nummern()) nummern.push_back(als_Long(nr));
     setzen(nummern);
@@ -185,7 +177,7 @@ void Playlist::öffnen() {
     try {
         inhalt = m3u_.lesen(datei);
     } catch (const Dateifehler& fehler) {
-        modell_.Meldung = fehler.Beschreibung() + Text(CRCR) + anzeigbar(datei);
+        modell_.Meldung = fehler.mit_Pfad(datei);
         ansicht().informieren(Programmtitel, modell_.Meldung);
         return;
     }

@@ -1,5 +1,7 @@
 #include "programm/kontextmenues.hpp"
 
+#include <algorithm>
+
 #include "oberflaeche/ansicht.hpp"
 #include "playlist/playlist.hpp"
 #include "programm/tonkartei.hpp"

@@ -1,6 +1,7 @@
 #include "programm/mausmarkierung.hpp"
 
 #include "datenbank/einstellungen.hpp"
+#include "grundlagen/waehrend.hpp"
 #include "oberflaeche/element.hpp"
 #include "oberflaeche/fenster.hpp"
 #include "wiedergabe/fernsteuerung.hpp"
@@ -42,11 +43,7 @@ void Mausmarkierung::anschließen() {
 void Mausmarkierung::Mousemove_Effekt(int Nummer) {
     neueste_ = Nummer;
     if (läuft_) return;
-    struct Wache {
-        bool& b;
-        explicit Wache(bool& läuft) : b(läuft) { b = true; }
-        ~Wache() { b = false; }
-    } const wache(läuft_);
+    const Während läuft(läuft_);
     int behandelt;
     do {
         behandelt = neueste_;

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "datenbank/modell.hpp"
-#include "grundlagen/fehler.hpp"
 #include "grundlagen/versuchen.hpp"
 #include "plattform/dateisystem.hpp"
 #include "plattform/kanaele.hpp"

@@ -4,6 +4,7 @@
 #include <initializer_list>
 
 #include "datenbank/einstellungen.hpp"
+#include "grundlagen/waehrend.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fenster.hpp"
 #include "wiedergabe/winamp.hpp"
@@ -11,7 +12,6 @@
 namespace tonkartei {
 namespace {
 
-constexpr int Lautstärke_maximal = 100;
 constexpr int enge_Lücke = 3 * Twips_je_Pixel;
 
 // "nn:ss"; whole hours are dropped, and so is a sign: a player may tell any number, and the text must stay this short.
@@ -119,9 +119,10 @@ Knoten Fernsteuerung::Tafelknoten() {
 }
 
 void Fernsteuerung::Einstellungen_setzen() {
-    setzt_Einstellungen_ = true;
-    WinAmp_Vol.wert(einstellungen_.WinAmp_Lautstärke);
-    setzt_Einstellungen_ = false;
+    {
+        const Während setzt(setzt_Einstellungen_);
+        WinAmp_Vol.wert(einstellungen_.WinAmp_Lautstärke);
+    }
     Fernsteuerung_umgeschaltet();
 }
 

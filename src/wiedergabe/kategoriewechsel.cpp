@@ -5,6 +5,7 @@
 
 #include "datenbank/einstellungen.hpp"
 #include "datenbank/modell.hpp"
+#include "grundlagen/waehrend.hpp"
 #include "kategorien/kategorienbereich.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "plattform/rechner.hpp"
@@ -50,9 +51,8 @@ int Kategoriewechsel::ziehen() const {
 void Kategoriewechsel::Kategorie_wechseln() {
     const int k = ziehen();
     if (k < 1) return;
-    kategorien_.Kategorie_intern = true;
+    const Während intern(kategorien_.Kategorie_intern);
     kategorien_.Rechtsklick_auf_Kasten(k);
-    kategorien_.Kategorie_intern = false;
 }
 
 }  // namespace tonkartei

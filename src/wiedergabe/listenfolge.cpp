@@ -1,5 +1,6 @@
 #include "wiedergabe/listenfolge.hpp"
 
+#include "grundlagen/waehrend.hpp"
 #include "liste/listenbereich.hpp"
 #include "oberflaeche/ansicht.hpp"
 
@@ -19,13 +20,7 @@ bool Listenfolge::nächste_Zeile() {
 bool Listenfolge::nächster_Titel() {
     // The timer runs on during a search without end: it must not begin another one inside.
     if (sucht_) return false;
-    struct Suche {
-        bool& an;
-        explicit Suche(bool& flagge) : an(flagge) { an = true; }
-        ~Suche() { an = false; }
-        Suche(const Suche&) = delete;
-        Suche& operator=(const Suche&) = delete;
-    } const suche(sucht_);
+    const Während suche(sucht_);
     while (lieder_.Album_Nr() > 0 && lieder_.Liste2.Anzahl() > 0) {
         weiter(lieder_.Liste2);
         if (lieder_.Album_Lied_Nr() > 0) return true;

@@ -10,7 +10,6 @@
 namespace tonkartei {
 namespace {
 
-constexpr Long Regler_maximal = 100;
 constexpr double Lautstärke_je_Reglerschritt = 2.55;  // 100 is the player's 255
 
 // Time in which a player lets go of its file.
@@ -65,7 +64,7 @@ Long WinAmp::Position() { return WinAmp_da ? steuerung_.WinAmp_Position_lesen(Wi
 Long WinAmp::Länge() { return WinAmp_da ? steuerung_.WinAmp_Länge_lesen(WinAmp_Hwnd) : 0; }
 
 void WinAmp::Lautstärke_stellen(Long Wert) {
-    Wert = std::clamp<Long>(Wert, 0, Regler_maximal);
+    Wert = std::clamp<Long>(Wert, 0, Lautstärke_maximal);
     if (WinAmp_da) {
         Long lautstärke = gerundet(Wert * Lautstärke_je_Reglerschritt);
         steuerung_.WinAmp_Lautstärke_setzen(WinAmp_Hwnd, lautstärke);

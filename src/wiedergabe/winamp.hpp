@@ -13,6 +13,9 @@ class Rechner;
 // class goes on behind it.
 inline constexpr const char* WinAmp_Klasse = "Tonkartei";
 
+// The loudest of the volume slider.
+inline constexpr Long Lautstärke_maximal = 100;
+
 class WinAmp {
 public:
     WinAmp(Einstellungen& einstellungen, Winamp_Steuerung& steuerung, Fenstersuche& suche, Rechner& rechner);

@@ -1,5 +1,7 @@
 #include "wiedergabe/winamp_optionen.hpp"
 
+#include <limits>
+
 #include "datenbank/einstellungen.hpp"
 #include "datenbank/modell.hpp"
 #include "oberflaeche/ansicht.hpp"
@@ -46,7 +48,7 @@ void WinAmp_Optionen::Zeit_Anzahl() {
         "erhöht wird:",
         "Zeit zum Anzahl erhöhen", Zahltext(einstellungen_.Anzahl_Zeit));
     const double sekunden = Zahlwert(antwort);
-    if (sekunden <= 0) return;
+    if (sekunden <= 0 || sekunden > std::numeric_limits<Long>::max()) return;
     einstellungen_.Anzahl_Zeit = gerundet(sekunden);  // a fraction up to one half becomes 0, and that is taken
     geändert();
 }

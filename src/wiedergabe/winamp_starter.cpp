@@ -22,7 +22,7 @@ bool WinAmp_Starter::starte_WinAmp(const Text& Parameter) {
             programm_.starten(Parameter);
         } catch (const Dateifehler& fehler) {
             // The program's path, not the failure's own: that may be the whole command text.
-            modell_.Meldung = fehler.Beschreibung() + Text(CRCR) + anzeigbar(programm_.Pfad());
+            modell_.Meldung = fehler.mit_Pfad(programm_.Pfad());
             ansicht_.informieren(Programmtitel, modell_.Meldung);
             return false;
         }

@@ -138,8 +138,9 @@ TEST(WinAmp_Optionen, Verzeichnis) {
 
 TEST(WinAmp_Optionen, Zeit_Anzahl) {
     Bühne b;
-    const std::pair<const char*, Long> fälle[] = {{"30", 30}, {"0", 10},  {"-5", 10}, {"viel", 10},       {"0,5", 10},
-                                                  {"0.5", 0}, {"1.5", 2}, {"2.5", 2}, {" 7 Sekunden", 7}, {"", 10}};
+    const std::pair<const char*, Long> fälle[] = {{"30", 30},   {"99999999999", 10}, {"0", 10},  {"-5", 10},
+                                                  {"viel", 10}, {"0,5", 10},         {"0.5", 0}, {"1.5", 2},
+                                                  {"2.5", 2},   {" 7 Sekunden", 7},  {"", 10}};
     for (const auto& [antwort, danach] : fälle) {
         b.Einstellungen.Anzahl_Zeit = 10;
         b.Ansicht.Antworten = {antwort};
