@@ -40,8 +40,8 @@ public:
     void add_Lieder(const std::vector<Long>& Nummern);
     // The lines as the collection has their songs now. The numbers stay, whatever song they mean meanwhile.
     void aktualisieren();
-    // False when the user kept the list, or a part of the questions.
-    bool Neu();
+    // Empties the list after its questions; Cancel keeps it.
+    void Neu();
     void starten();
     void aktuelles_löschen();
     void alles_löschen();

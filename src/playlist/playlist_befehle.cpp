@@ -101,17 +101,16 @@ void Playlist::alles_löschen() {
     Playlist_gespeichert_ = false;
 }
 
-bool Playlist::Neu() {
+void Playlist::Neu() {
     if (!Playlist_gespeichert_) {
         const Antwort antwort =
             ansicht().fragen_oder_abbrechen("neue Playlist", "Wollen sie die aktuelle Playlist noch speichern?");
-        if (antwort == Antwort::Abbrechen) return false;
+        if (antwort == Antwort::Abbrechen) return;
         if (antwort == Antwort::Ja) speichern();
     }
     alles_löschen();
     // Even where the user has just refused to have it emptied.
     Playlist_gespeichert_ = true;
-    return Liste.Anzahl() == 0;
 }
 
 void Playlist::verschieben(int schritt) {

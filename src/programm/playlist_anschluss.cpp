@@ -25,7 +25,7 @@ void Playlist_Anschluss::verbinden() {
     zufallsliste.Liste_starten = [this](const std::vector<Long>& lieder) { t_.album_start.starte_Lieder(lieder); };
     zufallsliste.Playlist_leeren = [this] {
         t_.playlist.zeigen_falls_nötig();
-        return t_.playlist.Neu();
+        t_.playlist.Neu();
     };
     zufallsliste.in_Playlist = [this](const std::vector<Long>& lieder) {
         t_.playlist.add_Lieder(lieder);

@@ -41,8 +41,7 @@ void Zufalls_Playlist::erstellen() {
         "Soll die Liste erst in den internen Playlist-Editor (Ja) "
         "oder soll die Playlist gleich mit Windamp gestartet werden (Nein)?";
     const bool in_den_Editor = ansicht_.fragen(Titel, modell_.Meldung);
-    // Who does not want to lose the list that is there does not want the new songs behind it either.
-    if (in_den_Editor && !Playlist_leeren()) return;
+    if (in_den_Editor) Playlist_leeren();
     std::vector<Long> nummern;
     for (Long i = 1; i <= Menge; ++i) {
         // The share is one of what is left.

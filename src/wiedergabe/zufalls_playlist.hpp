@@ -25,8 +25,8 @@ public:
 
     // Writes the list file that the player gets and starts it there.
     std::function<void(const std::vector<Long>&)> Liste_starten;
-    // Opens the playlist window and empties it; false: the user wants to keep what is in it.
-    std::function<bool()> Playlist_leeren;
+    // Opens the playlist window and empties it, if the user lets it: what he keeps there stays in front of the new songs.
+    std::function<void()> Playlist_leeren;
     std::function<void(const std::vector<Long>&)> in_Playlist;
 
 private:

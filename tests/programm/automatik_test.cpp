@@ -126,11 +126,11 @@ TEST_F(Automatik, Zufallsliste_in_das_Fenster_oder_zum_Spieler) {
     hände({"zufall 0 0", "klick Tonkartei.Zufalls_Playlist", "eingabe 2", "antwort Ja"});
     EXPECT_EQ(geschehen(), (Zeilen{"Eingabe|Wieviel Lieder sollen in die Playlist?|4", frage}));
     EXPECT_EQ(b->zeilen("Playlist.Nr_Liste"), (Zeilen{"4", "3"}));
-    // What is in the window is asked for; who cancels keeps it as it is.
-    hände({"klick Tonkartei.Zufalls_Playlist", "eingabe 1", "antwort Ja"});
+    // What is in the window is asked for; who cancels keeps it in front of the new songs.
+    hände({"zufall 0.9", "klick Tonkartei.Zufalls_Playlist", "eingabe 1", "antwort Ja"});
     EXPECT_EQ(b->meldung(), "Wollen sie die aktuelle Playlist noch speichern?");
     hand("antwort Abbrechen");
-    EXPECT_EQ(b->zeilen("Playlist.Nr_Liste"), (Zeilen{"4", "3"}));
+    EXPECT_EQ(b->zeilen("Playlist.Nr_Liste"), (Zeilen{"4", "3", "1"}));
     EXPECT_EQ(b->bereit(), "schleife");
 }
 

@@ -336,7 +336,7 @@ TEST(Zufalls_Playlist, Jedes_Lied_einmal_und_die_Fragen) {
         Zufallsbühne b({3, 2, 1, 0}, f.Prozent);
         std::vector<Long> gewählt;
         b.Automatik.Zufallsliste.in_Playlist = [&](const std::vector<Long>& lieder) { gewählt = lieder; };
-        b.Automatik.Zufallsliste.Playlist_leeren = [] { return true; };
+        b.Automatik.Zufallsliste.Playlist_leeren = [] {};
         b.Ansicht.Antworten = {f.Antwort};
         b.Rechner.Zufall.assign(f.R.begin(), f.R.end());
         b.Automatik.Zufallsliste.erstellen();
