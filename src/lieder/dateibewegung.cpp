@@ -1,10 +1,12 @@
 #include "lieder/dateibewegung.hpp"
 
 #include "lieder/cshfileop.hpp"
+#include "plattform/dateisystem.hpp"
 
 namespace tonkartei {
 
-bool Datei_bewegen(Shell& shell, const Text& von, const Text& nach) {
+bool Datei_bewegen(Shell& shell, Dateisystem& dateien, const Text& von, const Text& nach) {
+    if (dateien.Ordner_da(nach)) return false;
     CSHFileOp vorgang(shell);
     vorgang.AddSourceFile(von);
     vorgang.AddDestFile(nach);

@@ -5,9 +5,11 @@
 
 namespace tonkartei {
 
+class Dateisystem;
 class Shell;
 
-bool Datei_bewegen(Shell& shell, const Text& von, const Text& nach);
+// A folder that bears the target's name would take the file in under its old one, so it counts as a failure.
+bool Datei_bewegen(Shell& shell, Dateisystem& dateien, const Text& von, const Text& nach);
 bool Datei_kopieren(Shell& shell, const Text& von, const Text& nach);
 bool in_den_Papierkorb(Shell& shell, const Text& pfad);
 

@@ -56,6 +56,11 @@ Datum_eingeben::Datum_eingeben(Ansicht& ansicht, Rechner& rechner)
 }
 
 std::optional<Zeitpunkt> Datum_eingeben::eingeben() {
+    if (!fertig_) {
+        // Asked for again while it waits: there is one window and one answer, which goes to the first.
+        zeigen();
+        return std::nullopt;
+    }
     ergebnis_.reset();
     fertig_ = false;
     zeigen();

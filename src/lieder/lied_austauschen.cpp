@@ -55,9 +55,8 @@ bool Lied_austauschen::ausführen(Long Nr, const Text& Datei) {
 
 // A file that goes together with the old version, or that cannot be read, must not cost the song its file.
 bool Lied_austauschen::taugt_als_Ersatz(Long Nr, const Text& Datei) const {
-    const Text gewählt = groß(Datei);
-    return gewählt != groß(modell_.Lied_Pfad(Nr)) && gewählt != groß(modell_.Pfad(Lied_Exportname(modell_.Lieder[Nr]))) &&
-           mp3_.Datei_lesbar(Datei);
+    return !dateien_.gleiche_Datei(Datei, modell_.Lied_Pfad(Nr)) &&
+           !dateien_.gleiche_Datei(Datei, modell_.Pfad(Lied_Exportname(modell_.Lieder[Nr]))) && mp3_.Datei_lesbar(Datei);
 }
 
 bool Lied_austauschen::ersetzen(Long Nr, const Text& Datei) {

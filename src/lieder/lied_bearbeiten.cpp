@@ -26,7 +26,7 @@ bool Lied_bearbeiten::ändern(Long Nr, const Text& Feldname, Text Lied::*feld, T
     if (!mp3_.Tag_lesen()) return false;
     mp3_.*im_Tag = neu;
     if (!mp3_.Tag_schreiben()) return false;
-    lied.*feld = neu;
+    lied.*feld = getrimmt(neu);  // as the tag is read again
     return true;
 }
 

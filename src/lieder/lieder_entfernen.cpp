@@ -21,7 +21,7 @@ bool Lieder_entfernen::Datei_entfernen(Long Nr) {
     if (!einstellungen_.Papierkorb) return versuchen([&] { dateien_.löschen(datei); });
 
     const Text lesbar = modell_.Pfad(Lied_Exportname(modell_.Lieder[Nr]));
-    if (!Datei_bewegen(shell_, datei, lesbar)) Fehler_melden("Beim Umbennen ist ein Fehler aufgetreten!");
+    if (!Datei_bewegen(shell_, dateien_, datei, lesbar)) Fehler_melden("Beim Umbennen ist ein Fehler aufgetreten!");
     if (dateien_.Datei_da(datei)) rechner_.Sleep(Loslassen_ms);
     if (dateien_.Datei_da(datei) || !dateien_.Datei_da(lesbar)) return false;
     if (!in_den_Papierkorb(shell_, lesbar)) Fehler_melden("Beim Löschen ist ein Fehler aufgetreten!");
@@ -50,7 +50,7 @@ void Lieder_entfernen::Lied_entfernen(Long Nr) {
 }
 
 bool Lieder_entfernen::aufrücken(const Text& von, const Text& nach) {
-    if (einstellungen_.Papierkorb) return Datei_bewegen(shell_, von, nach);
+    if (einstellungen_.Papierkorb) return Datei_bewegen(shell_, dateien_, von, nach);
     return versuchen([&] { dateien_.umbenennen(von, nach); });
 }
 

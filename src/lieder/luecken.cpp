@@ -38,7 +38,7 @@ Long Lücken::füllen() {
     Long anzahl = Ende_kürzen();
     for (Long i = 1; i < modell_.Anzahl_Lieder; ++i) {
         if (!dateien_.Datei_da(modell_.Lied_Pfad(i))) {
-            if (Datei_bewegen(shell_, modell_.Lied_Pfad(modell_.Anzahl_Lieder), modell_.Lied_Pfad(i))) {
+            if (Datei_bewegen(shell_, dateien_, modell_.Lied_Pfad(modell_.Anzahl_Lieder), modell_.Lied_Pfad(i))) {
                 nachrücken_.ausführen(i);
                 anzahl += Ende_kürzen();
             } else {

@@ -55,8 +55,8 @@ bool MP3_Tag_ändern::schreiben(const Text& Datei, Text& neuer_Artist, Text& neu
     mp3_.Tag_Artist = artist;
     mp3_.Tag_Titel = titel;
     if (!mp3_.Tag_schreiben()) return false;
-    neuer_Artist = artist;
-    neuer_Titel = titel;
+    neuer_Artist = getrimmt(artist);  // as the tag is read again
+    neuer_Titel = getrimmt(titel);
     return true;
 }
 

@@ -25,7 +25,8 @@ void Wartung::Lieder_Namen_einlesen() {
 
 void Wartung::Liste_einlesen() {
     if (!modell_.Datenbank_offen) return;
-    const std::vector<Long> nummern = Lieder_der_Liste();
+    const std::vector<Long> nummern = liste_.Lieder_in_Liste();
+    if (nummern.empty()) return;
     if (nummern.size() > 1) {
         modell_.Meldung = "Wollen sie wirklich bei allen " + Zahltext(static_cast<long long>(nummern.size())) +
                           " Liedern in der Liste die Daten neu einlesen?";
@@ -58,12 +59,13 @@ void Wartung::doppelte_anzeigen(Zwillingsart Art) {
 
 void Wartung::Durchschnitts_Anzahl() {
     if (!modell_.Datenbank_offen) return;
-    const std::vector<Long> nummern = Lieder_der_Liste();
+    const std::vector<Long> nummern = liste_.Lieder_in_Liste();
+    if (nummern.empty()) return;
     double summe = 0;
     for (const Long nr : nummern) summe += modell_.Lieder[nr].Anzahl;
     const auto anzahl = static_cast<long long>(nummern.size());
     modell_.Meldung = "Die " + Zahltext(anzahl) + " Lieder wurden im Durchschnitt " +
-                      Mittelwert_Text(anzahl == 0 ? 0.0 : summe / static_cast<double>(anzahl)) + " mal gehört.";
+                      Mittelwert_Text(summe / static_cast<double>(anzahl)) + " mal gehört.";
     ansicht().informieren("Durchschnitts-Anzahl", modell_.Meldung);
 }
 
@@ -85,13 +87,6 @@ void Wartung::Lieder_ab_Datum() {
         }
     }
     zeigen(nummern);
-}
-
-std::vector<Long> Wartung::Lieder_der_Liste() const {
-    std::vector<Long> nummern;
-    if (liste_.Datenbank_Modus.wert() != 0) return nummern;
-    for (int zeile = 0; zeile < liste_.Nr_Liste.Anzahl(); ++zeile) nummern.push_back(liste_.Lied_Nr(zeile));
-    return nummern;
 }
 
 void Wartung::zeigen(const std::vector<long long>& nummern) {

@@ -32,8 +32,6 @@ public:
     void Lieder_ab_Datum();
 
 private:
-    // The songs of the list; none while it shows albums.
-    std::vector<Long> Lieder_der_Liste() const;
     void zeigen(const std::vector<long long>& nummern);
     Ansicht& ansicht() const { return fortschritt_.ansicht(); }
 

@@ -65,6 +65,8 @@ public:
     virtual Pfadart Art_von(const Text& pfad) {
         return Datei_da(pfad) ? Pfadart::Datei : Ordner_da(pfad) ? Pfadart::Ordner : Pfadart::nichts;
     }
+    // True when both paths lead to the same existing file, by whatever links, dots and spellings.
+    virtual bool gleiche_Datei(const Text& a, const Text& b) { return a == b && Datei_da(a); }
     // Bytes of a file; -1 when there is none.
     virtual std::int64_t Dateilänge(const Text& pfad) = 0;
     // Local time, whole seconds; none when there is no such file.
@@ -80,8 +82,7 @@ public:
     virtual void Ordner_löschen(const Text& pfad) = 0;
     // Contents, by name in byte order, without "." and "..". 76 not found, 70 may not be read.
     virtual std::vector<Eintrag> auflisten(const Text& pfad) = 0;
-    // A copy with the source's modification time; replaces a target that exists. A target that comes out short is left as
-    // it is and reported by the failure.
+    // A copy with the source's modification time; replaces a target that exists. A target that comes out short is removed.
     virtual void kopieren(const Text& von, const Text& nach) = 0;
     // True when both paths (the nearest existing folder of each) lie on one volume.
     virtual bool gleiches_Laufwerk(const Text& a, const Text& b) = 0;

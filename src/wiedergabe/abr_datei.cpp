@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "datenbank/modell.hpp"
+#include "grundlagen/codepage.hpp"
 #include "grundlagen/versuchen.hpp"
 #include "plattform/dateisystem.hpp"
 #include "plattform/kanaele.hpp"
@@ -12,6 +13,7 @@ namespace {
 
 constexpr std::size_t Nummer_Breite = 4;
 constexpr std::size_t Rest_ab = 7;
+constexpr std::size_t längste_Zeile = 65536;  // bytes; what is longer is no record
 constexpr const char* Dateiname = "MP3_Info.ABR";
 // Has no folder: it lies in the current one, which follows the collection.
 constexpr const char* Kopie = "MP3_Bak.ABR";
@@ -28,8 +30,8 @@ bool ABR_Satz::voll() const { return groß(Rest) == "VOLL"; }
 double ABR_Satz::Sekunden() const { return Zahlwert(Rest); }
 
 std::optional<ABR_Satz> lese_ABR_Satz(Kanäle& kanäle, int kanal) {
-    while (!kanäle.am_Ende(kanal)) {
-        const Text wert = kanäle.lese_Wert(kanal);
+    while (const auto bytes = kanäle.nächster_Rohwert(kanal, längste_Zeile)) {
+        const Text wert = aus_1252(*bytes);
         if (Zeichenzahl(wert) < Rest_ab) continue;
         const Long nummer = gerundet(Zahlwert(links(wert, Nummer_Breite)));
         if (nummer >= 1) return ABR_Satz{nummer, getrimmt(ab(wert, Rest_ab))};

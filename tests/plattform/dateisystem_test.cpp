@@ -2,9 +2,11 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstring>
 #include <functional>
 
@@ -164,6 +166,26 @@ TEST_F(DateisystemTest, KopieMitZeitUndRechten) {
     EXPECT_EQ(neu.st_mode & 0600U, 0600U) << "a copy of a write-protected file belongs to the user";
     dateien.kopieren(ordner.datei("leer"), ordner.pfad("ziel"));
     EXPECT_EQ(ordner.inhalt("ziel"), "");
+
+    // A full disk, here as a limit on the size of a file.
+    struct rlimit vorher {};
+    ::getrlimit(RLIMIT_FSIZE, &vorher);
+    const struct rlimit knapp {1'000'000, vorher.rlim_max};
+    const auto behandlung = ::signal(SIGXFSZ, SIG_IGN);
+    ::setrlimit(RLIMIT_FSIZE, &knapp);
+    EXPECT_NE(Fehler_von([&] { dateien.kopieren(quelle, ordner.pfad("voll")); }), 0);
+    ::setrlimit(RLIMIT_FSIZE, &vorher);
+    ::signal(SIGXFSZ, behandlung);
+    EXPECT_FALSE(ordner.da("voll")) << "nothing that passes for the whole";
+}
+
+TEST_F(DateisystemTest, gleiche_Datei) {
+    const Text pfad = ordner.datei("eine", "1");
+    ordner.datei("andere", "1");
+    ASSERT_EQ(::symlink(pfad.c_str(), ordner.pfad("verweis").c_str()), 0);
+    for (const char* name : {"eine", "EINE", "./eine", "verweis"})
+        EXPECT_TRUE(dateien.gleiche_Datei(pfad, ordner.pfad(name))) << name;
+    for (const char* name : {"andere", "fehlt", ""}) EXPECT_FALSE(dateien.gleiche_Datei(pfad, ordner.pfad(name))) << name;
 }
 
 TEST_F(DateisystemTest, AnderesLaufwerk) {

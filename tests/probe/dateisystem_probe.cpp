@@ -98,6 +98,8 @@ bool Dateisystem_Probe::gleiches_Laufwerk(const Text& a, const Text& b) {
     return Laufwerk_von(a) == Laufwerk_von(b) && echt_.gleiches_Laufwerk(a, b);
 }
 
+bool Dateisystem_Probe::gleiche_Datei(const Text& a, const Text& b) { return echt_.gleiche_Datei(a, b); }
+
 std::optional<std::uint64_t> Dateisystem_Probe::freie_Bytes(const Text& ordner) {
     return platz_ ? platz_ : echt_.freie_Bytes(ordner);
 }

@@ -37,6 +37,7 @@ public:
     std::vector<Eintrag> auflisten(const Text& pfad) override { return echt_.auflisten(pfad); }
     void kopieren(const Text& von, const Text& nach) override;
     bool gleiches_Laufwerk(const Text& a, const Text& b) override;
+    bool gleiche_Datei(const Text& a, const Text& b) override;
     std::optional<std::uint64_t> freie_Bytes(const Text& ordner) override;
     const Text& aktueller_Ordner() const override { return echt_.aktueller_Ordner(); }
     void aktuellen_Ordner_setzen(const Text& ordner) override { echt_.aktuellen_Ordner_setzen(ordner); }

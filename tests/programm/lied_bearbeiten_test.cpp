@@ -23,7 +23,7 @@ TEST_F(Lied_Bearbeiten, Titel_und_Artist) {
         bool gekürzt;
     };
     for (const Fall& fall : std::vector<Fall>{{"Titel", "Neu & fein", "Neu & fein", false},
-                                              {"Artist", "Neu", "Neu", false},
+                                              {"Artist", "\"Neu \"", "Neu", false},
                                               {"Titel", dreißig, dreißig, false},
                                               {"Artist", dreißig + "y", dreißig, true}}) {
         const bool titel = fall.feld == std::string("Titel");
@@ -266,8 +266,9 @@ TEST_F(Lied_Bearbeiten, tauschen) {
     EXPECT_EQ(ordner.inhalt("neu.mp3"), bytes(5));
     EXPECT_EQ(b->zeilen("Tonkartei.Liste"), (Zeilen{"A1 - T1", "A5 - T5"}));
 
-    // The song's own file, and one that has gone meanwhile, cannot take its place.
-    for (const std::string& pfad : {a + "00000002.MP3", neu}) {
+    // The song's own file, by whatever way, and one that has gone meanwhile, cannot take its place.
+    std::filesystem::create_directory_symlink(a, ordner.pfad("weg"));
+    for (const std::string& pfad : {a + "00000002.MP3", ordner.pfad("weg") + "/00000002.MP3", neu}) {
         wähle(2);
         bis_zur_Wahl(pfad);
         hand("antwort Nein");

@@ -42,6 +42,7 @@ TEST(ABR, umnummerieren) {
          "1204: 183\r\n1204: 0\r\n1204: halb\r\n1204: 0.4\r\n", "1204: 0\r\n1204: 0\r\n"},
         {"the front of a short number's record is gone", 9, 1, "  12: voll\r\n  12: 180\r\n", "  12: 0\r\n  12: 0\r\n"},
         {"0 of the removed song", 9, 1204, "1204: 0\r\n", ""},
+        {"blanks at the end are no record", 9, 1, "1204: voll\r\n \r\n  ", "1204: voll\r\n"},
         {"commas end records", 1300, 1200, "1204: voll,1300: voll,1200: voll", "1204: voll\r\n1200: voll\r\n"},
     };
     for (const auto& fall : fälle) {

@@ -305,8 +305,11 @@ void Dateisystem_Linux::kopieren(const Text& von, const Text& nach) {
     if (!S_ISREG(dort.st_mode) || (dort.st_dev == datei.st_dev && dort.st_ino == datei.st_ino)) throw Dateifehler(75, nach);
     if (offen_hier(dort) != nullptr) throw Dateifehler(55, nach);
     if (dort.st_size > 0 && ungestört([&] { return ::ftruncate(in.fd(), 0); }) != 0) werfen(errno, nach);
-    if (const int fehler = Inhalt_kopieren(aus.fd(), in.fd(), static_cast<std::uint64_t>(datei.st_size)); fehler != 0)
+    if (const int fehler = Inhalt_kopieren(aus.fd(), in.fd(), static_cast<std::uint64_t>(datei.st_size)); fehler != 0) {
+        // Under a song's name a part of it would pass for the whole.
+        ::unlink(ziel.c_str());
         werfen(fehler, nach);
+    }
     const struct timespec zeiten[2] = {datei.st_atim, datei.st_mtim};
     if (::futimens(in.fd(), zeiten) != 0) werfen(errno, nach);
     if (::close(in.hergeben()) != 0 && errno != EINTR) werfen(errno, nach);
@@ -319,6 +322,13 @@ bool Dateisystem_Linux::gleiches_Laufwerk(const Text& a, const Text& b) {
         return da.st_dev;
     };
     return gerät(ohne_Trenner_dahinter(voll(a))) == gerät(ohne_Trenner_dahinter(voll(b)));
+}
+
+bool Dateisystem_Linux::gleiche_Datei(const Text& a, const Text& b) {
+    struct stat eine {}, andere {};
+    Text erster = voll(a), zweiter = voll(b);
+    return ansehen(erster, eine, false) == 0 && ansehen(zweiter, andere, false) == 0 && S_ISREG(eine.st_mode) &&
+           eine.st_dev == andere.st_dev && eine.st_ino == andere.st_ino;
 }
 
 std::optional<std::uint64_t> Dateisystem_Linux::freie_Bytes(const Text& ordner) {

@@ -44,6 +44,7 @@ public:
     std::vector<Eintrag> auflisten(const Text& pfad) override;
     void kopieren(const Text& von, const Text& nach) override;
     bool gleiches_Laufwerk(const Text& a, const Text& b) override;
+    bool gleiche_Datei(const Text& a, const Text& b) override;
     std::optional<std::uint64_t> freie_Bytes(const Text& ordner) override;
 
     // With a separator at its end; at first the process's.
