@@ -19,6 +19,7 @@ void Ansicht::informieren(const Text& titel, const Text& text) {
     Meldungsfeld feld;
     feld.titel = titel;
     feld.text = text;
+    Kasten(text);
     melden(feld);
 }
 
@@ -29,6 +30,7 @@ bool Ansicht::fragen(const Text& titel, const Text& text, Antwort vorgabe) {
     feld.art = Meldungsfeld::Art::Frage;
     feld.knöpfe = Meldungsfeld::Knöpfe::JaNein;
     feld.vorgabe = vorgabe;
+    Kasten(text);
     return melden(feld) == Antwort::Ja;
 }
 
@@ -40,6 +42,7 @@ Antwort Ansicht::fragen_oder_abbrechen(const Text& titel, const Text& text, cons
     feld.knöpfe = Meldungsfeld::Knöpfe::JaNeinAbbrechen;
     feld.vorgabe = Antwort::Ja;
     feld.quelle = quelle;
+    if (quelle == "programm") Kasten(text);
     return melden(feld);
 }
 
@@ -68,6 +71,7 @@ bool Ansicht::erreichbar(const Fenster& fenster) const {
 void Ansicht::fokus(Element& element) {
     if (!element.fenster().sichtbar() || !element.nimmt_Fokus()) return;
     fokus_ = &element;
+    Fenster_nach_vorn(element.fenster());
     Fokus_zeigen(element);
 }
 

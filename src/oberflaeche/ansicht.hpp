@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "grundlagen/ereignis.hpp"
 #include "grundlagen/fehler.hpp"
 #include "grundlagen/text.hpp"
 #include "oberflaeche/element.hpp"
@@ -57,6 +58,8 @@ public:
     virtual Text Datei_wählen(const Dateiwahl& wahl) = 0;
     virtual std::optional<Farbe> Farbe_wählen(Farbe vorgabe) = 0;
 
+    // Text of each message box of the program, before it comes up.
+    Ereignis<const Text&> Kasten;
     void informieren(const Text& titel, const Text& text);
     // Yes/No with the question icon; true for Yes.
     bool fragen(const Text& titel, const Text& text, Antwort vorgabe = Antwort::Ja);

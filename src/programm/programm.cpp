@@ -57,6 +57,8 @@ void Programm::Teile::verbinden() {
     fenster.Lieder.Alben_öffnen = [this] { return alben_befehle.Ansicht_öffnen(); };
     album_start.starte_WinAmp_Liste = [this](const Text& datei) { wiedergabe.Starter.starte_WinAmp_Liste(datei); };
     wiedergabe.Takt.Anzeige_Schritt.verbinden([this] { fenster.Fernsteuerung.anzeigen(); });
+    // Whatever box comes up while a player is being started counts as that start's failure.
+    ansicht.Kasten.verbinden([this](const Text& text) { modell.Meldung = text; });
     wiedergabe.Optionen.geändert.verbinden([this] { Menüs_nachführen(); });
 
     kontextmenüs->Winamp_Pause = [this] { wiedergabe.Spieler.Befehl(WinAmp_Code_Pause); };

@@ -39,7 +39,8 @@ bool WinAmp_Starter::starte_WinAmp(const Text& Parameter) {
 }
 
 bool WinAmp_Starter::starte_WinAmp_Datei(const Text& Datei) {
-    if (dateien_.Datei_da(Datei)) return starte_WinAmp(in_Anführungszeichen(Datei));
+    // A quotation mark in a name, which not every system forbids, is doubled.
+    if (dateien_.Datei_da(Datei)) return starte_WinAmp(in_Anführungszeichen(ersetzt(Datei, "\"", "\"\"")));
     modell_.Meldung =
         "Die Datei " + anzeigbar(Datei) + " wurde nicht gefunden." + Text(CRCR) + "WinAmp wird nicht gestartet.";
     return false;

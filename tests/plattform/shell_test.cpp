@@ -290,6 +290,7 @@ TEST(Befehlstext, Zerlegen) {
         {p + "mit blank/WinAmp.Exe  /NEW\t\"\" a\"b c\"d", {p + "mit blank/WinAmp.Exe", "/NEW", "", "ab cd"}},
         {p + "mit blankem Wort", {p + "mit", "blankem", "Wort"}},
         {"\"" + p + "mit blank/WinAmp.Exe\"x y", {p + "mit blank/WinAmp.Exe", "x", "y"}},
+        {"WinAmp.Exe \"/a\"\"b\"\"/c.mp3\" d", {p + "WinAmp.Exe", "/a\"b\"/c.mp3", "d"}},
         {"  WinAmp.Exe \"offen bis zum Ende", {p + "WinAmp.Exe", "offen bis zum Ende"}},
         {p + "kein Programm", {}},
         {p + "fehlt /NEW", {}},

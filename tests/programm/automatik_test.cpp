@@ -62,6 +62,18 @@ TEST_F(Automatik, Startparameter_Tray_und_Heute_gespielte) {
     EXPECT_EQ(b->zeilen("Tonkartei.Liste").front(), "Anna - Zug");
 }
 
+TEST_F(Automatik, fremder_Kasten_während_des_Starts) {
+    starte();
+    hände({"wähle Tonkartei.Liste 0", "spieler neu Tonkartei", "vormerken klick Tonkartei.Menü_starte_Album",
+           "klick Tonkartei.Lied_starten"});
+    const std::string text = "Für diese Datenbank existiert noch keine Alben-Verwaltung!|i";
+    EXPECT_EQ(geschehen(), Zeilen{"Album spielen|" + text});
+    hand("antwort OK");
+    EXPECT_EQ(geschehen(), Zeilen{"Fehler|" + text}) << "one text for all boxes";
+    hand("antwort OK");
+    EXPECT_EQ(b->text("Tonkartei.Anzahl"), "3") << "not started, not counted";
+}
+
 TEST_F(Automatik, Eingaben) {
     starte();
     geschehen();

@@ -25,7 +25,8 @@ public:
 
 private:
     void Aussehen_zeigen() override { symbol_.setToolTip(Anzeigeabsätze(element().tooltip())); }
-    void Lage_zeigen() override { symbol_.setVisible(element().sichtbar() && QSystemTrayIcon::isSystemTrayAvailable()); }
+    // Also where there is no tray yet: at the start of a session the program may come up before the desktop's tray.
+    void Lage_zeigen() override { symbol_.setVisible(element().sichtbar()); }
 
     QSystemTrayIcon symbol_;
 };

@@ -25,14 +25,17 @@ std::vector<Text> Argumente_von(std::string_view text) {
     std::vector<Text> teile;
     bool im_Wort = false;
     bool im_Zitat = false;
-    for (const char zeichen : text) {
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char zeichen = text[i];
         if (!im_Zitat && (zeichen == ' ' || zeichen == '\t')) {
             im_Wort = false;
             continue;
         }
         if (!im_Wort) teile.emplace_back();
         im_Wort = true;
-        if (zeichen == '"')
+        const bool verdoppelt = im_Zitat && zeichen == '"' && i + 1 < text.size() && text[i + 1] == '"';
+        if (verdoppelt) ++i;
+        if (zeichen == '"' && !verdoppelt)
             im_Zitat = !im_Zitat;
         else
             teile.back().push_back(zeichen);

@@ -14,7 +14,7 @@ namespace tonkartei {
 // without a program.
 std::optional<std::vector<Text>> Befehl_zerlegt(std::string_view befehl, const Text& ordner);
 
-// Arguments: blanks divide, double quotes hold together and are taken out.
+// Arguments: blanks divide, double quotes hold together and are taken out; a doubled one within them stands for itself.
 std::vector<Text> Argumente_von(std::string_view text);
 
 }  // namespace tonkartei
