@@ -44,7 +44,8 @@ bool Konvertierung::Schritt(Text& Datei, int& Dateinummer, Körper körper) {
         Dateinummer = kanäle_.öffnen_zum_Lesen(Datei);
         Kopf_überspringen(Dateinummer);
         return true;
-    } catch (const Dateifehler&) {
+    } catch (const Laufzeitfehler&) {
+        // Numbers that cannot be, too: the program and what it has open are none the worse for a bad file.
         for (const int nummer : {von, nach, Dateinummer}) kanäle_.aufgeben(nummer);
         Dateinummer = 0;
         misslungen();

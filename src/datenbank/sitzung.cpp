@@ -51,7 +51,7 @@ bool Sitzung::Zugriff_erlaubt() {
 }
 
 bool Sitzung::lade_Datenbank() {
-    std::optional<Während> wechsel(std::in_place, wechselt_);
+    std::optional<Während<bool>> wechsel(std::in_place, wechselt_);
     if (!Zugriff_erlaubt()) return false;
     Text datei = modell_.Pfad(Info_Datei_Name);
     if (!plattform_.Dateisystem.Datei_da(datei)) {
@@ -135,7 +135,7 @@ bool Sitzung::Datenbank_erstellen(bool fragen, bool Kategorien_übernehmen) {
         return false;
     }
     Verzeichnis_setzen(pfad);
-    std::optional<Während> wechsel(std::in_place, wechselt_);
+    std::optional<Während<bool>> wechsel(std::in_place, wechselt_);
     if (fragen)
         Kategorien_übernehmen = ansicht_.fragen(
             Titel_erstellen, "Wollen sie die Kategorien aus der aktuellen Datenbank in die neue übernehmen?");

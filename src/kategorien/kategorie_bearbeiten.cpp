@@ -137,6 +137,7 @@ void Kategorie_bearbeiten::löschen() {
     for (int i = k; i <= modell_.Anzahl_Kategorien; ++i) modell_.Kategorien[i] = modell_.Kategorien[i + 1];
     Liste.entfernen(k - 1);
     Lieder_umsetzen(k);
+    umnummeriert([k](Byte alte) { return als_Byte(alte == k ? 0 : alte > k ? alte - 1 : alte); });
     Tabelle_geändert();
     verwaiste_einordnen();
     // The choice of a new category lets events run: the table may be shorter by now.
@@ -187,6 +188,7 @@ void Kategorie_bearbeiten::verschieben() {
     std::swap(modell_.Kategorien[k], modell_.Kategorien[ziel]);
     Liste.zeile(k - 1, modell_.Kategorien[k]);
     Liste.zeile(ziel - 1, modell_.Kategorien[ziel]);
+    umnummeriert([k, ziel](Byte alte) { return als_Byte(alte == k ? ziel : alte == ziel ? k : alte); });
     Tabelle_geändert();
     Liste.wähle(ziel - 1);
 }

@@ -39,6 +39,8 @@ public:
     // open.
     Byte öffnen(Byte Wert);
 
+    // Categories got other numbers: the new one of an old one, 0 when it is gone. Raised with the records already changed.
+    Ereignis<const std::function<Byte(Byte)>&> umnummeriert;
     // At every closing, before the caller's turn: what shows the categories follows.
     Ereignis<> geschlossen;
     // What the closing does, by caller, places 1 to 4; the one of Kategorie_Wahl is connected here. False: the closing is

@@ -14,6 +14,7 @@ Text Titel_Artist(const Text& titel, const Text& artist) { return "Titel: " + ti
 }  // namespace
 
 Long Dateien_übernehmen::ausführen(const Übernahme_Auftrag& auftrag) {
+    A_ = 0;
     if (auftrag.Lieder.empty()) return 0;
     const Fortschritts_Ende ende(fortschritt_);
 
@@ -22,14 +23,15 @@ Long Dateien_übernehmen::ausführen(const Übernahme_Auftrag& auftrag) {
                                      [&](Long nr) { fortschritt_.anzeigen(Prozent(nr, modell_.Anzahl_Lieder)); });
 
     fortschritt_.Text_setzen("Lieder hinzufügen...");
-    Long A = 0;
     std::size_t erledigt = 0;
     for (const Lied_Fund& lied : auftrag.Lieder) {
-        if (übernehmen(lied, auftrag.Modus, vorhandene, modell_.Anzahl_Lieder + A + 1)) ++A;
+        // Ended from outside while a box was up: what is not there yet stays where it is.
+        if (fortschritt_.ansicht().endet()) break;
+        if (übernehmen(lied, auftrag.Modus, vorhandene, modell_.Anzahl_Lieder + A_ + 1)) ++A_;
         ++erledigt;
         fortschritt_.anzeigen(Prozent(static_cast<double>(erledigt), static_cast<double>(auftrag.Lieder.size())));
     }
-    return A;
+    return A_;
 }
 
 // True when the file stands on its number. One that is empty or gone is passed over without a word.

@@ -23,6 +23,8 @@ public:
     // Copies or moves file by file; asks about what may be there already, says what went wrong and goes on. The files stand
     // on the numbers Anzahl_Lieder + 1 to Anzahl_Lieder + result without a gap. No record but its category is touched.
     Long ausführen(const Übernahme_Auftrag& auftrag);
+    // The result so far, while a box is up; afterwards the last one.
+    Long Anzahl() const noexcept { return A_; }
 
 private:
     bool übernehmen(const Lied_Fund& lied, Übernahmeart modus, const Doppelte_Lieder& vorhandene, Long Nr);
@@ -35,6 +37,7 @@ private:
     Shell& shell_;
     MP3_TagHead& mp3_;
     Fortschritts_Fenster& fortschritt_;
+    Long A_ = 0;
 };
 
 }  // namespace tonkartei

@@ -109,9 +109,9 @@ bool Datenbank_Quelle::lesen(const Text& datei, int& nummer, std::vector<Fund>& 
         fund.Kategorie = kanäle_.lese_Byte(nummer);
         fund.Artist_Titel = artist + " - " + kanäle_.lese_Zeile(nummer);
         drei_Zahlen_lesen(kanäle_);
-        // As when that collection is opened itself: a category that is none is the first.
-        if (fund.Kategorie < 1 || fund.Kategorie > anzahl_kategorien) fund.Kategorie = 1;
-        if (!gewählt->front() && !(*gewählt)[fund.Kategorie - 1U]) continue;
+        // One whose category does not exist there comes with all songs only, and its new category is asked for.
+        if (fund.Kategorie > anzahl_kategorien) fund.Kategorie = 0;
+        if (!gewählt->front() && (fund.Kategorie == 0 || !(*gewählt)[fund.Kategorie - 1U])) continue;
         fund.Dateiname = Lied_Dateiname(n);
         funde.push_back(std::move(fund));
     }

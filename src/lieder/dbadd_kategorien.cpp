@@ -27,9 +27,7 @@ DBadd_Kategorien::DBadd_Kategorien(Ansicht& ansicht, const Modell& modell)
 
 std::vector<Byte> DBadd_Kategorien::Init(Long A, const std::vector<Lied_Fund>& Lieder) {
     if (A < 1) return {};
-    for (int k = 1; k <= Kategorien_maximal; ++k) Kategorie_Zuordnung_[k] = 0;
-    for (std::size_t k = 0; k < Quell_Kategorien.size(); ++k)
-        Kategorie_Zuordnung_[static_cast<long long>(k) + 1] = gleichnamige(Quell_Kategorien[k]);
+    nach_Namen_zuordnen();
     fertig_ = false;
     laden();
     Kategorie_Edit.aktiv(static_cast<bool>(Kategorien_bearbeiten));
@@ -39,7 +37,21 @@ std::vector<Byte> DBadd_Kategorien::Init(Long A, const std::vector<Lied_Fund>& L
     zeigen();
     ansicht().fokus(Liste);
     ansicht().warten_bis(*this, [this] { return fertig_; });
+    return je_Lied(A, Lieder);
+}
 
+std::vector<Byte> DBadd_Kategorien::ohne_Rückfrage(Long A, const std::vector<Lied_Fund>& Lieder) {
+    if (fertig_) nach_Namen_zuordnen();
+    return je_Lied(A, Lieder);
+}
+
+void DBadd_Kategorien::nach_Namen_zuordnen() {
+    for (int k = 1; k <= Kategorien_maximal; ++k) Kategorie_Zuordnung_[k] = 0;
+    for (std::size_t k = 0; k < Quell_Kategorien.size(); ++k)
+        Kategorie_Zuordnung_[static_cast<long long>(k) + 1] = gleichnamige(Quell_Kategorien[k]);
+}
+
+std::vector<Byte> DBadd_Kategorien::je_Lied(Long A, const std::vector<Lied_Fund>& Lieder) const {
     std::vector<Byte> kategorien;
     for (std::size_t i = 0; i < static_cast<std::size_t>(A); ++i) {
         const Byte quelle = Lieder.at(i).Quell_Kategorie;
@@ -49,22 +61,22 @@ std::vector<Byte> DBadd_Kategorien::Init(Long A, const std::vector<Lied_Fund>& L
     return kategorien;
 }
 
-// Those that the user chose follow their category by its name, which may stand elsewhere now or be gone. What had no target
-// takes a category of its name that has come up meanwhile.
+void DBadd_Kategorien::umnummerieren(const std::function<Byte(Byte)>& neue) {
+    if (fertig_) return;
+    for (int k = 1; k <= Kategorien_maximal; ++k) {
+        Byte& ziel = Kategorie_Zuordnung_[k];
+        if (ziel != 0) ziel = neue(ziel);
+    }
+}
+
+// What has no target takes a category of its name that has come up meanwhile.
 void DBadd_Kategorien::nach_dem_Bearbeiten() {
     if (fertig_) return;  // closed from outside meanwhile
-    const bool gleich_viele = alte_Namen_.size() == modell_.Anzahl_Kategorien;
     const int gewählt = Liste.gewählt();
     for (std::size_t k = 0; k < Quell_Kategorien.size(); ++k) {
         Byte& ziel = Kategorie_Zuordnung_[static_cast<long long>(k) + 1];
         const bool gab_es = std::find(alte_Namen_.begin(), alte_Namen_.end(), Quell_Kategorien[k]) != alte_Namen_.end();
-        if (ziel == 0) {
-            if (!gab_es) ziel = gleichnamige(Quell_Kategorien[k]);
-        } else {
-            const Byte neu = gleichnamige(alte_Namen_.at(ziel - 1U));
-            // With as many categories as before a name that is gone was changed in its place.
-            if (neu != 0 || !gleich_viele) ziel = neu;
-        }
+        if (ziel == 0 && !gab_es) ziel = gleichnamige(Quell_Kategorien[k]);
     }
     Ziele_füllen();
     Zeilen_füllen();

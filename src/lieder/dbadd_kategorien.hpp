@@ -30,11 +30,15 @@ public:
     // nach_dem_Bearbeiten.
     std::function<void()> Kategorien_bearbeiten;
     void nach_dem_Bearbeiten();
+    // The editor gave the own categories other numbers (0: gone, then each song is asked for).
+    void umnummerieren(const std::function<Byte(Byte)>& neue);
 
     // Waits until the mapping is done: the category of each of the `A` new songs, 0 where it is to be asked for. New song i
     // takes that of line i of `Lieder`, although a file that was dropped on the way has no new song: all behind it get the
     // category of their predecessor in the list. That is so on purpose.
     std::vector<Byte> Init(Long A, const std::vector<Lied_Fund>& Lieder);
+    // The same without waiting: as the mapping stands, or by the names alone when it has not been asked for yet.
+    std::vector<Byte> ohne_Rückfrage(Long A, const std::vector<Lied_Fund>& Lieder);
 
 protected:
     Knoten anordnung() override;
@@ -42,6 +46,8 @@ protected:
 
 private:
     Byte gleichnamige(const Text& name) const;
+    void nach_Namen_zuordnen();
+    std::vector<Byte> je_Lied(Long A, const std::vector<Lied_Fund>& Lieder) const;
     void Ziele_füllen();
     void Zeilen_füllen();
     Text Zeile_von(int quelle) const;

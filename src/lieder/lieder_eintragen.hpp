@@ -21,16 +21,30 @@ public:
     // Enters the files behind Anzahl_Lieder, `A` of them, and counts them in.
     void ausführen(Long A, Übernahmeart modus, const Begleitung& begleitung);
     // The same with a category for each new song, 0 where it is to be asked for; nothing is said about the number.
-    void mit_Kategorien(const std::vector<Byte>& Kategorien, Begleitung begleitung);
+    void mit_Kategorien(std::vector<Byte> Kategorien, Begleitung begleitung);
+
+    // While songs are being entered. The editor gave the categories other numbers (0: gone, then it is asked for):
+    void umnummerieren(const std::function<Byte(Byte)>& neue);
+    // The program ends: the rest at once and unasked, with the first category where none was told.
+    void abschließen();
 
 private:
+    // A run of mit_Kategorien.
+    struct Lauf {
+        std::vector<Byte> Kategorien;
+        Begleitung begleitung;
+        std::size_t gezählt = 0;    // songs that have their record
+        std::size_t begleitet = 0;  // and their place in album and list file
+    };
+    void nächstes(Lauf& lauf, bool fragen);
     // The category of all, 0 when each song is to be asked for.
     Byte gemeinsame_Kategorie(Long A, Übernahmeart modus);
-    void eintragen(Long Nr, Byte Kategorie);
+    void eintragen(Long Nr, Byte Kategorie, bool fragen);
 
     Modell& modell_;
     MP3_TagHead& mp3_;
     Kategorie_Wahl& wahl_;
+    Lauf* lauf_ = nullptr;
 };
 
 }  // namespace tonkartei

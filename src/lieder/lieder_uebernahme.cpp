@@ -1,6 +1,10 @@
 #include "lieder/lieder_uebernahme.hpp"
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
+
+#include "grundlagen/waehrend.hpp"
 
 namespace tonkartei {
 namespace {
@@ -12,17 +16,39 @@ Text MByte_Text(double KByte) { return Zahltext(static_cast<long long>(std::floo
 bool Lieder_Übernahme::ausführen(const Übernahme_Auftrag& auftrag) {
     if (!bestätigt(auftrag)) return false;
     if (Winamp_anhalten) Winamp_anhalten();
+    Lauf lauf{auftrag, modell_.Anzahl_Lieder, {}};
+    const Während läuft(lauf_, &lauf);
     const Long A = übernehmen_.ausführen(auftrag);
-    Begleitung begleitung;
-    if (auftrag.Album_erstellen && Album_erstellen) Album_erstellen(A, begleitung);
-    if (auftrag.Playlist_erstellen && Playlist_erstellen) Playlist_erstellen(A, begleitung);
-    if (auftrag.Quelle == Quelle_Datenbank && Kategorien_zuordnen)
-        eintragen_.mit_Kategorien(Kategorien_zuordnen(A, auftrag.Lieder), begleitung);
-    else
-        eintragen_.ausführen(A, auftrag.Modus, begleitung);
-    if (begleitung.Abschluss) begleitung.Abschluss();
+    if (auftrag.Album_erstellen && Album_erstellen && !lauf.abgeschlossen) Album_erstellen(A, lauf.begleitung);
+    if (auftrag.Playlist_erstellen && Playlist_erstellen && !lauf.abgeschlossen) Playlist_erstellen(A, lauf.begleitung);
+    if (!lauf.abgeschlossen) eintragen(lauf, A);
+    if (lauf.abgeschlossen) return true;
+    if (lauf.begleitung.Abschluss) std::exchange(lauf.begleitung.Abschluss, nullptr)();
     vor_Größe_warnen();
     return true;
+}
+
+void Lieder_Übernahme::eintragen(Lauf& lauf, Long A) {
+    if (lauf.auftrag.Quelle != Quelle_Datenbank || !Kategorien_zuordnen) {
+        eintragen_.ausführen(A, lauf.auftrag.Modus, lauf.begleitung);
+        return;
+    }
+    std::vector<Byte> kategorien = Kategorien_zuordnen(A, lauf.auftrag.Lieder);
+    if (!lauf.abgeschlossen) eintragen_.mit_Kategorien(std::move(kategorien), lauf.begleitung);
+}
+
+void Lieder_Übernahme::abschließen() {
+    if (lauf_ == nullptr || std::exchange(lauf_->abgeschlossen, true)) return;
+    eintragen_.abschließen();
+    const Long A = übernehmen_.Anzahl();
+    if (modell_.Anzahl_Lieder < lauf_->vorher + A) {
+        std::vector<Byte> kategorien(static_cast<std::size_t>(A), 1);
+        if (lauf_->auftrag.Quelle == Quelle_Datenbank && Kategorien_ohne_Rückfrage)
+            kategorien = Kategorien_ohne_Rückfrage(A, lauf_->auftrag.Lieder);
+        std::replace(kategorien.begin(), kategorien.end(), Byte{0}, Byte{1});
+        eintragen_.mit_Kategorien(std::move(kategorien), lauf_->begleitung);
+    }
+    if (lauf_->begleitung.Abschluss) std::exchange(lauf_->begleitung.Abschluss, nullptr)();
 }
 
 std::uint64_t Lieder_Übernahme::freie_KByte() const {

@@ -29,14 +29,26 @@ public:
 
     // Songs of another collection: the category of each of the `A` new ones, 0 where it is to be asked for.
     std::function<std::vector<Byte>(Long A, const std::vector<Lied_Fund>&)> Kategorien_zuordnen;
+    // The same at once, with what the user has said so far.
+    std::function<std::vector<Byte>(Long A, const std::vector<Lied_Fund>&)> Kategorien_ohne_Rückfrage;
 
     // False when the user decided against it before anything happened.
     bool ausführen(const Übernahme_Auftrag& auftrag);
+    // Before the program saves for the last time: what a commit has brought so far becomes songs at once and unasked, in the
+    // first category where none was told. A moved file is nowhere else, and the next commit would write over it.
+    void abschließen();
 
     // Room on the volume of the collection in KByte, rounded down; 0 when it cannot be told.
     std::uint64_t freie_KByte() const;
 
 private:
+    struct Lauf {
+        const Übernahme_Auftrag& auftrag;
+        Long vorher;  // Anzahl_Lieder
+        Begleitung begleitung;
+        bool abgeschlossen = false;
+    };
+    void eintragen(Lauf& lauf, Long A);
     bool bestätigt(const Übernahme_Auftrag& auftrag) const;
     void vor_Größe_warnen() const;
 
@@ -45,6 +57,7 @@ private:
     Dateisystem& dateien_;
     Dateien_übernehmen& übernehmen_;
     Lieder_eintragen& eintragen_;
+    Lauf* lauf_ = nullptr;
 };
 
 }  // namespace tonkartei

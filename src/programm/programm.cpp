@@ -95,6 +95,13 @@ void Programm::Teile::verbinden() {
     übernahme.Kategorien_zuordnen = [this](Long A, const std::vector<Lied_Fund>& lieder) {
         return dbadd_kategorien.Init(A, lieder);
     };
+    übernahme.Kategorien_ohne_Rückfrage = [this](Long A, const std::vector<Lied_Fund>& lieder) {
+        return dbadd_kategorien.ohne_Rückfrage(A, lieder);
+    };
+    kategorie_bearbeiten.umnummeriert.verbinden([this](const std::function<Byte(Byte)>& neue) {
+        dbadd_kategorien.umnummerieren(neue);
+        lieder_eintragen.umnummerieren(neue);
+    });
     dbadd_kategorien.Kategorien_bearbeiten = [this] {
         kategorie_bearbeiten.öffnen(Kategorie_bearbeiten::von_DBadd_Kategorien);
     };
@@ -197,6 +204,7 @@ bool Programm::Teile::darf_schließen(Schließgrund grund) {
         if (splash.geladen()) Einstellungen_werden_geschrieben = false;
         return true;
     }
+    übernahme.abschließen();
     if (!modell.Datenbank_offen || sitzung.schreibe_Datenbank(!von_außen)) return true;
     modell.Meldung = "Wollen sie das Prorgamm wirklich beenden, ohne das die alten Informationen gespeichert wurden?";
     return ansicht.fragen("Programm beenden", modell.Meldung);

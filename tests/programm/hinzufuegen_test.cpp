@@ -80,7 +80,7 @@ TEST_F(Hinzufügen, verliert_nichts) {
                 hand(std::string("störung ") + vorgang + " " + std::to_string(n));
                 hand("klick neue_Lieder_Liste.Ok");
                 durchziehen();
-                hand(std::string("störung ") + vorgang + " 0");
+                hand(std::string("störung ") + vorgang + " 1000000");
                 hände({"klick Tonkartei.Lieder_Namen_einlesen", "antwort Ja"});
                 const int neue = Lieder() - alte;
                 const std::string gezählt = neue == 1 ? "1 neues Lied" : std::to_string(neue) + " neue Lieder";

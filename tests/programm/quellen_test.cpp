@@ -269,6 +269,81 @@ TEST_F(Quellen, Ende_von_außen_während_der_Wahl) {
     EXPECT_EQ(mdb(), erwartet.bytes());
 }
 
+// Moved files are nowhere else: wherever the program ends in the middle of the commit, they are songs of the saved collection.
+TEST_F(Quellen, Ende_mitten_im_Hinzufügen) {
+    const struct {
+        const char* wo;
+        Zeilen hände;
+        std::string erste_Kategorie;
+        bool mit_Liste;
+    } fälle[] = {
+        {"Album", {"schließe Tonkartei extern"}, "Alle", false},
+        {"Frage", {"eingabe I", "eingabe T", "antwort OK", "pfad " + ordner.pfad("neu.m3u"), "schließe Tonkartei extern"},
+         "Alle", true},
+        {"Wahl",
+         {"eingabe I", "eingabe T", "antwort OK", "pfad " + ordner.pfad("neu.m3u"), "antwort Nein",
+          "wähle Kategorie_Wahl.Liste 5", "klick Kontextmenüs.MP_Beenden"},
+         "Techno", true},
+    };
+    for (const auto& fall : fälle) {
+        SCOPED_TRACE(fall.wo);
+        std::filesystem::remove_all(a);
+        sammlung("a");
+        ordner.ordner("quelle");
+        for (const char* name : {"1", "2", "3"}) ordner.datei("quelle/" + std::string(name) + ".mp3", Lied("N", name));
+        ordner.datei("neu.m3u", "");
+        öffnen(a);
+        hände({"klick Tonkartei.Lieder_hinzufügen_Verzeichnis",
+               "setze Verzeichnis_add.Pfad " + Bediener::zitiert(ordner.pfad("quelle")), "klick Verzeichnis_add.Ok",
+               "klick neue_Lieder_Liste.add_Option(2)", "klick neue_Lieder_Liste.Album_erstellen",
+               "klick neue_Lieder_Liste.Playlist_erstellen", "klick neue_Lieder_Liste.Ok"});
+        hände(fall.hände);
+        EXPECT_EQ(b->Ende_abwarten(), 0);
+        öffnen(a);
+        const Zeilen erwartet{"Anna - Zug", "Berta - Yacht", "Carla - Xylophon", "N - 1", "N - 2", "N - 3"};
+        EXPECT_EQ(b->zeilen("Tonkartei.Liste"), erwartet);
+        hand("wähle Tonkartei.Liste 3");
+        EXPECT_EQ(b->zeilen("Tonkartei.Lied_Kategorie").at(b->zeige("Tonkartei.Lied_Kategorie")["gewählt"]),
+                  fall.erste_Kategorie);
+        const std::string zeilen = a + "00000004.MP3\r\n" + a + "00000005.MP3\r\n" + a + "00000006.MP3\r\n";
+        EXPECT_EQ(ordner.inhalt("neu.m3u"), fall.mit_Liste ? zeilen : "");
+        if (fall.mit_Liste) {
+            hände({"wähle Tonkartei.Datenbank_Modus 1", "wähle Tonkartei.Liste 0"});
+            EXPECT_EQ(b->zeilen("Tonkartei.Liste2"), (Zeilen{"N - 1", "N - 2", "N - 3"}));
+        }
+    }
+}
+
+// Songs of another collection get their categories also when the program ends over the mapping; and the editor, opened
+// while one of them is asked for, takes the told ones along. What has no category there is asked for.
+TEST_F(Quellen, andere_Datenbank_Ende_und_Editor) {
+    const std::string anderer = sammlung("b", {.Lieder = {{"E", "1", 0, 2, 2}, {"F", "2", 0, 2, 3}, {"G", "3", 0, 2, 9}},
+                                               .Kategorien = {"Alle", "Rock", "Techno"}});
+    for (const char* nr : {"1", "2", "3"}) ordner.datei("b/0000000" + std::string(nr) + ".MP3", Lied("b", nr));
+    öffnen(a);
+    andere(anderer);
+    hände({"klick DB_add_start_Kategorien.Ok", "klick neue_Lieder_Liste.Ok", "schließe Tonkartei extern"});
+    EXPECT_EQ(b->Ende_abwarten(), 0);
+    öffnen(a);
+    std::string lieder = Lieder_gespeichert();
+    EXPECT_NE(lieder.find("4 b - 1: Alle\n5 b - 2: Techno\n6 b - 3: Alle\n"), std::string::npos) << lieder;
+    andere(anderer);
+    hände({"klick DB_add_start_Kategorien.Ok", "klick neue_Lieder_Liste.Ok"});
+    while (b->bereit() == "meldung") hand("antwort Ja");  // each may be there already
+    hand("klick DBadd_Kategorien.Ok");
+    EXPECT_EQ(b->bereit_name(), "Kategorie_Wahl");
+    hände({"klick Kategorie_Wahl.Kategorie_Edit", "wähle Kategorie_bearbeiten.Liste 4",
+           "klick Kategorie_bearbeiten.kill_Kategorie", "antwort Ja", "klick Kategorie_bearbeiten.Ok",
+           "wähle Kategorie_Wahl.Liste 1"});
+    EXPECT_EQ(b->bereit_name(), "Kategorie_Wahl") << "for the one without";
+    hand("wähle Kategorie_Wahl.Liste 2");
+    EXPECT_EQ(b->bereit(), "schleife");
+    lieder = Lieder_gespeichert();
+    EXPECT_NE(lieder.find("7 b - 1: Freestyle\n"), std::string::npos) << lieder;
+    EXPECT_NE(lieder.find("8 b - 2: Techno\n"), std::string::npos) << lieder;
+    EXPECT_NE(lieder.find("9 b - 3: Hip-Hop/Rap\n"), std::string::npos) << lieder;
+}
+
 // Version 1.01 knows neither limit nor times; in a folder that cannot be written to it is converted elsewhere.
 TEST_F(Quellen, andere_Datenbank_alter_Version) {
     std::string alt = "Tonkartei\r\nV 1.01 05\r\n 2 \r\nAlle\r\nRock\r\n 0 \r\n";
@@ -293,6 +368,18 @@ TEST_F(Quellen, andere_Datenbank_alter_Version) {
         EXPECT_EQ(b->Ende_abwarten(), 0);
         for (const auto& datei : std::filesystem::recursive_directory_iterator(ordner.pfad("")))
             EXPECT_NE(datei.path().filename(), "Tempkonv.MDB");
+    }
+    // Numbers that cannot be: told, and the open collection is none the worse.
+    öffnen(a);
+    for (const char* kategorien : {"300", "-1"}) {
+        std::string falsch = alt;
+        ordner.datei("b/MP3_Info.MDB", falsch.replace(falsch.find(" 2 "), 3, kategorien));
+        geschehen();
+        andere(ordner.pfad("b/"));
+        for (int n = 0; n < 3 && b->bereit() == "meldung"; ++n) hand("antwort Ja");
+        EXPECT_EQ(b->bereit(), "meldung");
+        hand("antwort OK");
+        EXPECT_TRUE(Hauptfenster_frei()) << kategorien;
     }
 }
 
