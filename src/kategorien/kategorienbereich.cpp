@@ -66,7 +66,14 @@ Knoten Kategorienbereich::anordnung() {
 
 void Kategorienbereich::melden() { Tabelle_geändert(); }
 
+// The automatic change goes on only as long as it alone sets the boxes: its draw needs one of its categories off show, and
+// its categories may be others by now. Ended before the boxes change, so that nothing of it stays in them.
+void Kategorienbereich::von_anderswo_gesetzt() {
+    if (Auto_Wechsel_an() && !Kategorie_intern) Auto_Wechsel_beenden();
+}
+
 void Kategorienbereich::aktualisiere_Kategorie_List(bool Startkategorien_setzen) {
+    von_anderswo_gesetzt();
     {
         const Während stille(Kategorie_Ereignisse_an_, false);
         std::vector<Text> namen;
@@ -93,6 +100,7 @@ void Kategorienbereich::aktualisiere_Kategorie_List(bool Startkategorien_setzen)
 
 void Kategorienbereich::setzte_Startkategorien() {
     if (!einstellungen_.Kategorien_merken) return;
+    von_anderswo_gesetzt();
     {
         const Während stille(Kategorie_Ereignisse_an_, false);
         for (int k = 1; k <= modell_.Anzahl_Kategorien; ++k)
@@ -249,6 +257,7 @@ void Kategorienbereich::Schema_klicken(int n) {
 }
 
 void Kategorienbereich::Schema_wählen(int n) {
+    von_anderswo_gesetzt();
     {
         const Während stille(Kategorie_Ereignisse_an_, false);
         for (int k = 1; k <= Kategorien_maximal; ++k) zeige_Kategorie(k).wert(false);

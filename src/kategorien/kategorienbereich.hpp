@@ -62,7 +62,7 @@ public:
     Feld<bool, Kategorien_maximal> Auto_Wechsel_Kategorie;
     // It is changing the boxes: they do not count as changed by the user.
     bool Kategorie_intern = false;
-    // A box was changed by hand while it runs: it ends.
+    // The boxes are set by anything else while it runs: it ends.
     Ereignis<> Auto_Wechsel_beenden;
     // The checked boxes from 2 on become its categories and are unchecked; with box 1 all of them do. No rebuild yet.
     void Pool_übernehmen();
@@ -78,6 +78,7 @@ private:
     void Pool_zeigen(int k);
     void nur_oder_alle_anderen(int k);
     void Kategorie_des_Liedes_geändert();
+    void von_anderswo_gesetzt();
     void Schema_wählen(int n);
     void Schema_speichern(int n);
     void Schema_beschreiben(int n);

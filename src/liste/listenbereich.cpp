@@ -347,7 +347,8 @@ void Listenbereich::Tab_gewechselt() {
 }
 
 void Listenbereich::Schnellsuche_fokussieren() {
-    if (fenster_.zustand() == Fensterzustand::normal) fenster_.ansicht().fokus(Schnellsuche);
+    // A list that changes by itself takes nothing from the dialog that the user is in.
+    if (fenster_.zustand() == Fensterzustand::normal && fenster_.aktiv()) fenster_.ansicht().fokus(Schnellsuche);
 }
 
 }  // namespace tonkartei

@@ -17,7 +17,10 @@ void Playlist_Anschluss::verbinden() {
     knopf.Klick.verbinden([this] { add_to_Playlist(t_.fenster.Lieder.gewähltes_Lied()); });
     knopf.Rechtsklick.verbinden([this](int) { t_.playlist.zeigen_falls_nötig(); });
     fenster.Lieder.zur_Playlist.verbinden([this](Long nr) { add_to_Playlist(nr); });
-    fenster.Lieder.Liste.Ziehmarke = "Lied";
+    fenster.Lieder.Liste.Ziehen_beginnt.verbinden([this] {
+        auto& bereich = t_.fenster.Lieder;
+        bereich.Liste.Ziehmarke = bereich.Datenbank_Modus.wert() == 0 && t_.playlist.geladen() ? "Lied" : "";
+    });
     fenster.Größe_oder_Zustand_geändert.verbinden([this] { folgen(); });
     t_.sitzung.geladen.verbinden([this](bool) { aktualisieren(); });
 

@@ -49,7 +49,13 @@ int Kategoriewechsel::ziehen() const {
 }
 
 void Kategoriewechsel::Kategorie_wechseln() {
-    const int k = ziehen();
+    // The timer runs on during a draw without end: it must not begin another one inside.
+    if (zieht_) return;
+    int k = 0;
+    {
+        const Während zug(zieht_);
+        k = ziehen();
+    }
     if (k < 1) return;
     const Während intern(kategorien_.Kategorie_intern);
     kategorien_.Rechtsklick_auf_Kasten(k);

@@ -36,6 +36,7 @@ private:
     Kategorienbereich& kategorien_;
     Rechner& rechner_;
     Ansicht& ansicht_;
+    bool zieht_ = false;
 };
 
 }  // namespace tonkartei

@@ -74,6 +74,18 @@ TEST_F(Automatik, fremder_Kasten_während_des_Starts) {
     EXPECT_EQ(b->text("Tonkartei.Anzahl"), "3") << "not started, not counted";
 }
 
+TEST_F(Automatik, Wechsel_nimmt_einem_Dialog_nichts) {
+    starte("", {"Random-Autoplay=False", "automatisch Kategorie Wechseln\\Status=True",
+                "automatisch Kategorie Wechseln\\Anzahl Lieder=1"});
+    hände({"klick Tonkartei.Autoplay", "uhr +500", "klick Tonkartei.Kategorie_Edit", "spieler Tonkartei status=0"});
+    const auto fokus = [this] { return (*b)("fokus").front().dump(); };
+    const std::string vorher = fokus();
+    const Zeilen lieder = b->zeilen("Tonkartei.Liste");
+    hand("uhr +500");
+    EXPECT_NE(b->zeilen("Tonkartei.Liste"), lieder);
+    EXPECT_EQ(fokus(), vorher);
+}
+
 TEST_F(Automatik, Eingaben) {
     starte();
     geschehen();

@@ -203,8 +203,13 @@ TEST(Kategoriewechsel, Zeilen_sind_Text_und_zehn_kommt_vor_zwei) {
 }
 
 TEST(Kategoriewechsel, Ein_Klick_von_Hand_beendet_ihn) {
-    for (const auto& [kasten, danach] : {std::pair{2, "34"}, {3, "24"}, {1, "1"}}) {
+    // Place 0: a scheme, which sets the boxes as it lists them.
+    for (const auto& [kasten, danach] : {std::pair{2, "34"}, {3, "24"}, {1, "1"}, {0, "23"}}) {
         Zufallsbühne b({0});
+        b.Modell.Schemas[1].Anzahl = 2;
+        b.Modell.Schemas[1].Kategorien[1] = 2;
+        b.Modell.Schemas[1].Kategorien[2] = 3;
+        b.Kategorien.Anz_Kat_Schemas_setzen(1);
         b.Einstellungen.auto_Kat_Wechsel_Status = true;
         b.Knöpfe.auto_Kat_Wechsel.wert(true);
         b.Rechner.Zufall = {0.34F};
@@ -212,12 +217,40 @@ TEST(Kategoriewechsel, Ein_Klick_von_Hand_beendet_ihn) {
         EXPECT_EQ(b.Kästen(), "3");
         EXPECT_EQ(b.Kategorien.zeige_Kategorie(2).farbe(), b.Einstellungen.automatische_Kategorien_Farbe);
         EXPECT_TRUE(b.Knöpfe.auto_Kat_Wechsel.sichtbar());
-        Hand::klicken(b.Kategorien.zeige_Kategorie(kasten));
+        if (kasten == 0)
+            Hand::klicken(b.Kategorien.Kategorie_Schema(1));
+        else
+            Hand::klicken(b.Kategorien.zeige_Kategorie(kasten));
         EXPECT_EQ(b.Kästen(), danach) << "box " << kasten;
         EXPECT_FALSE(b.Einstellungen.auto_Kat_Wechsel_Status);
         EXPECT_FALSE(b.Knöpfe.auto_Kat_Wechsel.wert());
         EXPECT_EQ(b.Kategorien.zeige_Kategorie(2).farbe(), Farbe_Standard);
     }
+}
+
+// All of the pool on show: the draw waits for the user, and ticks that come meanwhile do not pile up more of them.
+TEST(Kategoriewechsel, Zug_ohne_Ende) {
+    Zufallsbühne b({0});
+    b.Knöpfe.auto_Kat_Wechsel.wert(true);
+    b.Rechner.Zufall = {0.0F};
+    b.Knöpfe.Autoplay.wert(true);
+    EXPECT_EQ(b.Kästen(), "2");
+    b.Kategorien.Auto_Wechsel_Kategorie[3] = b.Kategorien.Auto_Wechsel_Kategorie[4] = false;
+    b.Automatik.Wechsel.Kategorie_wechseln();  // a pool of one: all but it
+    for (const int k : {2, 3, 4}) Hand::rechtsklicken(b.Kategorien.zeige_Kategorie(k), -1);
+    int Runden = 0, Tiefe = 0, tiefste = 0;
+    b.Ansicht.Runde = [&] {
+        tiefste = std::max(tiefste, ++Tiefe);
+        if (++Runden < 5)
+            b.Automatik.Wechsel.Kategorie_wechseln();
+        else if (Runden == 5)
+            Hand::klicken(b.Kategorien.zeige_Kategorie(3));
+        --Tiefe;
+    };
+    b.Automatik.Wechsel.Kategorie_wechseln();
+    EXPECT_EQ(Runden, 5);
+    EXPECT_EQ(tiefste, 1);
+    EXPECT_FALSE(b.Einstellungen.auto_Kat_Wechsel_Status);
 }
 
 // A player that is always stopped at the look: every tick is the end of a song.
