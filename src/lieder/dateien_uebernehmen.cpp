@@ -25,7 +25,7 @@ Long Dateien_übernehmen::ausführen(const Übernahme_Auftrag& auftrag) {
     fortschritt_.Text_setzen("Lieder hinzufügen...");
     std::size_t erledigt = 0;
     for (const Lied_Fund& lied : auftrag.Lieder) {
-        // Ended from outside while a box was up: what is not there yet stays where it is.
+        // Ended from outside while a box was up, and saved: what is not there yet stays where it is.
         if (fortschritt_.ansicht().endet()) break;
         if (übernehmen(lied, auftrag.Modus, vorhandene, modell_.Anzahl_Lieder + A_ + 1)) ++A_;
         ++erledigt;
@@ -81,7 +81,8 @@ bool Dateien_übernehmen::trotz_Doppelter(const Text& pfad, Long KByte, const Do
                           Titel_Artist(titel, artist) + Text(CRCR) +
                           "Bereits vorhandenes Lied in der Datenbank:" + Text(CRCR) + Datum_Zeit(*zeit) + Text(CR) +
                           Titel_Artist(da.Titel, da.Artist) + Text(CRCR) + "Soll dieses Lied trotzdem hinzugefügt werden?";
-        if (!fortschritt_.ansicht().fragen("Lied hinzufügen", modell_.Meldung)) return false;
+        Ansicht& ansicht = fortschritt_.ansicht();
+        if (!ansicht.fragen("Lied hinzufügen", modell_.Meldung) || ansicht.endet()) return false;
     }
     return true;
 }

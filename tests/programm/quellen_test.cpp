@@ -314,6 +314,30 @@ TEST_F(Quellen, Ende_mitten_im_Hinzufügen) {
     }
 }
 
+// While it is asked whether a file is there already, the end keeps it and all behind it where they are.
+TEST_F(Quellen, Ende_bei_der_Frage_nach_Doppelten) {
+    Sammlung s;
+    s.Lieder[0].KByte = 2;
+    sammlung("a", s);
+    ordner.ordner("quelle");
+    for (const char* name : {"1", "2", "3"}) ordner.datei("quelle/" + std::string(name) + ".mp3", Lied("N", name));
+    const std::string altes = ordner.datei("a/00000001.MP3", Lied("N", "2"));
+    std::filesystem::last_write_time(ordner.pfad("quelle/2.mp3"),
+                                     std::filesystem::last_write_time(altes) - std::chrono::hours(5));
+    std::filesystem::last_write_time(altes, std::filesystem::last_write_time(ordner.pfad("quelle/2.mp3")));
+    öffnen(a);
+    hände({"klick Tonkartei.Lieder_hinzufügen_Verzeichnis",
+           "setze Verzeichnis_add.Pfad " + Bediener::zitiert(ordner.pfad("quelle")), "klick Verzeichnis_add.Ok",
+           "klick neue_Lieder_Liste.add_Option(2)", "klick neue_Lieder_Liste.Ok"});
+    EXPECT_EQ(b->bereit(), "meldung");
+    hand("schließe Tonkartei extern");
+    EXPECT_EQ(b->Ende_abwarten(), 0);
+    EXPECT_FALSE(ordner.da("quelle/1.mp3"));
+    EXPECT_TRUE(ordner.da("quelle/2.mp3") && ordner.da("quelle/3.mp3"));
+    öffnen(a);
+    EXPECT_EQ(b->zeilen("Tonkartei.Liste"), (Zeilen{"Anna - Zug", "Berta - Yacht", "Carla - Xylophon", "N - 1"}));
+}
+
 // Songs of another collection get their categories also when the program ends over the mapping; and the editor, opened
 // while one of them is asked for, takes the told ones along. What has no category there is asked for.
 TEST_F(Quellen, andere_Datenbank_Ende_und_Editor) {
