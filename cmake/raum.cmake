@@ -14,10 +14,14 @@ if(TONKARTEI_SANITIZER)
   endif()
 endif()
 
-# tonkartei_raum(NAME FOLDER LIB...): all *.cpp of FOLDER (not of the folders below it) as library NAME; an entry point
+# tonkartei_raum(NAME FOLDERS LIB...): all *.cpp of the folders (not of those below them) as library NAME; an entry point
 # (main.cpp) is left to its executable.
 function(tonkartei_raum name ordner)
-  file(GLOB quellen CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${ordner}/*.cpp)
+  set(quellen)
+  foreach(teil ${ordner})
+    file(GLOB hier CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${teil}/*.cpp)
+    list(APPEND quellen ${hier})
+  endforeach()
   list(FILTER quellen EXCLUDE REGEX "/main\\.cpp$")
   if(quellen)
     add_library(${name} STATIC ${quellen})

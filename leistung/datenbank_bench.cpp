@@ -4,13 +4,13 @@
 #include <string>
 #include <vector>
 
-#include "datenbank/fortschritt.hpp"
 #include "datenbank/info_datei.hpp"
 #include "leistung/verhaeltnis.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "plattform/kanaele.hpp"
 #include "plattform/linux/dateisystem_linux.hpp"
-#include "tests/probe/stumme_ansicht.hpp"
-#include "tests/testordner.hpp"
+#include "probe/stumme_ansicht.hpp"
+#include "testordner.hpp"
 
 namespace {
 

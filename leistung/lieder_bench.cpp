@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "leistung/verhaeltnis.hpp"
-#include "lieder/doppelte_lieder.hpp"
-#include "lieder/zwillinge.hpp"
+#include "lieder/hinzufuegen/doppelte_lieder.hpp"
+#include "lieder/wartung/zwillinge.hpp"
 #include "plattform/linux/dateisystem_linux.hpp"
 
 using namespace tonkartei;

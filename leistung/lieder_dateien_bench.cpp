@@ -14,8 +14,8 @@
 
 #include "leistung/sammlung.hpp"
 #include "leistung/verhaeltnis.hpp"
-#include "lieder/dateien_uebernehmen.hpp"
-#include "lieder/lieder_einlesen.hpp"
+#include "lieder/hinzufuegen/dateien_uebernehmen.hpp"
+#include "lieder/wartung/lieder_einlesen.hpp"
 #include "plattform/linux/dateisystem_linux.hpp"
 #include "plattform/linux/shell_linux.hpp"
 #include "probe/stumme_ansicht.hpp"

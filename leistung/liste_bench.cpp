@@ -10,7 +10,7 @@
 #include "leistung/verhaeltnis.hpp"
 #include "liste/listenbereich.hpp"
 #include "oberflaeche/fenster.hpp"
-#include "tests/probe/stumme_ansicht.hpp"
+#include "probe/stumme_ansicht.hpp"
 
 namespace {
 

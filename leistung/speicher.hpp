@@ -13,7 +13,7 @@
 #include "plattform/linux/registrierung_linux.hpp"
 #include "plattform/linux/shell_linux.hpp"
 #include "plattform/plattform.hpp"
-#include "tests/testordner.hpp"
+#include "testordner.hpp"
 
 namespace tonkartei {
 

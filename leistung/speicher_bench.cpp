@@ -6,8 +6,8 @@
 #include "leistung/speicher.hpp"
 #include "leistung/verhaeltnis.hpp"
 #include "oberflaeche/fenster.hpp"
+#include "probe/stumme_ansicht.hpp"
 #include "programm/programm.hpp"
-#include "tests/probe/stumme_ansicht.hpp"
 
 namespace {
 

@@ -20,12 +20,12 @@
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/zeitgeber.hpp"
 #include "plattform/kanaele.hpp"
+#include "probe/stumme_ansicht.hpp"
 #include "programm/programm.hpp"
 #include "spieler/fenster.hpp"
-#include "tests/probe/stumme_ansicht.hpp"
-#include "wiedergabe/liedautomatik.hpp"
 #include "wiedergabe/wiedergabe.hpp"
 #include "wiedergabe/wiedergabebereich.hpp"
+#include "wiedergabe/zufall/liedautomatik.hpp"
 
 using namespace tonkartei;
 

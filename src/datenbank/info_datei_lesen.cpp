@@ -2,11 +2,11 @@
 #include <array>
 #include <string_view>
 
-#include "datenbank/fortschritt.hpp"
 #include "datenbank/info_datei.hpp"
 #include "datenbank/version.hpp"
 #include "datenbank/zeitleser.hpp"
 #include "oberflaeche/ansicht.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "plattform/kanaele.hpp"
 
 namespace tonkartei {

@@ -1,9 +1,9 @@
 #include <utility>
 
-#include "datenbank/fortschritt.hpp"
 #include "datenbank/info_datei.hpp"
 #include "datenbank/version.hpp"
 #include "oberflaeche/ansicht.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "plattform/dateisystem.hpp"
 #include "plattform/kanaele.hpp"
 #include "plattform/zeilenbau.hpp"

@@ -1,9 +1,9 @@
 #include "datenbank/konvertierung.hpp"
 
-#include "datenbank/fortschritt.hpp"
 #include "datenbank/text_form.hpp"
 #include "datenbank/version.hpp"
 #include "oberflaeche/ansicht.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "plattform/kanaele.hpp"
 
 namespace tonkartei {

@@ -1,8 +1,8 @@
 #include "lieder/lied_kopieren.hpp"
 
 #include "lieder/dateibewegung.hpp"
-#include "lieder/fortschritts_ende.hpp"
 #include "oberflaeche/ansicht.hpp"
+#include "oberflaeche/fortschritts_ende.hpp"
 #include "plattform/dateisystem.hpp"
 
 namespace tonkartei {

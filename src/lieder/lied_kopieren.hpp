@@ -3,8 +3,8 @@
 
 #include <vector>
 
-#include "datenbank/fortschritt.hpp"
 #include "datenbank/modell.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "plattform/shell.hpp"
 
 namespace tonkartei {

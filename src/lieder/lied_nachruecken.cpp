@@ -1,8 +1,8 @@
 #include "lieder/lied_nachruecken.hpp"
 
 #include "alben/alben_datei.hpp"
+#include "datenbank/abr_datei.hpp"
 #include "datenbank/modell.hpp"
-#include "wiedergabe/abr_datei.hpp"
 
 namespace tonkartei {
 

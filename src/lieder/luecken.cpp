@@ -1,8 +1,8 @@
 #include "lieder/luecken.hpp"
 
 #include "lieder/dateibewegung.hpp"
-#include "lieder/fortschritts_ende.hpp"
 #include "oberflaeche/ansicht.hpp"
+#include "oberflaeche/fortschritts_ende.hpp"
 
 namespace tonkartei {
 namespace {

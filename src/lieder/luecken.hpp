@@ -1,9 +1,9 @@
 // The search for gaps: records whose file is missing. The last songs fill them.
 #pragma once
 
-#include "datenbank/fortschritt.hpp"
 #include "datenbank/modell.hpp"
 #include "lieder/lied_nachruecken.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "plattform/dateisystem.hpp"
 #include "plattform/shell.hpp"
 

@@ -9,7 +9,7 @@
 #include "mp3/bits.hpp"
 #include "mp3/mp3_taghead.hpp"
 #include "mp3/mpeg_tabellen.hpp"
-#include "mp3/offene_datei.hpp"
+#include "plattform/offene_datei.hpp"
 
 namespace tonkartei {
 namespace {

@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "grundlagen/fehler.hpp"
-#include "mp3/offene_datei.hpp"
+#include "plattform/offene_datei.hpp"
 
 namespace tonkartei {
 namespace {

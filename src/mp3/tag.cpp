@@ -15,7 +15,7 @@
 #include "grundlagen/codepage.hpp"
 #include "grundlagen/fehler.hpp"
 #include "mp3/mp3_taghead.hpp"
-#include "mp3/offene_datei.hpp"
+#include "plattform/offene_datei.hpp"
 
 namespace tonkartei {
 namespace {

@@ -7,7 +7,7 @@
 #include "grundlagen/waehrend.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fenster.hpp"
-#include "wiedergabe/winamp.hpp"
+#include "wiedergabe/winamp/winamp.hpp"
 
 namespace tonkartei {
 namespace {

@@ -1,10 +1,10 @@
 #include "wiedergabe/liedstart.hpp"
 
 #include "liste/listenbereich.hpp"
-#include "wiedergabe/listenfolge.hpp"
 #include "wiedergabe/spielzaehlung.hpp"
 #include "wiedergabe/wiedergabebereich.hpp"
-#include "wiedergabe/zufallslied.hpp"
+#include "wiedergabe/zufall/listenfolge.hpp"
+#include "wiedergabe/zufall/zufallslied.hpp"
 
 namespace tonkartei {
 

@@ -3,7 +3,7 @@
 #include "datenbank/einstellungen.hpp"
 #include "datenbank/modell.hpp"
 #include "plattform/rechner.hpp"
-#include "wiedergabe/winamp_starter.hpp"
+#include "wiedergabe/winamp/winamp_starter.hpp"
 
 namespace tonkartei {
 

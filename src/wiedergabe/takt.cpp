@@ -1,6 +1,6 @@
 #include "wiedergabe/takt.hpp"
 
-#include "wiedergabe/winamp.hpp"
+#include "wiedergabe/winamp/winamp.hpp"
 
 namespace tonkartei {
 

@@ -1,15 +1,15 @@
 // The playing side without its controls, put together.
 #pragma once
 
-#include "wiedergabe/abr_datei.hpp"
-#include "wiedergabe/fenstersuche.hpp"
+#include "datenbank/abr_datei.hpp"
 #include "wiedergabe/spielzaehlung.hpp"
 #include "wiedergabe/takt.hpp"
-#include "wiedergabe/winamp.hpp"
-#include "wiedergabe/winamp_optionen.hpp"
-#include "wiedergabe/winamp_programm.hpp"
-#include "wiedergabe/winamp_starter.hpp"
-#include "wiedergabe/winamp_steuerung.hpp"
+#include "wiedergabe/winamp/fenstersuche.hpp"
+#include "wiedergabe/winamp/winamp.hpp"
+#include "wiedergabe/winamp/winamp_optionen.hpp"
+#include "wiedergabe/winamp/winamp_programm.hpp"
+#include "wiedergabe/winamp/winamp_starter.hpp"
+#include "wiedergabe/winamp/winamp_steuerung.hpp"
 
 namespace tonkartei {
 

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "datenbank/fortschritt.hpp"
 #include "datenbank/version.hpp"
 #include "grundlagen/codepage.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "plattform/kanaele.hpp"
 #include "plattform/linux/dateisystem_linux.hpp"
 #include "probe/stumme_ansicht.hpp"

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "datenbank/fortschritt.hpp"
 #include "datenbank/info_datei.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "plattform/kanaele.hpp"
 #include "plattform/linux/dateisystem_linux.hpp"
 #include "probe/dateisystem_probe.hpp"

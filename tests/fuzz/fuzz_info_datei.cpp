@@ -1,11 +1,11 @@
 // The reader of the info file with its conversions: whatever the bytes, it reads them, says that it cannot, or ends with the
 // overflow or bounds error that damaged counts and numbers call for. The old file is whole until the new one is.
-#include "datenbank/fortschritt.hpp"
 #include "datenbank/info_datei.hpp"
 #include "datenbank/konvertierung.hpp"
 #include "datenbank/vorschau.hpp"
 #include "fuzz/treiber.hpp"
 #include "mp3/speicher_dateisystem.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "plattform/kanaele.hpp"
 #include "probe/stumme_ansicht.hpp"
 

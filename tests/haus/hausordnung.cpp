@@ -75,8 +75,8 @@ bool ist_Einschluss(std::string_view zeile) {
 
 // Beside the including file first, then below the include folders, as the compiler looks.
 std::optional<std::string> Ziel(const Quellen& quellen, const std::string& von, const std::string& pfad) {
-    const std::string beide[] = {von.substr(0, von.rfind('/') + 1) + pfad, "src/" + pfad, "tests/" + pfad,
-                                 "leistung/" + pfad};
+    const std::string beide[] = {von.substr(0, von.rfind('/') + 1) + pfad, "src/" + pfad, "werkzeug/" + pfad,
+                                 "tests/" + pfad, "leistung/" + pfad};
     for (const std::filesystem::path versuch : beide)
         if (const std::string ziel = versuch.lexically_normal().generic_string(); quellen.contains(ziel)) return ziel;
     return std::nullopt;

@@ -18,7 +18,7 @@ std::string Gründe(const std::vector<Verstoß>& verstöße) {
 
 Quellen lies_Projekt(const std::filesystem::path& wurzel) {
     Quellen quellen;
-    for (const char* ordner : {"src", "tests", "leistung"}) {
+    for (const char* ordner : {"src", "werkzeug", "tests", "leistung"}) {
         for (const auto& eintrag : std::filesystem::recursive_directory_iterator(wurzel / ordner)) {
             const auto endung = eintrag.path().extension();
             if (!eintrag.is_regular_file() || (endung != ".cpp" && endung != ".hpp" && endung != ".h")) continue;
@@ -36,7 +36,7 @@ Quellen Umgebung() {
     for (const char* datei :
          {"src/grundlagen/text.hpp", "src/plattform/shell.hpp", "src/plattform/linux/xdg.hpp", "src/oberflaeche/fenster.hpp",
           "src/oberflaeche/qt/ansicht_qt.hpp", "src/mp3/tag.hpp", "src/datenbank/modell.hpp", "src/kategorien/wahl.hpp",
-          "src/liste/bereich.hpp", "src/dj/dj.hpp", "src/programm/programm.hpp", "tests/probe/probe.hpp"})
+          "src/liste/bereich.hpp", "src/dj/dj.hpp", "src/programm/programm.hpp", "werkzeug/probe/probe.hpp"})
         quellen[datei] = "#pragma once\n";
     return quellen;
 }

@@ -8,7 +8,7 @@
 #include <functional>
 #include <vector>
 
-#include "lieder/lieder_hinzufuegen.hpp"
+#include "lieder/hinzufuegen/lieder_hinzufuegen.hpp"
 #include "mp3/bausteine.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/hand.hpp"

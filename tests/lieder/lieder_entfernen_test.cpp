@@ -2,6 +2,7 @@
 #include "buehne.hpp"
 
 #include "alben/alben_datei.hpp"
+#include "datenbank/abr_datei.hpp"
 #include "lieder/lied_austauschen.hpp"
 #include "lieder/lied_nachruecken.hpp"
 #include "lieder/lieder_entfernen.hpp"
@@ -10,7 +11,6 @@
 #include "plattform/linux/fenstersystem_linux.hpp"
 #include "plattform/linux/rechner_linux.hpp"
 #include "plattform/linux/registrierung_linux.hpp"
-#include "wiedergabe/abr_datei.hpp"
 
 namespace tonkartei {
 namespace {

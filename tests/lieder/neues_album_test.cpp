@@ -1,4 +1,4 @@
-#include "lieder/neues_album.hpp"
+#include "lieder/hinzufuegen/neues_album.hpp"
 
 #include "buehne.hpp"
 #include "probe/rechner_probe.hpp"

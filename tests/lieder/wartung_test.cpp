@@ -1,4 +1,4 @@
-#include "lieder/wartung.hpp"
+#include "lieder/wartung/wartung.hpp"
 
 #include <gtest/gtest.h>
 

@@ -170,7 +170,7 @@ TEST_F(DateisystemTest, KopieMitZeitUndRechten) {
     // A full disk, here as a limit on the size of a file.
     struct rlimit vorher {};
     ::getrlimit(RLIMIT_FSIZE, &vorher);
-    const struct rlimit knapp {1'000'000, vorher.rlim_max};
+    const struct rlimit knapp { 1'000'000, vorher.rlim_max };
     const auto behandlung = ::signal(SIGXFSZ, SIG_IGN);
     ::setrlimit(RLIMIT_FSIZE, &knapp);
     EXPECT_NE(Fehler_von([&] { dateien.kopieren(quelle, ordner.pfad("voll")); }), 0);

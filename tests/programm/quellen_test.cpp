@@ -269,7 +269,8 @@ TEST_F(Quellen, Ende_von_außen_während_der_Wahl) {
     EXPECT_EQ(mdb(), erwartet.bytes());
 }
 
-// Moved files are nowhere else: wherever the program ends in the middle of the commit, they are songs of the saved collection.
+// Moved files are nowhere else: wherever the program ends in the middle of the commit, they are songs of the saved
+// collection.
 TEST_F(Quellen, Ende_mitten_im_Hinzufügen) {
     const struct {
         const char* wo;
@@ -278,12 +279,15 @@ TEST_F(Quellen, Ende_mitten_im_Hinzufügen) {
         bool mit_Liste;
     } fälle[] = {
         {"Album", {"schließe Tonkartei extern"}, "Alle", false},
-        {"Frage", {"eingabe I", "eingabe T", "antwort OK", "pfad " + ordner.pfad("neu.m3u"), "schließe Tonkartei extern"},
-         "Alle", true},
+        {"Frage",
+         {"eingabe I", "eingabe T", "antwort OK", "pfad " + ordner.pfad("neu.m3u"), "schließe Tonkartei extern"},
+         "Alle",
+         true},
         {"Wahl",
          {"eingabe I", "eingabe T", "antwort OK", "pfad " + ordner.pfad("neu.m3u"), "antwort Nein",
           "wähle Kategorie_Wahl.Liste 5", "klick Kontextmenüs.MP_Beenden"},
-         "Techno", true},
+         "Techno",
+         true},
     };
     for (const auto& fall : fälle) {
         SCOPED_TRACE(fall.wo);

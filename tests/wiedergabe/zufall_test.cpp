@@ -9,8 +9,8 @@
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/hand.hpp"
 #include "wiedergabe/buehne.hpp"
-#include "wiedergabe/liedautomatik.hpp"
 #include "wiedergabe/wiedergabebereich.hpp"
+#include "wiedergabe/zufall/liedautomatik.hpp"
 
 namespace tonkartei {
 namespace {

@@ -325,7 +325,8 @@ bool Dateisystem_Linux::gleiches_Laufwerk(const Text& a, const Text& b) {
 }
 
 bool Dateisystem_Linux::gleiche_Datei(const Text& a, const Text& b) {
-    struct stat eine {}, andere {};
+    struct stat eine {
+    }, andere{};
     Text erster = voll(a), zweiter = voll(b);
     return ansehen(erster, eine, false) == 0 && ansehen(zweiter, andere, false) == 0 && S_ISREG(eine.st_mode) &&
            eine.st_dev == andere.st_dev && eine.st_ino == andere.st_ino;

@@ -1,0 +1,63 @@
+// The dialog that maps the categories of another collection to those of the open one, before its songs are entered.
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "datenbank/modell.hpp"
+#include "lieder/hinzufuegen/uebernahme_auftrag.hpp"
+#include "oberflaeche/elemente.hpp"
+#include "oberflaeche/fenster.hpp"
+#include "oberflaeche/listen.hpp"
+
+namespace tonkartei {
+
+class DBadd_Kategorien : public Fenster {
+public:
+    DBadd_Kategorien(Ansicht& ansicht, const Modell& modell);
+
+    Schriftfeld Liste_Text{*this, "Liste_Text", "&Kategorien der anderen Datenbank:"};
+    Listenfeld Liste{*this, "Liste"};
+    Schriftfeld neue_Kategorie_Text{*this, "neue_Kategorie_Text", "&neue Kategorie:"};
+    Auswahlfeld neue_Kategorie{*this, "neue_Kategorie"};
+    Knopf Kategorie_Edit{*this, "Kategorie_Edit", "Kategorien &bearbeiten..."};
+    Knopf Ok{*this, "Ok", "&OK"};
+
+    // Names of the other collection's categories, from 1; at most 20. Set by the source.
+    std::vector<Text> Quell_Kategorien;
+
+    // Opens the category editor on behalf of this window; without one its button is disabled. Its closing ends in
+    // nach_dem_Bearbeiten.
+    std::function<void()> Kategorien_bearbeiten;
+    void nach_dem_Bearbeiten();
+    // The editor gave the own categories other numbers (0: gone, then each song is asked for).
+    void umnummerieren(const std::function<Byte(Byte)>& neue);
+
+    // Waits until the mapping is done: the category of each of the `A` new songs, 0 where it is to be asked for. New song i
+    // takes that of line i of `Lieder`, although a file that was dropped on the way has no new song: all behind it get the
+    // category of their predecessor in the list. That is so on purpose.
+    std::vector<Byte> Init(Long A, const std::vector<Lied_Fund>& Lieder);
+    // The same without waiting: as the mapping stands, or by the names alone when it has not been asked for yet.
+    std::vector<Byte> ohne_Rückfrage(Long A, const std::vector<Lied_Fund>& Lieder);
+
+protected:
+    Knoten anordnung() override;
+    void beim_Entladen() override;
+
+private:
+    Byte gleichnamige(const Text& name) const;
+    void nach_Namen_zuordnen();
+    std::vector<Byte> je_Lied(Long A, const std::vector<Lied_Fund>& Lieder) const;
+    void Ziele_füllen();
+    void Zeilen_füllen();
+    Text Zeile_von(int quelle) const;
+    void Quelle_gewählt();
+    void Ziel_gewählt();
+
+    const Modell& modell_;
+    Feld<Byte, Kategorien_maximal> Kategorie_Zuordnung_;  // by number of the source category; 0 asks for each song
+    std::vector<Text> alte_Namen_;                        // of the own categories, before the editor was opened
+    bool füllt_ = false, fertig_ = true;
+};
+
+}  // namespace tonkartei

@@ -1,0 +1,45 @@
+// The commands of the main window that add songs: each source collects files and hands them to neue_Lieder_Liste.
+#pragma once
+
+#include "datenbank/einstellungen.hpp"
+#include "datenbank/modell.hpp"
+#include "lieder/hinzufuegen/neue_lieder_liste.hpp"
+#include "lieder/hinzufuegen/verzeichnis_add.hpp"
+#include "plattform/dateisystem.hpp"
+#include "plattform/kanaele.hpp"
+
+namespace tonkartei {
+
+class Lieder_hinzufügen {
+public:
+    Lieder_hinzufügen(const Modell& modell, Dateisystem& dateien, Kanäle& kanäle, Einstellungen& einstellungen,
+                      Verzeichnis_add& verzeichnis, neue_Lieder_Liste& liste)
+        : modell_(modell),
+          dateien_(dateien),
+          kanäle_(kanäle),
+          einstellungen_(einstellungen),
+          verzeichnis_(verzeichnis),
+          liste_(liste) {}
+
+    // All MP3 files of one folder. None of these does anything while no collection is open.
+    void Lieder_hinzufügen_Verzeichnis();
+    // The files that a list file names.
+    void Lieder_hinzufügen_Playlist();
+
+private:
+    void beginnen();
+    void aufgeben();
+    void Playlist_lesen(const Text& datei, int nummer);
+    void Verzeichnis_merken(const Text& pfad);
+    // Bytes of what can be opened as a file; -1 else.
+    std::int64_t Länge_wenn_lesbar(const Text& pfad) const;
+
+    const Modell& modell_;
+    Dateisystem& dateien_;
+    Kanäle& kanäle_;
+    Einstellungen& einstellungen_;
+    Verzeichnis_add& verzeichnis_;
+    neue_Lieder_Liste& liste_;
+};
+
+}  // namespace tonkartei

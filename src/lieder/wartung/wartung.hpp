@@ -1,0 +1,46 @@
+// The commands that mend and look through the whole collection: re-reading, twins, songs from a date on, the mean count.
+#pragma once
+
+#include <functional>
+
+#include "datenbank/modell.hpp"
+#include "lieder/wartung/datum_eingeben.hpp"
+#include "lieder/wartung/lieder_einlesen.hpp"
+#include "lieder/wartung/zwillinge.hpp"
+#include "liste/listenbereich.hpp"
+#include "oberflaeche/fortschritt.hpp"
+#include "plattform/dateisystem.hpp"
+
+namespace tonkartei {
+
+// "2,5": at most one decimal, without the 0 on either side of the comma, which stays: ",3", "3,", ",".
+Text Mittelwert_Text(double wert);
+
+class Wartung {
+public:
+    Wartung(Modell& modell, Dateisystem& dateien, Lieder_einlesen& einlesen, Fortschritts_Fenster& fortschritt,
+            Datum_eingeben& datum, Listenbereich& liste)
+        : modell_(modell), dateien_(dateien), einlesen_(einlesen), fortschritt_(fortschritt), datum_(datum), liste_(liste) {}
+
+    // Whether the box of a category is checked; the first stands for all. Connected by the composition.
+    std::function<bool(int Kategorie)> zeigt_Kategorie = [](int) { return true; };
+
+    void Lieder_Namen_einlesen();
+    void Liste_einlesen();
+    void doppelte_anzeigen(Zwillingsart Art);
+    void Durchschnitts_Anzahl();
+    void Lieder_ab_Datum();
+
+private:
+    void zeigen(const std::vector<long long>& nummern);
+    Ansicht& ansicht() const { return fortschritt_.ansicht(); }
+
+    Modell& modell_;
+    Dateisystem& dateien_;
+    Lieder_einlesen& einlesen_;
+    Fortschritts_Fenster& fortschritt_;
+    Datum_eingeben& datum_;
+    Listenbereich& liste_;
+};
+
+}  // namespace tonkartei

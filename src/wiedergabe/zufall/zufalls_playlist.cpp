@@ -1,0 +1,58 @@
+#include "wiedergabe/zufall/zufalls_playlist.hpp"
+
+#include <cmath>
+
+#include "datenbank/einstellungen.hpp"
+#include "datenbank/modell.hpp"
+#include "liste/listenbereich.hpp"
+#include "oberflaeche/ansicht.hpp"
+#include "plattform/rechner.hpp"
+#include "wiedergabe/zufall/zufallsliste.hpp"
+
+namespace tonkartei {
+namespace {
+
+constexpr const char* Titel = "Random-MP3-Playlist";
+
+}  // namespace
+
+Zufalls_Playlist::Zufalls_Playlist(Modell& modell, const Einstellungen& einstellungen, Listenbereich& lieder,
+                                   Rechner& rechner, Ansicht& ansicht)
+    : modell_(modell), einstellungen_(einstellungen), lieder_(lieder), rechner_(rechner), ansicht_(ansicht) {}
+
+Long Zufalls_Playlist::Menge_erfragen(int vorhanden) {
+    const double menge =
+        std::nearbyint(Zahlwert(ansicht_.eingeben("Wieviel Lieder sollen in die Playlist?", Titel, Zahltext(vorhanden))));
+    if (menge < 1) return 0;
+    if (menge <= vorhanden) return gerundet(menge);
+    modell_.Meldung = "Es sind nur " + Zahltext(vorhanden) + " Lieder in der Liste vorhanden!";
+    ansicht_.informieren(Titel, modell_.Meldung);
+    return vorhanden;
+}
+
+void Zufalls_Playlist::erstellen() {
+    Zufallsliste liste;
+    for (const auto& lied : lieder_.Lieder_im_Blick()) liste.hinzufügen(modell_.Lieder[lied.Nr].Anzahl, lied.Nr);
+    if (liste.leer()) return;
+    liste.sortieren();
+    const Long Menge = Menge_erfragen(liste.Anzahl());
+    if (Menge < 1) return;
+    modell_.Meldung =
+        "Soll die Liste erst in den internen Playlist-Editor (Ja) "
+        "oder soll die Playlist gleich mit Windamp gestartet werden (Nein)?";
+    const bool in_den_Editor = ansicht_.fragen(Titel, modell_.Meldung);
+    if (in_den_Editor) Playlist_leeren();
+    std::vector<Long> nummern;
+    for (Long i = 1; i <= Menge; ++i) {
+        // The share is one of what is left.
+        const int Index = liste.ziehe(einstellungen_.Random_Einstellung, rechner_.Zufallszahl());
+        nummern.push_back(liste.letztes_Feld(Index));
+        liste.entfernen(Index);
+    }
+    if (in_den_Editor)
+        in_Playlist(nummern);
+    else
+        Liste_starten(nummern);
+}
+
+}  // namespace tonkartei
