@@ -4,18 +4,26 @@
 #include <utility>
 
 #include "oberflaeche/ansicht.hpp"
+#include "oberflaeche/fortschritts_ende.hpp"
 #include "wiedergabe/winamp/winamp_starter.hpp"
 
 namespace tonkartei {
 
-std::vector<Kategorie_Unterschied> Kategorien_vergleichen(const Bestand& eigene, const std::vector<Quell_Lied>& quelle) {
+std::vector<Kategorie_Unterschied> Kategorien_vergleichen(const Bestand& eigene, const Bestand& quelle,
+ Fortschritts_Fenster& fortschritt) {
     std::map<std::pair<std::string_view, std::string_view>, Byte> erste;
-    for (const Quell_Lied& lied : quelle) erste.try_emplace({lied.Titel, lied.Artist}, lied.Kategorie);
+    for (Long nr = 1; nr <= quelle.Anzahl_Lieder; ++nr) {
+        const Lied& lied = quelle.Lieder[nr];
+        erste.try_emplace({lied.Titel, lied.Artist}, lied.Kategorie);
+    }
+    const Fortschritts_Ende ende(fortschritt);
+    fortschritt.Text_setzen("Kategorien vergleichen...");
     std::vector<Kategorie_Unterschied> unterschiede;
     for (Long nr = 1; nr <= eigene.Anzahl_Lieder; ++nr) {
         const Lied& lied = eigene.Lieder[nr];
         const auto dort = erste.find({lied.Titel, lied.Artist});
         if (dort != erste.end() && dort->second != lied.Kategorie) unterschiede.push_back({nr, dort->second});
+        fortschritt.anzeigen(Prozent(nr, eigene.Anzahl_Lieder));
     }
     return unterschiede;
 }

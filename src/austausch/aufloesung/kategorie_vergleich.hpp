@@ -10,13 +10,8 @@
 
 namespace tonkartei {
 
+class Fortschritts_Fenster;
 class WinAmp_Starter;
-
-// What a comparison asks of a song of the other collection.
-struct Quell_Lied {
-    Text Artist, Titel;
-    Byte Kategorie = 0;
-};
 
 // A song of the own collection whose category differs from that of its counterpart.
 struct Kategorie_Unterschied {
@@ -25,7 +20,8 @@ struct Kategorie_Unterschied {
 };
 
 // Own songs in the order of their numbers; the counterpart of each is the first source song of exactly its title and artist.
-std::vector<Kategorie_Unterschied> Kategorien_vergleichen(const Bestand& eigene, const std::vector<Quell_Lied>& quelle);
+std::vector<Kategorie_Unterschied> Kategorien_vergleichen(const Bestand& eigene, const Bestand& quelle,
+ Fortschritts_Fenster& fortschritt);
 
 class Kategorie_vergleich : public Fenster {
 public:

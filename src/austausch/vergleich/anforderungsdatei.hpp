@@ -1,0 +1,35 @@
+// *.MAD: the numbers of the songs that another collector asks for.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "grundlagen/text.hpp"
+#include "grundlagen/zahl.hpp"
+
+namespace tonkartei {
+
+class Ansicht;
+class Kanäle;
+struct Modell;
+
+inline constexpr const char* Anforderungsdatei_Filter = "Datenbank-Anforderungsdatei (*.MAD)|*.MAD| Alle Dateien (*.*) |*.*";
+
+class Anforderungsdatei {
+public:
+    Anforderungsdatei(const Modell& modell, Kanäle& kanäle, Ansicht& ansicht)
+        : modell_(modell), kanäle_(kanäle), ansicht_(ansicht) {}
+
+    // Each number as text, in the order given. Dateifehler.
+    void schreiben(const Text& Datei, const std::vector<Text>& Nummern);
+    // The numbers as the file gives them. None when there are none, or when the file is not what it should be, which the
+    // user was told.
+    std::vector<Long> lesen(const Text& Datei);
+
+private:
+    const Modell& modell_;
+    Kanäle& kanäle_;
+    Ansicht& ansicht_;
+};
+
+}  // namespace tonkartei
