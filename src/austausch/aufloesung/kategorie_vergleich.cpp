@@ -10,7 +10,7 @@
 namespace tonkartei {
 
 std::vector<Kategorie_Unterschied> Kategorien_vergleichen(const Bestand& eigene, const Bestand& quelle,
- Fortschritts_Fenster& fortschritt) {
+                                                          Fortschritts_Fenster& fortschritt) {
     std::map<std::pair<std::string_view, std::string_view>, Byte> erste;
     for (Long nr = 1; nr <= quelle.Anzahl_Lieder; ++nr) {
         const Lied& lied = quelle.Lieder[nr];

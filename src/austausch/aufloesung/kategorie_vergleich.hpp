@@ -21,7 +21,7 @@ struct Kategorie_Unterschied {
 
 // Own songs in the order of their numbers; the counterpart of each is the first source song of exactly its title and artist.
 std::vector<Kategorie_Unterschied> Kategorien_vergleichen(const Bestand& eigene, const Bestand& quelle,
- Fortschritts_Fenster& fortschritt);
+                                                          Fortschritts_Fenster& fortschritt);
 
 class Kategorie_vergleich : public Fenster {
 public:

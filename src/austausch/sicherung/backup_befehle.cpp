@@ -22,30 +22,31 @@ constexpr const char* Titel_erweitern = "Backup-Verzeichnis erweitern";
 void Backup_Befehle::Backup_Verzeichnis_erstellen() {
     if (!modell_.Datenbank_offen) return;
     if (verzeichnis_.vorhanden()) {
-        fortschritt_.ansicht().informieren(Titel_erstellen, "Es existiert bereits ein Backup-Verzeichnis bei dieser Datenbank!");
+        fortschritt_.ansicht().informieren(Titel_erstellen,
+                                           "Es existiert bereits ein Backup-Verzeichnis bei dieser Datenbank!");
         return;
     }
     if (!fortschritt_.ansicht().fragen(Titel_erstellen,
-                         "Das Backup-Verzeichnis dient zum vereinfachen zukünftiger Backups, "
-                         "wenn das Backup auf eine CD gebrannt wird." +
-                             Text(CRCR) +
-                             "Es wird ein Verzeichnis der bereits auf CD gesicherten "
-                             "MP3-Dateien erstellt, damit beim nächsten Backup nicht wieder erst alle "
-                             "CD's eingelegt werden müssen." +
-                             Text(CRCR) + "Wollen sie ein solches Backup-Verzeichnis erstellen?"))
+                                       "Das Backup-Verzeichnis dient zum vereinfachen zukünftiger Backups, "
+                                       "wenn das Backup auf eine CD gebrannt wird." +
+                                           Text(CRCR) +
+                                           "Es wird ein Verzeichnis der bereits auf CD gesicherten "
+                                           "MP3-Dateien erstellt, damit beim nächsten Backup nicht wieder erst alle "
+                                           "CD's eingelegt werden müssen." +
+                                           Text(CRCR) + "Wollen sie ein solches Backup-Verzeichnis erstellen?"))
         return;
     verzeichnis_.Einträge.clear();
     if (!verzeichnis_.Backup_Verzeichnis_schreiben()) return;
     if (fortschritt_.ansicht().fragen(Titel_erstellen, "Das Backup-Verzeichnis wurde erfolgreich angelegt." + Text(CRCR) +
-                                             "Wollen sie gleich ein Backup darin aufnehmen?"))
+                                                           "Wollen sie gleich ein Backup darin aufnehmen?"))
         Backup_Verzeichnis_erweitern();
 }
 
 void Backup_Befehle::Backup_Verzeichnis_erweitern() {
     if (!modell_.Datenbank_offen || !verzeichnis_.Backup_Verzeichnis_lesen()) return;
     fortschritt_.ansicht().informieren(Titel_erweitern,
-                         "Bitte geben sie das Verzeichnis an, wo sich das bereits fertige Backup befindet, "
-                         "mit dem das Backup-Verzeichnis erweitert werden soll.");
+                                       "Bitte geben sie das Verzeichnis an, wo sich das bereits fertige Backup befindet, "
+                                       "mit dem das Backup-Verzeichnis erweitert werden soll.");
     const Text ordner = mit_Trenner(fortschritt_.ansicht().Verzeichnis_wählen("Verzeichnis des alten Backups:"));
     if (ordner.empty()) return;
     if (!quelle_.vorhanden(ordner)) {
@@ -56,9 +57,9 @@ void Backup_Befehle::Backup_Verzeichnis_erweitern() {
     if (!backup) return;
     const Long neue = aufnehmen(*backup);
     if (!verzeichnis_.Backup_Verzeichnis_schreiben()) return;
-    fortschritt_.ansicht().informieren(Titel_erweitern, Text("Es wurde") +
-                                              (neue == 1 ? Text(" 1 Lied") : "n " + Zahltext(neue) + " Lieder") +
-                                              " zum Backup-Verzeichnis hinzugefügt.");
+    fortschritt_.ansicht().informieren(Titel_erweitern,
+                                       Text("Es wurde") + (neue == 1 ? Text(" 1 Lied") : "n " + Zahltext(neue) + " Lieder") +
+                                           " zum Backup-Verzeichnis hinzugefügt.");
 }
 
 // How many of its songs are new to the directory.
@@ -75,7 +76,8 @@ Long Backup_Befehle::aufnehmen(const Bestand& backup) {
         if (bekannt.contains({lied.Artist, lied.Titel})) continue;
         if (einträge.size() == Backup_Verzeichnis_maximal) {
             fortschritt_.ansicht().informieren(Titel_erweitern, "Das Backup-Verzeichnis ist voll! Es können maximal " +
-                                                      Zahltext(Backup_Verzeichnis_maximal) + " Lieder aufgenommen werden!");
+                                                                    Zahltext(Backup_Verzeichnis_maximal) +
+                                                                    " Lieder aufgenommen werden!");
             break;
         }
         bekannt.emplace(lied.Artist, lied.Titel);
@@ -91,11 +93,11 @@ void Backup_Befehle::Backup_Warnung_ändern() {
     for (Long nr = 1; nr <= modell_.Anzahl_Lieder; ++nr) KByte += modell_.Lieder[nr].Größe;
     const Long G = gerundet(KByte / 1024);
     const auto MB = [](Long wert) { return Zahltext(wert) + " MB"; };
-    const Text antwort = fortschritt_.ansicht().eingeben("Ab wieviel MB soll die nächste Backup-Warnung angezeigt werden?" + Text(CRCR) +
-                                               "0= Backup-Warnung aus" + Text(CR) + "aktuelle Datenbankgröße: " + MB(G) +
-                                               Text(CR) + "aktuelle Datenbankgröße + 650 MB: " + MB(G + 650) + Text(CR) +
-                                               "aktuelle Datenbankgröße + 700 MB: " + MB(G + 700),
-                                           "Backup-Warnung ändern", Zahltext(modell_.Backup_Warnungs_Grenze));
+    const Text antwort = fortschritt_.ansicht().eingeben(
+        "Ab wieviel MB soll die nächste Backup-Warnung angezeigt werden?" + Text(CRCR) + "0= Backup-Warnung aus" + Text(CR) +
+            "aktuelle Datenbankgröße: " + MB(G) + Text(CR) + "aktuelle Datenbankgröße + 650 MB: " + MB(G + 650) + Text(CR) +
+            "aktuelle Datenbankgröße + 700 MB: " + MB(G + 700),
+        "Backup-Warnung ändern", Zahltext(modell_.Backup_Warnungs_Grenze));
     if (antwort.empty()) return;
     // What no limit can hold is as good as not understood: the old one stays.
     const double grenze = Zahlwert(antwort);

@@ -11,7 +11,8 @@ class Quell_Datenbank;
 
 class Backup_Befehle {
 public:
-    Backup_Befehle(Modell& modell, Fortschritts_Fenster& fortschritt, Backup_Verzeichnis& verzeichnis, Quell_Datenbank& quelle)
+    Backup_Befehle(Modell& modell, Fortschritts_Fenster& fortschritt, Backup_Verzeichnis& verzeichnis,
+                   Quell_Datenbank& quelle)
         : modell_(modell), fortschritt_(fortschritt), verzeichnis_(verzeichnis), quelle_(quelle) {}
 
     void Backup_Verzeichnis_erstellen();

@@ -2,12 +2,14 @@
 
 #include "austausch/sicherung/auszugsdatenbank.hpp"
 #include "austausch/sicherung/portionsdatei.hpp"
+#include "datenbank/modell.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "plattform/dateisystem.hpp"
 
 namespace tonkartei {
 
 void Backup_Datenbank::Menü_Backup_anlegen() {
+    if (!modell_.Datenbank_offen) return;
     ansicht_.informieren("Backup-Datenbank erstellen", "Bitte geben sie an, wo sich die Backup-Portionsdatei befindet.");
     Dateiwahl wahl;
     wahl.filter = "Backup-Portionsdatei (*.MBP)|*.MBP| Alle Dateien (*.*) |*.*";

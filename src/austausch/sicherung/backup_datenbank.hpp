@@ -9,11 +9,13 @@ class Ansicht;
 class Auszugsdatenbank;
 class Dateisystem;
 class Portionsdatei;
+struct Modell;
 
 class Backup_Datenbank {
 public:
-    Backup_Datenbank(Ansicht& ansicht, Dateisystem& dateien, Portionsdatei& datei, Auszugsdatenbank& auszug)
-        : ansicht_(ansicht), dateien_(dateien), datei_(datei), auszug_(auszug) {}
+    Backup_Datenbank(const Modell& modell, Ansicht& ansicht, Dateisystem& dateien, Portionsdatei& datei,
+                     Auszugsdatenbank& auszug)
+        : modell_(modell), ansicht_(ansicht), dateien_(dateien), datei_(datei), auszug_(auszug) {}
 
     // The menu's command: asks for the file.
     void Menü_Backup_anlegen();
@@ -21,6 +23,7 @@ public:
     void Backup_Datenbank_anlegen(const Text& Datei);
 
 private:
+    const Modell& modell_;
     Ansicht& ansicht_;
     Dateisystem& dateien_;
     Portionsdatei& datei_;
