@@ -70,6 +70,11 @@ void DBadd_Kategorien::umnummerieren(const std::function<Byte(Byte)>& neue) {
 }
 
 // What has no target takes a category of its name that has come up meanwhile.
+void DBadd_Kategorien::eigene_als_Quelle() {
+    Quell_Kategorien.clear();
+    for (int k = 1; k <= modell_.Anzahl_Kategorien; ++k) Quell_Kategorien.push_back(modell_.Kategorien[k]);
+}
+
 void DBadd_Kategorien::nach_dem_Bearbeiten() {
     if (fertig_) return;  // closed from outside meanwhile
     const int gewählt = Liste.gewählt();

@@ -25,6 +25,8 @@ public:
 
     // Names of the other collection's categories, from 1; at most 20. Set by the source.
     std::vector<Text> Quell_Kategorien;
+    // The open collection is the source.
+    void eigene_als_Quelle();
 
     // Opens the category editor on behalf of this window; without one its button is disabled. Its closing ends in
     // nach_dem_Bearbeiten.

@@ -1,8 +1,6 @@
 // The commands that mend and look through the whole collection: re-reading, twins, songs from a date on, the mean count.
 #pragma once
 
-#include <functional>
-
 #include "datenbank/modell.hpp"
 #include "lieder/wartung/datum_eingeben.hpp"
 #include "lieder/wartung/lieder_einlesen.hpp"
@@ -21,9 +19,6 @@ public:
     Wartung(Modell& modell, Dateisystem& dateien, Lieder_einlesen& einlesen, Fortschritts_Fenster& fortschritt,
             Datum_eingeben& datum, Listenbereich& liste)
         : modell_(modell), dateien_(dateien), einlesen_(einlesen), fortschritt_(fortschritt), datum_(datum), liste_(liste) {}
-
-    // Whether the box of a category is checked; the first stands for all. Connected by the composition.
-    std::function<bool(int Kategorie)> zeigt_Kategorie = [](int) { return true; };
 
     void Lieder_Namen_einlesen();
     void Liste_einlesen();
