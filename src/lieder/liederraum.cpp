@@ -11,19 +11,17 @@ Liederraum::Liederraum(Datenbankraum& d, Albenraum& alben, Kategorienraum& kateg
                        Listenbereich& liste)
     : mp3(d.haus.plattform.Dateisystem),
       nachrücken(d.haus.modell, alben.datei, wiedergabe.ABR),
-      entfernen(d.haus.modell, d.haus.einstellungen, d.haus.plattform, d.haus.ansicht, nachrücken),
+      entfernen(d.haus, nachrücken, wiedergabe.Spieler),
       lücken(d.haus.modell, d.haus.plattform.Dateisystem, d.haus.plattform.Shell, d.haus.fortschritt, nachrücken),
       kopieren(d.haus.modell, d.haus.plattform.Shell, d.haus.fortschritt),
-      austauschen(d.haus.modell, d.haus.plattform, mp3, d.haus.ansicht, entfernen),
+      austauschen(d.haus, mp3, entfernen, kopieren),
       bearbeiten(d.haus.modell, mp3, d.haus.ansicht),
       anzahl(d.haus.modell, d.haus.ansicht),
       hinzufügen(d, mp3, alben, kategorien, wiedergabe),
       einlesen(d.haus.modell, mp3, d.haus.fortschritt),
       vergleichsbericht(d.haus.modell, d.haus.kanäle, d.haus.plattform.Dateisystem, mp3, d.haus.fortschritt),
       datum_eingeben(d.haus.ansicht, d.haus.plattform.Rechner),
-      wartung(d.haus.modell, d.haus.plattform.Dateisystem, einlesen, d.haus.fortschritt, datum_eingeben, liste) {
-    entfernen.Winamp_anhalten = [&wiedergabe] { wiedergabe.Spieler.für_Dateiarbeit_anhalten(); };
-    austauschen.Lied_kopieren = [this](Long nr) { kopieren.ausführen(nr); };
+      wartung(d.haus, einlesen, datum_eingeben, liste) {
     d.sitzung.Lieder_einlesen = [this] { einlesen.alle_Lieder_einlesen(); };
 }
 

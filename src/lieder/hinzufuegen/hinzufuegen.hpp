@@ -1,6 +1,7 @@
 // The adding of songs, put together: the sources, the window in which songs are chosen, the commit.
 #pragma once
 
+#include "lieder/hinzufuegen/begleiter.hpp"
 #include "lieder/hinzufuegen/dateien_uebernehmen.hpp"
 #include "lieder/hinzufuegen/datenbank_quelle.hpp"
 #include "lieder/hinzufuegen/db_add_start_kategorien.hpp"
@@ -10,8 +11,6 @@
 #include "lieder/hinzufuegen/lieder_uebernahme.hpp"
 #include "lieder/hinzufuegen/mp3_tag_aendern.hpp"
 #include "lieder/hinzufuegen/neue_lieder_liste.hpp"
-#include "lieder/hinzufuegen/neue_playlist.hpp"
-#include "lieder/hinzufuegen/neues_album.hpp"
 #include "lieder/hinzufuegen/verzeichnis_add.hpp"
 
 namespace tonkartei {
@@ -28,9 +27,8 @@ struct Hinzufügen {
     Hinzufügen& operator=(const Hinzufügen&) = delete;
 
     MP3_Tag_ändern tag_ändern;
-    Neues_Album neues_album;
-    Neue_Playlist neue_playlist;
     DBadd_Kategorien zuordnung;
+    Begleiter begleiter;
     Dateien_übernehmen übernehmen;
     Lieder_eintragen eintragen;
     Lieder_Übernahme übernahme;
