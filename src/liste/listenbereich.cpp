@@ -129,7 +129,7 @@ void Listenbereich::aktualisiere_Liste() {
 void Listenbereich::erstelle_Lieder_Liste() {
     const Long gemerkt = Liste.Anzahl() > 0 && Liste.gewählt() >= 0 ? Lied_Nr(Liste.gewählt()) : 0;
     const auto nummern = ordnung_.gefilterte_Lieder(modell_, sortierung_, Schnellsuche.text(),
-                                                    [this](int k) { return kategorien_.zeige_Kategorie(k).wert(); });
+                                                    [this](int k) { return zeigt_Kategorie(k); });
     Nr_Liste_setzen(nummern);
     if (!nummern.empty()) {
         erstelle_Liste_von_Nr_Liste();
@@ -228,6 +228,16 @@ Long Listenbereich::gewähltes_Lied() const {
     if (Datenbank_Modus.wert() == 1) return Album_Lied_Nr();
     return Liste.gewählt() >= 0 ? Lied_Nr(Liste.gewählt()) : 0;
 }
+
+Long Listenbereich::gemeintes_Lied() const {
+    if (!modell_.Datenbank_offen) return 0;
+    const Long gewählt = gewähltes_Lied();
+    const Long nr = gewählt > 0 ? gewählt : angezeigtes_Lied_;
+    // A special list may hold numbers of a collection that is no longer open.
+    return nr <= modell_.Anzahl_Lieder ? nr : 0;
+}
+
+bool Listenbereich::zeigt_Kategorie(int k) const { return kategorien_.zeige_Kategorie(k).wert(); }
 
 std::vector<Long> Listenbereich::Lieder_in_Liste() const {
     std::vector<Long> nummern;

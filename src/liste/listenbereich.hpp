@@ -67,6 +67,10 @@ public:
     void wähle_Lied(Long Nr);
     // Number of the song whose details are shown; 0 none.
     Long angezeigtes_Lied() const noexcept { return angezeigtes_Lied_; }
+    // The song that a command means: the chosen one of the present tab, else the one whose details are shown; 0 none.
+    Long gemeintes_Lied() const;
+    // Whether the box of a category is checked; the first stands for all.
+    bool zeigt_Kategorie(int k) const;
     void zeige_Lied(Long Nr);
     // A count was raised: the label follows where the chosen line is Nr - 1. That the line is compared with the number, not
     // with the song on it, is meant: the label is refreshed only where the two happen to agree.

@@ -5,6 +5,7 @@
 #include "oberflaeche/ansicht.hpp"
 #include "playlist/playlist.hpp"
 #include "programm/tonkartei.hpp"
+#include "wiedergabe/winamp/winamp.hpp"
 
 namespace tonkartei {
 namespace {
@@ -24,11 +25,12 @@ Menüzeile Strich(int n) { return {"Tray_Strich" + Zahltext(n), "-", ohne_Index,
 
 }  // namespace
 
-Kontextmenüs::Kontextmenüs(Ansicht& ansicht, const Modell& modell, Tonkartei& haupt, Playlist& playlist)
-    : Fenster(ansicht, "Kontextmenüs", "Kontextmenüs"),
+Kontextmenüs::Kontextmenüs(const Modell& modell, Tonkartei& haupt, Playlist& playlist, WinAmp& spieler)
+    : Fenster(haupt.ansicht(), "Kontextmenüs", "Kontextmenüs"),
       modell_(modell),
       haupt_(haupt),
       playlist_(playlist),
+      spieler_(spieler),
       menü_(*this, Tabelle()) {
     Menü_setzen(menü_);
     haupt_.Kategorien.Tabelle_geändert.verbinden([this] { nachführen(); });
@@ -42,19 +44,17 @@ Kontextmenüs::Kontextmenüs(Ansicht& ansicht, const Modell& modell, Tonkartei& 
 
 // An entry that runs an entry of the menu bar.
 Menüzeile Kontextmenüs::wie(const Text& name, const Text& text) const {
-    Menüpunkt& vorbild = haupt_.Hauptmenü()(name);
+    const Hauptmenü& leiste = haupt_.Menüleiste;
     return {name,
-            text.empty() ? vorbild.beschriftung() : text,
-            vorbild.Index(),
-            [&vorbild] {
-                if (vorbild.aktiv()) vorbild.von_Hand_klicken();
-            },
+            text.empty() ? leiste.Leiste()(name).beschriftung() : text,
+            ohne_Index,
+            [&leiste, name] { leiste.ausführen(name); },
             {}};
 }
 
 std::vector<Menüzeile> Kontextmenüs::Tabelle() {
     std::vector<Menüzeile> lied;
-    for (const auto& eintrag : haupt_.Hauptmenü()("UMP_aktuelles").einträge())
+    for (const auto& eintrag : haupt_.Menüleiste.Leiste()("UMP_aktuelles").einträge())
         lied.push_back(eintrag->ist_Strich() ? Menüzeile{eintrag->Name(), "-", ohne_Index, nullptr, {}}
                                              : wie(eintrag->Name()));
 
@@ -73,7 +73,7 @@ std::vector<Menüzeile> Kontextmenüs::Tabelle() {
         wie_Klick("Random_Autoplay", "&Random-Autoplay", wiedergabe.Autoplay),
         wie("Menü_starte_Album", "&Album starten"),
         Strich(2),
-        {"Winamp_Pause", "Winamp &Pause/Weiter", ohne_Index, [this] { Winamp_Pause(); }, {}},
+        {"Winamp_Pause", "Winamp &Pause/Weiter", ohne_Index, [this] { spieler_.Befehl(WinAmp_Code_Pause); }, {}},
         wie("Menü_WinAmp_verstecken", "WinAmp &verstecken"),
         Strich(3),
         {"Tray_Kategorien", "&Kategorien...", ohne_Index, nullptr, std::move(kategorien)},
@@ -121,7 +121,7 @@ void Kontextmenüs::nachführen() {
         for (const auto& eintrag : menü->einträge())
             if (const Element* vorbild = Vorbild(eintrag->Name())) eintrag->aktiv(vorbild->aktiv());
     menü_("Random_Autoplay").haken(haupt_.Wiedergabe.Autoplay.wert());
-    menü_("Menü_WinAmp_verstecken").haken(haupt_.Hauptmenü()("Menü_WinAmp_verstecken").haken());
+    menü_("Menü_WinAmp_verstecken").haken(haupt_.Menüleiste.Leiste()("Menü_WinAmp_verstecken").haken());
 }
 
 void Kontextmenüs::Lied_zeigen(int zeile) {

@@ -1,0 +1,31 @@
+// What crosses the rooms: the main window's areas and menu entries on one side, what a subsystem does on the other. One
+// function a subsystem, called once while the program is put together; the parts outlive all that is connected here.
+#pragma once
+
+namespace tonkartei {
+
+class Kategorie_Wahl;
+class Lied_Befehle;
+class Playlist;
+class Sitzung;
+class Tonkartei;
+struct Albenraum;
+struct Datenbankraum;
+struct Haus;
+struct Hinzufügen;
+struct Kategorienraum;
+struct Liedautomatik;
+struct Liederraum;
+struct Wiedergabe;
+
+// The window's own commands and settings.
+void Fenster_anschließen(Haus& haus, Tonkartei& fenster);
+void Datenbank_anschließen(Datenbankraum& datenbank, Tonkartei& fenster);
+void Alben_anschließen(Albenraum& alben, Wiedergabe& wiedergabe, Liedautomatik& automatik, Tonkartei& fenster);
+void Kategorien_anschließen(Kategorienraum& kategorien, const Haus& haus, Wiedergabe& wiedergabe, Tonkartei& fenster);
+void Wiedergabe_anschließen(Wiedergabe& wiedergabe, Liedautomatik& automatik, Haus& haus, Tonkartei& fenster);
+void Playlist_anschließen(Playlist& playlist, Wiedergabe& wiedergabe, Liedautomatik& automatik, Sitzung& sitzung,
+                          Hinzufügen& hinzufügen);
+void Lieder_anschließen(Liederraum& lieder, Lied_Befehle& befehle, const Haus& haus, Playlist& playlist, Tonkartei& fenster);
+
+}  // namespace tonkartei
