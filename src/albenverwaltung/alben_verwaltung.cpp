@@ -294,10 +294,10 @@ void Alben_Verwaltung::neuer_Titel() {
 }
 
 // The titles have become more: the range follows, and that one is the current title; 0 leaves all as it is.
-void Alben_Verwaltung::neue_Titel_zeigen(int Titel) {
-    if (Titel == 0) return;
+void Alben_Verwaltung::neue_Titel_zeigen(int titel) {
+    if (titel == 0) return;
     aktualisieren();
-    Titel_Tabelle.Titel_wählen(Titel);
+    Titel_Tabelle.Titel_wählen(titel);
 }
 
 void Alben_Verwaltung::alle_aus_Datenbank_hinzufügen() {

@@ -98,7 +98,7 @@ private:
     void Zeit_geändert();
     void verschieben(int stufe);
     void neuer_Titel();
-    void neue_Titel_zeigen(int Titel);
+    void neue_Titel_zeigen(int titel);
 
     Modell& modell_;
     Einstellungen& einstellungen_;

@@ -10,6 +10,7 @@ namespace tonkartei {
 
 class Album_Start;
 class Ansicht;
+class Element;
 class Fortschritts_Fenster;
 class Listenbereich;
 class Playlist;

@@ -34,7 +34,7 @@ Long Titel_verknüpfen(Album& album, const Bestand& bestand, const std::function
 }
 
 Zeit Zeit_aus_Eingabe(std::string_view text) {
-    constexpr double höchstens = 1e6;  // far beyond the hour, and small enough for whole numbers
+    static constexpr double höchstens = 1e6;  // far beyond the hour, and small enough for whole numbers
     const auto zahl = [](std::string_view teil) { return std::clamp(std::nearbyint(Zahlwert(teil)), 0.0, höchstens); };
     const std::size_t doppelpunkt = text.find(':');
     double minuten = zahl(text.substr(0, doppelpunkt));

@@ -96,10 +96,10 @@ bool Album_importieren::vorhanden(const Album& album) const {
 // The number of the new album; 0 when there is one of that name, or no room. The links come along as they are, though they
 // mean songs of the other collection.
 Long Album_importieren::übernehmen(Long Nr) {
-    const Album& album = alben_.fremde.Alben[Nr];
+    Album& album = alben_.fremde.Alben[Nr];
     if (vorhanden(album)) return 0;
     const Long neu = alben_.Album_neu();
-    if (neu > 0) alben_.eigene.Alben[neu] = album;
+    if (neu > 0) alben_.eigene.Alben[neu] = std::move(album);
     return neu;
 }
 
