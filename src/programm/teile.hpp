@@ -38,11 +38,10 @@ private:
     Datenbankraum datenbank_{haus_};
     Albenraum alben_{datenbank_};
     Kategorienraum kategorien_{haus_};
-    Wiedergabe wiedergabe_{haus_.modell, haus_.einstellungen, haus_.plattform, haus_.kanäle, haus_.ansicht};
-    Tonkartei fenster_{haus_, alben_.alben.eigene, wiedergabe_.Spieler};
-    Liedautomatik automatik_{haus_.modell, haus_.einstellungen, haus_.plattform,     haus_.ansicht,
-                             wiedergabe_,  fenster_.Lieder,     fenster_.Kategorien, fenster_.Wiedergabe};
-    Playlist playlist_{haus_.ansicht, haus_.modell, haus_.einstellungen, haus_.plattform.Dateisystem, datenbank_.m3u};
+    Wiedergabe wiedergabe_{haus_};
+    Tonkartei fenster_{haus_, alben_, kategorien_, wiedergabe_.Spieler};
+    Liedautomatik automatik_{haus_, alben_.start, wiedergabe_, fenster_.bereiche()};
+    Playlist playlist_{haus_, datenbank_.m3u, fenster_.Lieder, wiedergabe_.Starter};
     Liederraum lieder_{datenbank_, alben_, kategorien_, wiedergabe_, fenster_.Lieder};
 
     Splash splash_{datenbank_};
