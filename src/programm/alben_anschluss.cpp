@@ -1,6 +1,5 @@
 #include "alben/albenraum.hpp"
 #include "programm/anschluesse.hpp"
-#include "programm/tonkartei.hpp"
 #include "wiedergabe/wiedergabe.hpp"
 
 namespace tonkartei {

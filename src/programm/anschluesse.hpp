@@ -2,20 +2,20 @@
 // function a subsystem, called once while the program is put together; the parts outlive all that is connected here.
 #pragma once
 
+#include "datenbank/haus.hpp"
+#include "programm/tonkartei.hpp"
+
 namespace tonkartei {
 
 class Kategorie_Wahl;
 class Lied_Befehle;
 class Playlist;
 class Sitzung;
-class Tonkartei;
 struct Albenraum;
 struct Datenbankraum;
-struct Haus;
 struct Hinzufügen;
 struct Liedautomatik;
 struct Liederraum;
-struct Modell;
 struct Wiedergabe;
 
 // The window's own commands and settings.

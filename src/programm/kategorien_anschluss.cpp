@@ -1,6 +1,5 @@
 #include "kategorien/kategorie_wahl.hpp"
 #include "programm/anschluesse.hpp"
-#include "programm/tonkartei.hpp"
 #include "wiedergabe/wiedergabe.hpp"
 
 namespace tonkartei {

@@ -1,11 +1,9 @@
 #include "programm/playlist_anschluss.hpp"
 
-#include "datenbank/haus.hpp"
 #include "datenbank/sitzung.hpp"
 #include "lieder/hinzufuegen/hinzufuegen.hpp"
 #include "playlist/playlist.hpp"
 #include "programm/anschluesse.hpp"
-#include "programm/tonkartei.hpp"
 #include "wiedergabe/zufall/liedautomatik.hpp"
 
 namespace tonkartei {

@@ -1,7 +1,6 @@
 #include "programm/programm.hpp"
 
 #include "datenbank/version.hpp"
-#include "oberflaeche/ansicht.hpp"
 #include "programm/anschluesse.hpp"
 #include "programm/teile.hpp"
 

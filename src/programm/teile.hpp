@@ -49,7 +49,7 @@ private:
     Programmeinstellungen einstellungen_{haus_, datenbank_.registry, fenster_};
     Lied_Befehle lied_befehle_{haus_, lieder_, kategorien_.wahl, fenster_};
     Playlist_Anschluss playlist_anschluss_{haus_, playlist_, fenster_};
-    Kontextmenüs kontextmenüs_{haus_.modell, fenster_, playlist_, wiedergabe_.Spieler};
+    Kontextmenüs kontextmenüs_{haus_.modell, fenster_, playlist_, wiedergabe_.Spieler, automatik_.Start};
     Mausmarkierung markierung_{fenster_, haus_.einstellungen, fenster_.Fernsteuerung};
 };
 
