@@ -60,8 +60,9 @@ bool Info_Datei::Datei_schreiben(bool Fortschritt_zeigen) {
         return true;
     } catch (const Dateifehler&) {
         // The file stays open and the copy where it is: nothing is rolled back, the user is told to look after it.
-        ansicht_.informieren(Programmtitel, "Es ist ein Fehler beim Schreiben der Datenbank-Informations-Datei aufgetreten!" +
-                                                Text(CRCR) + "Eventuell ist der Datenträger schreibgeschützt?");
+        ansicht_.informieren(Programmtitel,
+                             "Es ist ein Fehler beim Schreiben der Datenbank-Informations-Datei aufgetreten!" + Text(CRCR) +
+                                 "Eventuell ist der Datenträger schreibgeschützt?");
         return false;
     }
 }

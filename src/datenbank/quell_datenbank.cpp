@@ -33,8 +33,7 @@ std::optional<Bestand> Quell_Datenbank::lesen(const Text& Ordner) {
         }
         haus_.kanäle.aufgeben(nummer);
     }
-    if (andere.konvertiert_in_Temp)
-        versuchen([&] { haus_.plattform.Dateisystem.löschen(andere.Temp_Info_Datei); });
+    if (andere.konvertiert_in_Temp) versuchen([&] { haus_.plattform.Dateisystem.löschen(andere.Temp_Info_Datei); });
     if (!gelesen) return std::nullopt;
     return std::move(static_cast<Bestand&>(andere));
 }

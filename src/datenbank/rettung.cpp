@@ -46,10 +46,11 @@ void Rettung::anbieten(Text& Datei) {
     gelesen_.clear();
     const Text pfad = modell_.Pfad(Rettung_Name);
     if (!dateien_.Datei_da(pfad)) return;
-    if (ansicht_.fragen("Datenbank öffnen", "Beim letzten Mal konnte die Datenbank nicht gespeichert werden. Ihr Stand "
-                                            "wurde in der Datei" +
-                                                Text(CRCR) + anzeigbar(pfad) + Text(CRCR) + "gerettet." + Text(CRCR) +
-                                                "Soll dieser Stand geladen werden?")) {
+    if (ansicht_.fragen("Datenbank öffnen",
+                        "Beim letzten Mal konnte die Datenbank nicht gespeichert werden. Ihr Stand "
+                        "wurde in der Datei" +
+                            Text(CRCR) + anzeigbar(pfad) + Text(CRCR) + "gerettet." + Text(CRCR) +
+                            "Soll dieser Stand geladen werden?")) {
         gelesen_ = Datei = pfad;
         return;
     }

@@ -40,12 +40,12 @@ bool Sitzung::Zugriff_erlaubt() {
     Text computer, benutzer;
     if (!zugriff_.lese_Zugriffsdatei(datei, zeitpunkt, computer, benutzer)) return false;
     const Text frage = "Die Datenbank " + in_Anführungszeichen(modell_.Datenbank_Verzeichnis) + " ist bereits geöffnet!" +
-                      Text(CRCR) + "Geöffnet am " + mittleres_Datum(zeitpunkt) + " um " + kurze_Uhrzeit(zeitpunkt) +
-                      " Uhr von " + in_Anführungszeichen(benutzer) + " auf dem Computer " + in_Anführungszeichen(computer) +
-                      "." + Text(CRCR) +
-                      "Die Datenbank sollte jetzt nur geöffnet werden, wenn der Rechner "
-                      "vorher abgestürzt ist, anonsten führt das zu Datenverlust!" +
-                      Text(CRCR) + "Wollen sie die Datenbank jetzt trotzdem öffnen?";
+                       Text(CRCR) + "Geöffnet am " + mittleres_Datum(zeitpunkt) + " um " + kurze_Uhrzeit(zeitpunkt) +
+                       " Uhr von " + in_Anführungszeichen(benutzer) + " auf dem Computer " + in_Anführungszeichen(computer) +
+                       "." + Text(CRCR) +
+                       "Die Datenbank sollte jetzt nur geöffnet werden, wenn der Rechner "
+                       "vorher abgestürzt ist, anonsten führt das zu Datenverlust!" +
+                       Text(CRCR) + "Wollen sie die Datenbank jetzt trotzdem öffnen?";
     return ansicht_.fragen(Titel_öffnen, frage);
 }
 
@@ -157,8 +157,7 @@ bool Sitzung::Datenbank_erstellen(bool fragen, bool Kategorien_übernehmen) {
 
 void Sitzung::speichern_von_Hand() {
     if (!modell_.Datenbank_offen) {
-        ansicht_.informieren(Titel_speichern,
-                             " Die Datenbank kann nicht gespeichert werden. Eventuell ist keine geöffnet?");
+        ansicht_.informieren(Titel_speichern, " Die Datenbank kann nicht gespeichert werden. Eventuell ist keine geöffnet?");
         return;
     }
     const Text erklärung =

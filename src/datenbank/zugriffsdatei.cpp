@@ -1,5 +1,6 @@
 #include "datenbank/zugriffsdatei.hpp"
 
+#include "datenbank/info_datei.hpp"
 #include "datenbank/info_koerper.hpp"
 #include "datenbank/version.hpp"
 #include "datenbank/zeitleser.hpp"

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <exception>
-#include <utility>
 #include <new>
+#include <utility>
 
 #include "oberflaeche/fenster.hpp"
 
