@@ -3,6 +3,7 @@
 
 #include "datenbank/einstellungen.hpp"
 #include "datenbank/modell.hpp"
+#include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fortschritt.hpp"
 #include "plattform/kanaele.hpp"
 #include "plattform/plattform.hpp"

@@ -2,8 +2,6 @@
 // song.
 #pragma once
 
-#include <functional>
-
 #include "datenbank/einstellungen.hpp"
 #include "datenbank/modell.hpp"
 #include "grundlagen/ereignis.hpp"
@@ -15,8 +13,11 @@
 
 namespace tonkartei {
 
+class Alben_Befehle;
 class Kategorienbereich;
 struct Albenbestand;
+struct Albenraum;
+struct Haus;
 
 // A song on a line of the list of the present tab.
 struct Listenlied {
@@ -26,8 +27,7 @@ struct Listenlied {
 
 class Listenbereich {
 public:
-    Listenbereich(Fenster& fenster, Modell& modell, const Einstellungen& einstellungen, const Albenbestand& alben,
-                  Kategorienbereich& kategorien);
+    Listenbereich(Fenster& fenster, Haus& haus, Albenraum& alben, Kategorienbereich& kategorien);
 
     Reiter Datenbank_Modus;  // 0 songs, 1 albums
     Schriftfeld sortieren_Text;
@@ -91,8 +91,6 @@ public:
     Ereignis<Long> Titel_ändern, Artist_ändern;  // a click on the field of the song that is shown
     // Return in the search: as the start button, which knows what to do without a song.
     Ereignis<> Start_gewünscht;
-    // Opens the album view; false: the tab falls back to the songs.
-    std::function<bool()> Alben_öffnen = [] { return false; };
 
 private:
     void erstelle_Lieder_Liste();
@@ -112,6 +110,7 @@ private:
     Modell& modell_;
     const Einstellungen& einstellungen_;
     const Albenbestand& alben_;
+    Alben_Befehle& albenbefehle_;
     Kategorienbereich& kategorien_;
     Liederordnung ordnung_;
     Sortierung sortierung_ = Sortierung::Artist;

@@ -2,18 +2,18 @@
 // function a subsystem, called once while the program is put together; the parts outlive all that is connected here.
 #pragma once
 
+#include "datenbank/haus.hpp"
+#include "programm/tonkartei.hpp"
+
 namespace tonkartei {
 
 class Kategorie_Wahl;
 class Lied_Befehle;
 class Playlist;
 class Sitzung;
-class Tonkartei;
 struct Albenraum;
 struct Datenbankraum;
-struct Haus;
 struct Hinzufügen;
-struct Kategorienraum;
 struct Liedautomatik;
 struct Liederraum;
 struct Wiedergabe;
@@ -21,11 +21,10 @@ struct Wiedergabe;
 // The window's own commands and settings.
 void Fenster_anschließen(Haus& haus, Tonkartei& fenster);
 void Datenbank_anschließen(Datenbankraum& datenbank, Tonkartei& fenster);
-void Alben_anschließen(Albenraum& alben, Wiedergabe& wiedergabe, Liedautomatik& automatik, Tonkartei& fenster);
-void Kategorien_anschließen(Kategorienraum& kategorien, const Haus& haus, Wiedergabe& wiedergabe, Tonkartei& fenster);
+void Alben_anschließen(Albenraum& alben, Wiedergabe& wiedergabe, Tonkartei& fenster);
+void Kategorien_anschließen(Kategorie_Wahl& wahl, const Modell& modell, Wiedergabe& wiedergabe, Tonkartei& fenster);
 void Wiedergabe_anschließen(Wiedergabe& wiedergabe, Liedautomatik& automatik, Haus& haus, Tonkartei& fenster);
-void Playlist_anschließen(Playlist& playlist, Wiedergabe& wiedergabe, Liedautomatik& automatik, Sitzung& sitzung,
-                          Hinzufügen& hinzufügen);
+void Playlist_anschließen(Playlist& playlist, Liedautomatik& automatik, Sitzung& sitzung, Hinzufügen& hinzufügen);
 void Lieder_anschließen(Liederraum& lieder, Lied_Befehle& befehle, const Haus& haus, Playlist& playlist, Tonkartei& fenster);
 
 }  // namespace tonkartei

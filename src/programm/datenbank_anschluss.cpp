@@ -1,6 +1,5 @@
 #include "datenbank/datenbankraum.hpp"
 #include "programm/anschluesse.hpp"
-#include "programm/tonkartei.hpp"
 
 namespace tonkartei {
 

@@ -1,7 +1,4 @@
-#include "datenbank/haus.hpp"
-#include "oberflaeche/ansicht.hpp"
 #include "programm/anschluesse.hpp"
-#include "programm/tonkartei.hpp"
 
 namespace tonkartei {
 namespace {
@@ -49,7 +46,6 @@ void Fenster_anschließen(Haus& haus, Tonkartei& fenster) {
     Allgemeines(haus.einstellungen, fenster);
     fenster.Menüleiste.Befehl("zentrieren", [&fenster] { fenster.zentrieren(); });
     fenster.Menüleiste.Befehl("MP_Beenden", [&fenster] { fenster.entladen(); });
-    fenster.Lieder.Liste2.Sleep = [&rechner = haus.plattform.Rechner](int ms) { rechner.Sleep(ms); };
 }
 
 }  // namespace tonkartei

@@ -1,30 +1,10 @@
-#include "kategorien/kategorienraum.hpp"
+#include "kategorien/kategorie_wahl.hpp"
 #include "programm/anschluesse.hpp"
-#include "programm/tonkartei.hpp"
 #include "wiedergabe/wiedergabe.hpp"
 
 namespace tonkartei {
-namespace {
-
-void Editor_anschließen(Kategorie_bearbeiten& editor, const Modell& modell, Tonkartei& fenster) {
-    fenster.Kategorien.Kategorien_bearbeiten.verbinden([&editor, &modell, &fenster] {
-        if (!modell.Datenbank_offen) return;
-        fenster.aktiv(false);
-        editor.öffnen(Kategorie_bearbeiten::vom_Hauptfenster);
-    });
-    editor.geschlossen.verbinden([&fenster] { fenster.Kategorien.aktualisiere_Kategorie_List(false); });
-    editor.zurück[Kategorie_bearbeiten::vom_Hauptfenster] = [&fenster] {
-        fenster.aktiv(true);
-        fenster.Lieder.Schnellsuche_fokussieren();
-        return true;
-    };
-}
-
-}  // namespace
-
-void Kategorien_anschließen(Kategorienraum& kategorien, const Haus& haus, Wiedergabe& wiedergabe, Tonkartei& fenster) {
-    Editor_anschließen(kategorien.bearbeiten, haus.modell, fenster);
-    kategorien.wahl.Datei_abspielen = [&wiedergabe](const Text& datei) { wiedergabe.Starter.starte_WinAmp_Datei(datei); };
+void Kategorien_anschließen(Kategorie_Wahl& wahl, const Modell& modell, Wiedergabe& wiedergabe, Tonkartei& fenster) {
+    wahl.Datei_abspielen = [&wiedergabe](const Text& datei) { wiedergabe.Starter.starte_WinAmp_Datei(datei); };
 
     Hauptmenü& menü = fenster.Menüleiste;
     Kategorienbereich& bereich = fenster.Kategorien;
@@ -36,7 +16,7 @@ void Kategorien_anschließen(Kategorienraum& kategorien, const Haus& haus, Wiede
         };
         menü.Befehl("Anz_Kat_Schemas", wählen, n);
     }
-    menü.nur_Haken("Anz_Kat_Schemas", 0, Schemas_maximal, [&modell = haus.modell] { return int{modell.Anz_Kat_Schemas}; });
+    menü.nur_Haken("Anz_Kat_Schemas", 0, Schemas_maximal, [&modell] { return int{modell.Anz_Kat_Schemas}; });
     menü.Befehl("Kat_Schema_zuweisen", [&bereich] { bereich.Schema_zuweisen_beginnen(); });
     menü.Befehl("Kat_Schema_Kurzbeschreibung", [&bereich] { bereich.Schema_beschreiben_beginnen(); });
     menü.Schalter("Kategorien_merken", &Einstellungen::Kategorien_merken);

@@ -7,6 +7,7 @@
 
 namespace tonkartei {
 
+class Liedstart;
 class Playlist;
 class Tonkartei;
 class WinAmp;
@@ -14,7 +15,7 @@ struct Modell;
 
 class Kontextmenüs : public Fenster {
 public:
-    Kontextmenüs(const Modell& modell, Tonkartei& haupt, Playlist& playlist, WinAmp& spieler);
+    Kontextmenüs(const Modell& modell, Tonkartei& haupt, Playlist& playlist, WinAmp& spieler, Liedstart& start);
 
     // Of the song under the mouse, which becomes the chosen one; -1 for none.
     void Lied_zeigen(int zeile);
@@ -33,6 +34,7 @@ private:
     Tonkartei& haupt_;
     Playlist& playlist_;
     WinAmp& spieler_;
+    Liedstart& start_;
     Menü menü_;
 };
 

@@ -3,7 +3,6 @@
 #include "datenbank/haus.hpp"
 #include "kategorien/kategorie_wahl.hpp"
 #include "lieder/liederraum.hpp"
-#include "oberflaeche/ansicht.hpp"
 #include "programm/tonkartei.hpp"
 
 namespace tonkartei {

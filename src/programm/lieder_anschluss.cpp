@@ -1,10 +1,7 @@
-#include "datenbank/haus.hpp"
 #include "lieder/liederraum.hpp"
-#include "oberflaeche/ansicht.hpp"
 #include "playlist/playlist.hpp"
 #include "programm/anschluesse.hpp"
 #include "programm/lied_befehle.hpp"
-#include "programm/tonkartei.hpp"
 
 namespace tonkartei {
 namespace {

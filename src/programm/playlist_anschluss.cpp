@@ -1,12 +1,9 @@
 #include "programm/playlist_anschluss.hpp"
 
-#include "datenbank/haus.hpp"
 #include "datenbank/sitzung.hpp"
 #include "lieder/hinzufuegen/hinzufuegen.hpp"
 #include "playlist/playlist.hpp"
 #include "programm/anschluesse.hpp"
-#include "programm/tonkartei.hpp"
-#include "wiedergabe/wiedergabe.hpp"
 #include "wiedergabe/zufall/liedautomatik.hpp"
 
 namespace tonkartei {
@@ -22,15 +19,6 @@ Playlist_Anschluss::Playlist_Anschluss(Haus& haus, Playlist& playlist, Tonkartei
     Knöpfe_anschließen();
     Menü_anschließen();
     fenster_.Größe_oder_Zustand_geändert.verbinden([this] { folgen(); });
-    playlist_.gezogenes_Lied = [this](Element& quelle) { return gezogenes_Lied(quelle); };
-    playlist_.Hauptfenster_frei = [this] { return fenster_.aktiv(); };
-    playlist_.in_Datenbank_Liste = [this](const std::vector<Long>& nummern) {
-        auto& bereich = fenster_.Lieder;
-        // Song numbers must not stand where albums are chosen.
-        if (bereich.Datenbank_Modus.wert() != 0) bereich.Datenbank_Modus.wert(0);
-        bereich.Nr_Liste_setzen({nummern.begin(), nummern.end()});
-        bereich.erstelle_Liste_von_Nr_Liste();
-    };
 }
 
 void Playlist_Anschluss::Knöpfe_anschließen() {
@@ -82,24 +70,13 @@ void Playlist_Anschluss::Lieder_add_to_Playlist() {
     playlist_.add_Lieder(nummern);
 }
 
-// A line of the albums carries no song.
-Long Playlist_Anschluss::gezogenes_Lied(const Element& quelle) const {
-    const auto& bereich = fenster_.Lieder;
-    const Modell& modell = haus_.modell;
-    if (&quelle != &bereich.Liste || bereich.Datenbank_Modus.wert() != 0 || !modell.Datenbank_offen) return 0;
-    const Long nr = bereich.gewähltes_Lied();
-    return nr <= modell.Anzahl_Lieder ? nr : 0;
-}
-
 void Playlist_Anschluss::zeige_Playlist() {
     if (playlist_.geladen()) playlist_.zustand(Fensterzustand::normal);
     playlist_.zeigen();
 }
 
-void Playlist_anschließen(Playlist& playlist, Wiedergabe& wiedergabe, Liedautomatik& automatik, Sitzung& sitzung,
-                          Hinzufügen& hinzufügen) {
+void Playlist_anschließen(Playlist& playlist, Liedautomatik& automatik, Sitzung& sitzung, Hinzufügen& hinzufügen) {
     sitzung.geladen.verbinden([&playlist](bool) { playlist.aktualisieren(); });
-    playlist.starte_WinAmp_Liste = [&wiedergabe](const Text& datei) { wiedergabe.Starter.starte_WinAmp_Liste(datei); };
     automatik.Zufallsliste.Playlist_leeren = [&playlist] {
         playlist.zeigen_falls_nötig();
         playlist.Neu();

@@ -6,7 +6,6 @@
 
 namespace tonkartei {
 
-class Element;
 class Fenster;
 class Playlist;
 class Tonkartei;
@@ -26,7 +25,6 @@ private:
     void Lieder_add_to_Playlist();
     void add_to_Playlist(Long Nr);
     void folgen();
-    Long gezogenes_Lied(const Element& quelle) const;
 
     Haus& haus_;
     Playlist& playlist_;

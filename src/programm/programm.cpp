@@ -1,7 +1,6 @@
 #include "programm/programm.hpp"
 
 #include "datenbank/version.hpp"
-#include "oberflaeche/ansicht.hpp"
 #include "programm/anschluesse.hpp"
 #include "programm/teile.hpp"
 
@@ -31,10 +30,10 @@ Programm::Teile::Teile(const Plattform& plattform, Ansicht& ansicht, const Text&
 void Programm::Teile::anschließen() {
     Fenster_anschließen(haus_, fenster_);
     Datenbank_anschließen(datenbank_, fenster_);
-    Alben_anschließen(alben_, wiedergabe_, automatik_, fenster_);
-    Kategorien_anschließen(kategorien_, haus_, wiedergabe_, fenster_);
+    Alben_anschließen(alben_, wiedergabe_, fenster_);
+    Kategorien_anschließen(kategorien_.wahl, haus_.modell, wiedergabe_, fenster_);
     Wiedergabe_anschließen(wiedergabe_, automatik_, haus_, fenster_);
-    Playlist_anschließen(playlist_, wiedergabe_, automatik_, datenbank_.sitzung, lieder_.hinzufügen);
+    Playlist_anschließen(playlist_, automatik_, datenbank_.sitzung, lieder_.hinzufügen);
     Lieder_anschließen(lieder_, lied_befehle_, haus_, playlist_, fenster_);
 }
 
@@ -83,9 +82,11 @@ bool Programm::Teile::darf_schließen(Schließgrund grund) {
     }
     lieder_.hinzufügen.übernahme.abschließen();
     if (!haus_.modell.Datenbank_offen || datenbank_.sitzung.schreibe_Datenbank(!von_außen)) return true;
-    return haus_.ansicht.fragen(
+    const bool beenden = haus_.ansicht.fragen(
         "Programm beenden",
         "Wollen sie das Prorgamm wirklich beenden, ohne das die alten Informationen gespeichert wurden?");
+    if (beenden || von_außen) datenbank_.sitzung.ungespeichert_verlassen();
+    return beenden;
 }
 
 void Programm::Teile::wird_geschlossen() {

@@ -2,7 +2,6 @@
 
 #include "datenbank/einstellungsspeicher.hpp"
 #include "datenbank/haus.hpp"
-#include "oberflaeche/ansicht.hpp"
 #include "programm/playlist_anschluss.hpp"
 #include "programm/tonkartei.hpp"
 

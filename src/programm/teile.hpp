@@ -38,11 +38,10 @@ private:
     Datenbankraum datenbank_{haus_};
     Albenraum alben_{datenbank_};
     Kategorienraum kategorien_{haus_};
-    Wiedergabe wiedergabe_{haus_.modell, haus_.einstellungen, haus_.plattform, haus_.kanäle, haus_.ansicht};
-    Tonkartei fenster_{haus_, alben_.alben.eigene, wiedergabe_.Spieler};
-    Liedautomatik automatik_{haus_.modell, haus_.einstellungen, haus_.plattform,     haus_.ansicht,
-                             wiedergabe_,  fenster_.Lieder,     fenster_.Kategorien, fenster_.Wiedergabe};
-    Playlist playlist_{haus_.ansicht, haus_.modell, haus_.einstellungen, haus_.plattform.Dateisystem, datenbank_.m3u};
+    Wiedergabe wiedergabe_{haus_};
+    Tonkartei fenster_{haus_, alben_, kategorien_, wiedergabe_.Spieler};
+    Liedautomatik automatik_{haus_, alben_.start, wiedergabe_, fenster_.bereiche()};
+    Playlist playlist_{haus_, datenbank_.m3u, fenster_.Lieder, wiedergabe_.Starter};
     Liederraum lieder_{datenbank_, alben_, kategorien_, wiedergabe_, fenster_.Lieder};
 
     Splash splash_{datenbank_};
@@ -50,7 +49,7 @@ private:
     Programmeinstellungen einstellungen_{haus_, datenbank_.registry, fenster_};
     Lied_Befehle lied_befehle_{haus_, lieder_, kategorien_.wahl, fenster_};
     Playlist_Anschluss playlist_anschluss_{haus_, playlist_, fenster_};
-    Kontextmenüs kontextmenüs_{haus_.modell, fenster_, playlist_, wiedergabe_.Spieler};
+    Kontextmenüs kontextmenüs_{haus_.modell, fenster_, playlist_, wiedergabe_.Spieler, automatik_.Start};
     Mausmarkierung markierung_{fenster_, haus_.einstellungen, fenster_.Fernsteuerung};
 };
 

@@ -1,16 +1,16 @@
 #include "programm/tonkartei.hpp"
 
-#include "datenbank/haus.hpp"
 #include "datenbank/version.hpp"
+#include "kategorien/kategorienraum.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "programm/startparameter.hpp"
 
 namespace tonkartei {
 
-Tonkartei::Tonkartei(Haus& haus, const Albenbestand& alben, WinAmp& spieler)
+Tonkartei::Tonkartei(Haus& haus, Albenraum& alben, Kategorienraum& kategorien, WinAmp& spieler)
     : Fenster(haus.ansicht, "Tonkartei", Programmtitel),
-      Lieder(*this, haus.modell, haus.einstellungen, alben, Kategorien),
-      Kategorien(*this, haus.modell, haus.einstellungen),
+      Lieder(*this, haus, alben, Kategorien),
+      Kategorien(*this, haus.modell, haus.einstellungen, kategorien.bearbeiten),
       Wiedergabe(*this),
       Fernsteuerung(*this, haus.einstellungen, spieler, haus.plattform.Rechner, Wiedergabe.Lied_starten),
       Menüleiste(*this, haus.einstellungen),

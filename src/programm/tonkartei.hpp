@@ -9,6 +9,7 @@
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/listen.hpp"
 #include "programm/hauptmenue.hpp"
+#include "wiedergabe/bereiche.hpp"
 #include "wiedergabe/fernsteuerung.hpp"
 #include "wiedergabe/wiedergabebereich.hpp"
 
@@ -16,12 +17,13 @@ namespace tonkartei {
 
 class Startparameter;
 class WinAmp;
-struct Albenbestand;
+struct Albenraum;
 struct Haus;
+struct Kategorienraum;
 
 class Tonkartei : public Fenster {
 public:
-    Tonkartei(Haus& haus, const Albenbestand& alben, WinAmp& spieler);
+    Tonkartei(Haus& haus, Albenraum& alben, Kategorienraum& kategorien, WinAmp& spieler);
 
     Schriftfeld Datenbank_Text{*this, "Datenbank_Text", "D&atenbank:"};
     Auswahlfeld Datenbank{*this, "Datenbank"};
@@ -33,6 +35,8 @@ public:
     tonkartei::Fernsteuerung Fernsteuerung;
     Traysymbol SysTray{*this, "SysTray"};
     Hauptmenü Menüleiste;
+
+    Bereiche bereiche() { return {Lieder, Kategorien, Wiedergabe}; }
 
     // The first place on the screen, by start parameters and settings.
     void platzieren(const Startparameter& parameter);

@@ -1,7 +1,4 @@
-#include "datenbank/haus.hpp"
-#include "oberflaeche/ansicht.hpp"
 #include "programm/anschluesse.hpp"
-#include "programm/tonkartei.hpp"
 #include "wiedergabe/wiedergabe.hpp"
 #include "wiedergabe/zufall/liedautomatik.hpp"
 

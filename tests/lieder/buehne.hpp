@@ -163,7 +163,7 @@ struct Bühne {
     Datenbankraum datenbank{haus};
     Albenraum alben{datenbank};
     Kategorienraum kategorien{haus};
-    Wiedergabe wiedergabe{modell, einstellungen, haus.plattform, haus.kanäle, ansicht};
+    Wiedergabe wiedergabe{haus};
     MP3_TagHead mp3{dateien};
     Hinzufügen hinzufügen{datenbank, mp3, alben, kategorien, wiedergabe};
     Dateien_übernehmen& übernehmen = hinzufügen.übernehmen;

@@ -71,8 +71,6 @@ public:
     // Shows what was found and returns when the window is closed. `Füllen`: the texts are the file names, sizes unknown.
     void activate(Byte Quelle, bool Füllen);
 
-    Long Anzahl_gefunden() const noexcept { return Anzahl_gefunden_; }
-
 protected:
     Knoten anordnung() override;
     Größe Startgröße() override;
