@@ -8,17 +8,20 @@ namespace tonkartei {
 
 Austausch::Austausch(Datenbankraum& d, Kategorienraum& kategorien, Liederraum& lieder, Wiedergabe& wiedergabe,
                      Listenbereich& liste)
-    : quelle(d.haus.modell, d.haus.kanäle, d.haus.plattform.Dateisystem, d.haus.plattform.Rechner, d.haus.fortschritt),
+    : quelle(d.haus),
       sicherung(d, lieder, quelle),
       vergleich(d.haus, sicherung.auszug),
       abgleich(d, kategorien, lieder, quelle,
                {liste, lieder.austauschen, wiedergabe.Starter, lieder.mp3, d.haus.fortschritt}),
       auflösung(d, quelle, wiedergabe.Starter) {
-    d.sitzung.vor_Wechsel.verbinden([this] {
-        vergleich.ergebnis.entladen();
-        abgleich.fenster.entladen();
-        abgleich.liste.entladen();
-    });
+    // They compare with the collection that is left.
+    d.sitzung.vor_Wechsel.verbinden([this] { entladen(); });
+}
+
+void Austausch::entladen() {
+    vergleich.ergebnis.entladen();
+    abgleich.liste.entladen();
+    abgleich.fenster.entladen();
 }
 
 }  // namespace tonkartei

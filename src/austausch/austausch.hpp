@@ -18,6 +18,9 @@ struct Austausch {
     Austausch(const Austausch&) = delete;
     Austausch& operator=(const Austausch&) = delete;
 
+    // Closes its windows.
+    void entladen();
+
     Quell_Datenbank quelle;
     Sicherung sicherung;
     Vergleich vergleich;

@@ -6,10 +6,6 @@
 
 namespace tonkartei {
 
-void Kopf_schreiben(Kanäle& kanäle, int nummer, const Text& version, const Text& kennung) {
-    for (const Text& zeile : {Text(Programmtitel), version, kennung}) kanäle.schreibe_Zeile(nummer, zeile);
-}
-
 Kopffehler Kopf_prüfen(Kanäle& kanäle, int nummer, const Text& version, const Text& kennung) {
     const auto nächste_ist = [&](const Text& soll) {
         try {

@@ -9,9 +9,6 @@ class Kanäle;
 
 enum class Kopffehler { keiner, Titel, Version, Kennung };
 
-// Dateifehler.
-void Kopf_schreiben(Kanäle& kanäle, int nummer, const Text& version, const Text& kennung);
-
 // Reads the head and tells the first line that is not as it should be; a line that is missing is as wrong as any other.
 Kopffehler Kopf_prüfen(Kanäle& kanäle, int nummer, const Text& version, const Text& kennung);
 

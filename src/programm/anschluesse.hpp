@@ -7,11 +7,13 @@
 
 namespace tonkartei {
 
+class Albenverwaltung;
 class Kategorie_Wahl;
 class Lied_Befehle;
 class Playlist;
 class Sitzung;
 struct Albenraum;
+struct Austausch;
 struct Datenbankraum;
 struct Hinzufügen;
 struct Liedautomatik;
@@ -25,6 +27,8 @@ void Alben_anschließen(Albenraum& alben, Wiedergabe& wiedergabe, Tonkartei& fen
 void Kategorien_anschließen(Kategorie_Wahl& wahl, const Modell& modell, Wiedergabe& wiedergabe, Tonkartei& fenster);
 void Wiedergabe_anschließen(Wiedergabe& wiedergabe, Liedautomatik& automatik, Haus& haus, Tonkartei& fenster);
 void Playlist_anschließen(Playlist& playlist, Liedautomatik& automatik, Sitzung& sitzung, Hinzufügen& hinzufügen);
+void Albenverwaltung_anschließen(Albenverwaltung& verwaltung, Liederraum& lieder, Tonkartei& fenster);
+void Austausch_anschließen(Austausch& austausch, Playlist& playlist, Tonkartei& fenster);
 void Lieder_anschließen(Liederraum& lieder, Lied_Befehle& befehle, const Haus& haus, Playlist& playlist, Tonkartei& fenster);
 
 }  // namespace tonkartei

@@ -35,6 +35,8 @@ void Programm::Teile::anschließen() {
     Wiedergabe_anschließen(wiedergabe_, automatik_, haus_, fenster_);
     Playlist_anschließen(playlist_, automatik_, datenbank_.sitzung, lieder_.hinzufügen);
     Lieder_anschließen(lieder_, lied_befehle_, haus_, playlist_, fenster_);
+    Albenverwaltung_anschließen(albenverwaltung_, lieder_, fenster_);
+    Austausch_anschließen(austausch_, playlist_, fenster_);
 }
 
 void Programm::Teile::starten() {
@@ -98,6 +100,8 @@ void Programm::Teile::wird_geschlossen() {
         haus_.einstellungen.PositionX = fenster_.lage().links;
         haus_.einstellungen.PositionY = fenster_.lage().oben;
     }
+    albenverwaltung_.fenster.entladen();
+    austausch_.entladen();
     haus_.einstellungen.Kategorien = fenster_.Kategorien.Kategorien_Maske();
     playlist_.Hauptfenster_schließt();
     einstellungen_.schreiben();

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "alben/albenraum.hpp"
+#include "albenverwaltung/albenverwaltung.hpp"
+#include "austausch/austausch.hpp"
 #include "datenbank/datenbankraum.hpp"
 #include "kategorien/kategorienraum.hpp"
 #include "lieder/liederraum.hpp"
@@ -43,6 +45,8 @@ private:
     Liedautomatik automatik_{haus_, alben_.start, wiedergabe_, fenster_.bereiche()};
     Playlist playlist_{haus_, datenbank_.m3u, fenster_.Lieder, wiedergabe_.Starter};
     Liederraum lieder_{datenbank_, alben_, kategorien_, wiedergabe_, fenster_.Lieder};
+    Albenverwaltung albenverwaltung_{datenbank_, alben_, {fenster_.Lieder, alben_.start, playlist_, wiedergabe_.Zählung}};
+    Austausch austausch_{datenbank_, kategorien_, lieder_, wiedergabe_, fenster_.Lieder};
 
     Splash splash_{datenbank_};
     Infofenster infofenster_{haus_.ansicht, haus_.modell};

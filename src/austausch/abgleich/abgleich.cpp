@@ -12,8 +12,13 @@ Abgleich::Abgleich(Datenbankraum& d, Kategorienraum& kategorien, Liederraum& lie
       liste(d.haus.ansicht, ignorierte),
       übernahme(d.haus.modell, d.haus.plattform.Dateisystem, d.haus.plattform.Shell, lieder.mp3, kategorien.wahl),
       fenster(d.haus.modell, übernahme, liste, kategorien.bearbeiten, werkzeug),
-      befehl(d.haus.modell, d.haus.plattform.Dateisystem, d.haus.fortschritt, quelle, fenster) {
+      befehl(d.haus.modell, d.haus.plattform.Dateisystem, d.haus.fortschritt, quelle, fenster),
+      modell_(d.haus.modell) {
     d.info.Ignorieren_schreiben = [this] { return ignorierte.Ignorieren_schreiben(); };
+}
+
+void Abgleich::zeige_Ignorieren_Liste(Fenster& Aufrufer) {
+    if (modell_.Datenbank_offen) liste.anzeigen(Aufrufer);
 }
 
 }  // namespace tonkartei

@@ -19,11 +19,17 @@ struct Abgleich {
     Abgleich(const Abgleich&) = delete;
     Abgleich& operator=(const Abgleich&) = delete;
 
+    // The menu's command; `Aufrufer` is the main window.
+    void zeige_Ignorieren_Liste(Fenster& Aufrufer);
+
     Ignorieren_Liste ignorierte;
     LA_Ignorieren liste;
     Abgleich_Übernahme übernahme;
     Live_abgleich fenster;
     Abgleichslauf befehl;
+
+private:
+    const Modell& modell_;
 };
 
 }  // namespace tonkartei

@@ -7,7 +7,7 @@
 #include "austausch/abgleich/la_ignorieren.hpp"
 #include "austausch/abgleich/live_abgleich.hpp"
 #include "austausch/liedvergleich.hpp"
-#include "austausch/quell_datenbank.hpp"
+#include "datenbank/quell_datenbank.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fortschritts_ende.hpp"
 #include "plattform/dateisystem.hpp"

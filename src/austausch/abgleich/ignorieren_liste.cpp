@@ -1,7 +1,7 @@
 #include "austausch/abgleich/ignorieren_liste.hpp"
 
-#include "austausch/dateikopf.hpp"
 #include "datenbank/familienkopf.hpp"
+#include "datenbank/info_koerper.hpp"
 #include "datenbank/version.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "plattform/dateisystem.hpp"
@@ -67,7 +67,7 @@ bool Ignorieren_Liste::Ignorieren_schreiben() {
     try {
         if (dateien_.Datei_da(pfad)) dateien_.umbenennen(pfad, Ignorieren_Kopie_Name);
         nummer = kanäle_.öffnen_zum_Schreiben(pfad);
-        Kopf_schreiben(kanäle_, nummer, modell_.Programmversion, Kennung);
+        Familienkopf_schreiben(kanäle_, nummer, modell_.Programmversion, Kennung);
         kanäle_.schreibe_Zahl(nummer, static_cast<std::int64_t>(einträge_.size()));
         for (const Eintrag& eintrag : einträge_) {
             kanäle_.schreibe_Zeile(nummer, eintrag.Artist);

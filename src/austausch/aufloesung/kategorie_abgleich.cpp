@@ -1,8 +1,8 @@
 #include "austausch/aufloesung/kategorie_abgleich.hpp"
 
 #include "austausch/aufloesung/kategorie_vergleich.hpp"
-#include "austausch/quell_datenbank.hpp"
 #include "datenbank/datenbank_oeffnen.hpp"
+#include "datenbank/quell_datenbank.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "plattform/dateisystem.hpp"
 

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <utility>
 
-#include "austausch/quell_datenbank.hpp"
 #include "austausch/sicherung/backup_verzeichnis.hpp"
+#include "datenbank/quell_datenbank.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fortschritts_ende.hpp"
 #include "plattform/dateisystem.hpp"

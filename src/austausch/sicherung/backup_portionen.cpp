@@ -1,8 +1,8 @@
 #include "austausch/sicherung/backup_portionen.hpp"
 
-#include "austausch/quell_datenbank.hpp"
 #include "austausch/sicherung/backup_verzeichnis.hpp"
 #include "austausch/sicherung/portionserstellung.hpp"
+#include "datenbank/quell_datenbank.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fortschritts_ende.hpp"
 #include "plattform/dateisystem.hpp"

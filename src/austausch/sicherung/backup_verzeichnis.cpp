@@ -1,6 +1,6 @@
 #include "austausch/sicherung/backup_verzeichnis.hpp"
 
-#include "austausch/dateikopf.hpp"
+#include "datenbank/info_koerper.hpp"
 #include "datenbank/version.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fortschritts_ende.hpp"
@@ -69,7 +69,7 @@ bool Backup_Verzeichnis::Backup_Verzeichnis_schreiben() {
         if (dateien_.Datei_da(pfad)) dateien_.umbenennen(pfad, Backup_Kopie_Name);
         nummer = kanäle_.öffnen_zum_Schreiben(pfad);
         fortschritt_.Text_setzen("Backup-Verzeichnis schreiben...");
-        Kopf_schreiben(kanäle_, nummer, modell_.Programmversion, Kennung);
+        Familienkopf_schreiben(kanäle_, nummer, modell_.Programmversion, Kennung);
         const auto anzahl = static_cast<std::int64_t>(Einträge.size());
         kanäle_.schreibe_Zahl(nummer, anzahl);
         std::int64_t geschrieben = 0;

@@ -1,5 +1,6 @@
 #include "austausch/sicherung/portionsdatei.hpp"
 
+#include "datenbank/info_koerper.hpp"
 #include "datenbank/modell.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "plattform/kanaele.hpp"
@@ -36,7 +37,7 @@ void Portionsdatei::schreiben(const Text& Datei, const std::vector<Long>& Nummer
     int nummer = 0;
     try {
         nummer = kanäle_.öffnen_zum_Schreiben(Datei);
-        Kopf_schreiben(kanäle_, nummer, modell_.Programmversion, Kennung);
+        Familienkopf_schreiben(kanäle_, nummer, modell_.Programmversion, Kennung);
         for (const Long nr : Nummern) kanäle_.schreibe_reine_Zahl(nummer, nr);
         kanäle_.schreibe_Zeile(nummer, Endzeile);
         kanäle_.schließen(nummer);

@@ -1,7 +1,6 @@
 // Backups in portions and the directory of what is on CD already, put together.
 #pragma once
 
-#include "austausch/quell_datenbank.hpp"
 #include "austausch/sicherung/auszugsdatenbank.hpp"
 #include "austausch/sicherung/backup_befehle.hpp"
 #include "austausch/sicherung/backup_datenbank.hpp"
@@ -9,6 +8,7 @@
 #include "austausch/sicherung/backup_verzeichnis.hpp"
 #include "austausch/sicherung/portionsdatei.hpp"
 #include "austausch/sicherung/portionserstellung.hpp"
+#include "datenbank/quell_datenbank.hpp"
 
 namespace tonkartei {
 

@@ -2,6 +2,7 @@
 
 #include "austausch/dateikopf.hpp"
 #include "austausch/sicherung/portionsdatei.hpp"
+#include "datenbank/info_koerper.hpp"
 #include "datenbank/modell.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "plattform/kanaele.hpp"
@@ -18,7 +19,7 @@ void Anforderungsdatei::schreiben(const Text& Datei, const std::vector<Text>& Nu
     int nummer = 0;
     try {
         nummer = kanäle_.öffnen_zum_Schreiben(Datei);
-        Kopf_schreiben(kanäle_, nummer, modell_.Programmversion, Kennung);
+        Familienkopf_schreiben(kanäle_, nummer, modell_.Programmversion, Kennung);
         kanäle_.schreibe_Zahl(nummer, static_cast<std::int64_t>(Nummern.size()));
         for (const Text& nr : Nummern) kanäle_.schreibe_Zeile(nummer, nr);
         kanäle_.schließen(nummer);

@@ -4,11 +4,10 @@
 #include "austausch/liedvergleich.hpp"
 #include "austausch/vergleich/vergleichsdatei.hpp"
 #include "austausch/vergleich/vergleichsergebnis.hpp"
+#include "datenbank/haus.hpp"
 #include "datenbank/version.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fortschritts_ende.hpp"
-#include "plattform/dateisystem.hpp"
-#include "plattform/kanaele.hpp"
 
 namespace tonkartei {
 namespace {
@@ -29,8 +28,8 @@ const char* Meldung_von(Kopffehler fehler) {
 
 }  // namespace
 
-void Datenbankvergleich::Datenbank_vergleichen(Fortschritts_Fenster& fortschritt) {
-    if (!modell_.Datenbank_offen) return;
+void Datenbankvergleich::Datenbank_vergleichen() {
+    if (!haus_.modell.Datenbank_offen) return;
     Ansicht& ansicht = fenster_.ansicht();
     ansicht.informieren(Titel_vergleichen,
                         "Bitte geben sie an, wo sich die Datenbank-Vergleichsdatei befindet, "
@@ -43,31 +42,32 @@ void Datenbankvergleich::Datenbank_vergleichen(Fortschritts_Fenster& fortschritt
     fenster_.entladen();
     int nummer = 0;
     try {
-        nummer = kanäle_.öffnen_zum_Lesen(datei);
+        nummer = haus_.kanäle.öffnen_zum_Lesen(datei);
         if (const char* meldung =
-                Meldung_von(Kopf_prüfen(kanäle_, nummer, modell_.Programmversion, Vergleichsdatei_Kennung))) {
-            kanäle_.schließen(nummer);
+                Meldung_von(Kopf_prüfen(haus_.kanäle, nummer, haus_.modell.Programmversion, Vergleichsdatei_Kennung))) {
+            haus_.kanäle.schließen(nummer);
             ansicht.informieren(Titel_vergleichen, meldung);
             return;
         }
-        Vergleichsergebnisse ergebnisse = vergleichen(nummer, fortschritt);
-        kanäle_.schließen(nummer);
+        Vergleichsergebnisse ergebnisse = vergleichen(nummer);
+        haus_.kanäle.schließen(nummer);
         fenster_.zeigen(std::move(ergebnisse));
     } catch (const Dateifehler& fehler) {
-        kanäle_.aufgeben(nummer);
+        haus_.kanäle.aufgeben(nummer);
         ansicht.informieren(Programmtitel, fehler.mit_Pfad(fehler.Pfad().empty() ? datei : fehler.Pfad()));
     } catch (const Laufzeitfehler& fehler) {
         // Numbers that cannot be: the file is to blame, and the collection is none the worse for it.
-        kanäle_.aufgeben(nummer);
+        haus_.kanäle.aufgeben(nummer);
         ansicht.informieren(Programmtitel, fehler.Beschreibung() + Text(CRCR) + anzeigbar(datei));
     }
 }
 
-Vergleichsergebnisse Datenbankvergleich::vergleichen(int nummer, Fortschritts_Fenster& fortschritt) {
-    const std::vector<Zeitpunkt> daten = eigene_Dateizeiten(modell_, dateien_, fortschritt, false);
-    const Liedvergleich vergleich(modell_, daten);
-    const Fortschritts_Ende ende(fortschritt);
-    fortschritt.Text_setzen("Datenbank vergleichen...");
+Vergleichsergebnisse Datenbankvergleich::vergleichen(int nummer) {
+    const std::vector<Zeitpunkt> daten =
+        eigene_Dateizeiten(haus_.modell, haus_.plattform.Dateisystem, haus_.fortschritt, false);
+    const Liedvergleich vergleich(haus_.modell, daten);
+    const Fortschritts_Ende ende(haus_.fortschritt);
+    haus_.fortschritt.Text_setzen("Datenbank vergleichen...");
     Vergleichsergebnisse ergebnisse;
     datei_.lesen(nummer, [&](Long nr, Long anzahl, const Vergleichslied& lied) {
         const auto treffer = vergleich.vergleichen(lied.Artist, lied.Titel, lied.Größe, lied.Datum);
@@ -76,7 +76,7 @@ Vergleichsergebnisse Datenbankvergleich::vergleichen(int nummer, Fortschritts_Fe
         else
             (treffer.Grad == 1 ? ergebnisse.andere : ergebnisse.fehlende)
                 .push_back(Vergleichszeile(nr, treffer.Nr, lied.Artist, lied.Titel));
-        fortschritt.anzeigen(Prozent(nr, anzahl));
+        haus_.fortschritt.anzeigen(Prozent(nr, anzahl));
     });
     return ergebnisse;
 }

@@ -6,27 +6,22 @@
 
 namespace tonkartei {
 
-class Dateisystem;
-class Fortschritts_Fenster;
-class Kanäle;
 class Vergleichsdatei;
 class Vergleichsergebnis;
+struct Haus;
 
 class Datenbankvergleich {
 public:
-    Datenbankvergleich(const Modell& modell, Kanäle& kanäle, Dateisystem& dateien, Vergleichsdatei& datei,
-                       Vergleichsergebnis& fenster)
-        : modell_(modell), kanäle_(kanäle), dateien_(dateien), datei_(datei), fenster_(fenster) {}
+    Datenbankvergleich(Haus& haus, Vergleichsdatei& datei, Vergleichsergebnis& fenster)
+        : haus_(haus), datei_(datei), fenster_(fenster) {}
 
     // The menu's command.
-    void Datenbank_vergleichen(Fortschritts_Fenster& fortschritt);
+    void Datenbank_vergleichen();
 
 private:
-    Vergleichsergebnisse vergleichen(int nummer, Fortschritts_Fenster& fortschritt);
+    Vergleichsergebnisse vergleichen(int nummer);
 
-    const Modell& modell_;
-    Kanäle& kanäle_;
-    Dateisystem& dateien_;
+    Haus& haus_;
     Vergleichsdatei& datei_;
     Vergleichsergebnis& fenster_;
 };

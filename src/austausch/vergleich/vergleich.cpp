@@ -8,7 +8,7 @@ Vergleich::Vergleich(Haus& haus, Auszugsdatenbank& auszug)
     : datei(haus.modell, haus.kanäle, haus.plattform.Dateisystem, haus.fortschritt),
       anforderungsdatei(haus.modell, haus.kanäle, haus.ansicht),
       ergebnis(haus.ansicht, haus.plattform.Dateisystem, anforderungsdatei),
-      befehl(haus.modell, haus.kanäle, haus.plattform.Dateisystem, datei, ergebnis),
+      befehl(haus, datei, ergebnis),
       anforderung(haus.modell, haus.ansicht, anforderungsdatei, auszug) {}
 
 }  // namespace tonkartei

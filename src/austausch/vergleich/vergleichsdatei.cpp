@@ -2,6 +2,7 @@
 
 #include "austausch/dateikopf.hpp"
 #include "austausch/zieldatei.hpp"
+#include "datenbank/info_koerper.hpp"
 #include "datenbank/text_form.hpp"
 #include "datenbank/zeitleser.hpp"
 #include "oberflaeche/ansicht.hpp"
@@ -36,7 +37,7 @@ void Vergleichsdatei::Vergleichsdatei_erstellen() {
 void Vergleichsdatei::schreiben(int nummer) {
     const Fortschritts_Ende ende(fortschritt_);
     fortschritt_.Text_setzen("Datenbank-Vergleichsdatei erstellen...");
-    Kopf_schreiben(kanäle_, nummer, modell_.Programmversion, Vergleichsdatei_Kennung);
+    Familienkopf_schreiben(kanäle_, nummer, modell_.Programmversion, Vergleichsdatei_Kennung);
     kanäle_.schreibe_Zahl(nummer, modell_.Anzahl_Lieder);
     const auto reine_Zahlen = [&](std::initializer_list<int> zahlen) {
         for (const int zahl : zahlen) kanäle_.schreibe_reine_Zahl(nummer, zahl);
