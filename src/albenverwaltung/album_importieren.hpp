@@ -17,14 +17,14 @@ class Album_importieren : public Fenster {
 public:
     Album_importieren(Ansicht& ansicht, Modell& modell, Alben& alben, Albenarbeit& arbeit, Album_Titel_Liste& titel);
 
-    Schriftfeld Liste_Text{*this, "Liste_Text", "&gefundene Alben:"};
+    Schriftfeld Liste_Text{*this, "Liste_Text", "gefundene Alben:"};
     Listenfeld Liste{*this, "Liste"};
     Knopf hinzufügen{*this, "hinzufügen", "&hinzufügen -->"};
     Knopf alle_hinzufügen{*this, "alle_hinzufügen", "&alle hinzufügen"};
     Knopf nicht_hinzufügen{*this, "nicht_hinzufügen", "&nicht hinzufügen"};
     Knopf Liste_löschen{*this, "Liste_löschen", "Liste &löschen"};
     Knopf Titel_anzeigen{*this, "Titel_anzeigen", "&Titel anzeigen..."};
-    Schriftfeld Liste2_Text{*this, "Liste2_Text", "&davon hinzufügen:"};
+    Schriftfeld Liste2_Text{*this, "Liste2_Text", "davon hinzufügen:"};
     Listenfeld Liste2{*this, "Liste2"};
     Knopf Ok{*this, "Ok", "&OK"};
     Knopf Abbruch{*this, "Abbruch", "A&bbruch"};

@@ -16,12 +16,14 @@ Austausch::Austausch(Datenbankraum& d, Kategorienraum& kategorien, Liederraum& l
       auflösung(d, quelle, wiedergabe.Starter) {
     // They compare with the collection that is left.
     d.sitzung.vor_Wechsel.verbinden([this] { entladen(); });
+    // A collection newly made leaves its predecessor without that step. The categories that songs are mapped to and the
+    // ignore list are the predecessor's; the outcome of a comparison by file may stay, to be written down as a request.
+    d.sitzung.geladen.verbinden([this](bool) { abgleich.entladen(); });
 }
 
 void Austausch::entladen() {
     vergleich.ergebnis.entladen();
-    abgleich.liste.entladen();
-    abgleich.fenster.entladen();
+    abgleich.entladen();
 }
 
 }  // namespace tonkartei

@@ -21,4 +21,9 @@ void Abgleich::zeige_Ignorieren_Liste(Fenster& Aufrufer) {
     if (modell_.Datenbank_offen) liste.anzeigen(Aufrufer);
 }
 
+void Abgleich::entladen() {
+    liste.entladen();
+    fenster.entladen();
+}
+
 }  // namespace tonkartei

@@ -21,6 +21,8 @@ struct Abgleich {
 
     // The menu's command; `Aufrufer` is the main window.
     void zeige_Ignorieren_Liste(Fenster& Aufrufer);
+    // Closes its windows.
+    void entladen();
 
     Ignorieren_Liste ignorierte;
     LA_Ignorieren liste;

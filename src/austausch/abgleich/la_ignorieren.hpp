@@ -15,7 +15,7 @@ public:
 
     Schriftfeld Liste_Text{*this, "Liste_Text", "&ignorierte Lieder:"};
     Listenfeld Liste{*this, "Liste"};
-    Knopf löschen{*this, "löschen", "aus Liste &löschen"};
+    Knopf löschen{*this, "löschen", "aus Liste löschen"};
     Knopf Ok{*this, "Ok", "&OK"};
 
     // Opens with the calling window disabled until it is closed. Nothing when the list cannot be loaded.

@@ -27,7 +27,7 @@ public:
         {*this, "DName_Text", "1. &Teil:", 1}, {*this, "DName_Text", "2. T&eil:", 2}, {*this, "DName_Text", "3. Te&il:", 3}};
     Auswahlfeld DName[3]{{*this, "DName", 1}, {*this, "DName", 2}, {*this, "DName", 3}};
     Rahmen Aktionen{*this, "Aktionen", "Lieder"};
-    Optionsfeld Aktion[2]{{*this, "Aktion", "&kopieren", 1}, {*this, "Aktion", "&bewegen", 2}};
+    Optionsfeld Aktion[2]{{*this, "Aktion", "kopieren", 1}, {*this, "Aktion", "bewegen", 2}};
     Knopf Ok{*this, "Ok", "&OK"};
     Knopf Abbruch{*this, "Abbruch", "&Abbruch"};
 

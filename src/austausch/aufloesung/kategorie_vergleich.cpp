@@ -14,7 +14,9 @@ std::vector<Kategorie_Unterschied> Kategorien_vergleichen(const Bestand& eigene,
     std::map<std::pair<std::string_view, std::string_view>, Byte> erste;
     for (Long nr = 1; nr <= quelle.Anzahl_Lieder; ++nr) {
         const Lied& lied = quelle.Lieder[nr];
-        erste.try_emplace({lied.Titel, lied.Artist}, lied.Kategorie);
+        // A number without a category is the first one, as it would be if that collection were opened.
+        const bool da = lied.Kategorie >= 1 && lied.Kategorie <= quelle.Anzahl_Kategorien;
+        erste.try_emplace({lied.Titel, lied.Artist}, da ? lied.Kategorie : Byte{1});
     }
     const Fortschritts_Ende ende(fortschritt);
     fortschritt.Text_setzen("Kategorien vergleichen...");

@@ -20,6 +20,11 @@ Long Portionsnummer(const Text& wert) {
     return nr;
 }
 
+void Nummer_aufnehmen(std::vector<Long>& nummern, Long nr) {
+    if (nr < 1 || nummern.size() == Lieder_maximal) throw Laufzeitfehler(Fehler_Index);
+    nummern.push_back(nr);
+}
+
 Text Kopfmeldung(Kopffehler fehler, const Text& falsche_Kennung) {
     switch (fehler) {
         case Kopffehler::Titel: return "Diese Datei ist nicht von diesem Programm erstellt!";
@@ -56,9 +61,9 @@ std::vector<Long> Portionsdatei::lesen(const Text& Datei) {
         meldung = Kopfmeldung(Kopf_prüfen(kanäle_, nummer, modell_.Programmversion, Kennung), keine_Portion);
         if (meldung.empty())
             for (Text wert = kanäle_.lese_Wert(nummer); wert != Endzeile; wert = kanäle_.lese_Wert(nummer))
-                if (const Long nr = Portionsnummer(wert); nr > 0) nummern.push_back(nr);
+                if (const Long nr = Portionsnummer(wert); nr > 0) Nummer_aufnehmen(nummern, nr);
     } catch (const Laufzeitfehler&) {
-        // Cut off, or a number that no song can have: as little a portion as a file of another kind.
+        // Cut off, or numbers that no songs can have: as little a portion as a file of another kind.
         meldung = keine_Portion;
     }
     kanäle_.aufgeben(nummer);

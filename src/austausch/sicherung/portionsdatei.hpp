@@ -15,6 +15,8 @@ struct Modell;
 
 // The number that a value of a list of songs names; error 9 above 5000, where no song can be.
 Long Portionsnummer(const Text& wert);
+// Error 9 below 1, and at the 5001st: no collection has so many.
+void Nummer_aufnehmen(std::vector<Long>& nummern, Long nr);
 // What a wrong head is told with, for lists of songs from which a collection is to be made; empty for a good one.
 Text Kopfmeldung(Kopffehler fehler, const Text& falsche_Kennung);
 

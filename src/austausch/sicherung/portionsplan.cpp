@@ -58,11 +58,12 @@ std::vector<std::vector<Long>> Portionsplan::Portionen(double P) const {
         liste.hinzufügen(Zahl_mit_Nullen(lied.Kategorie, 2) + lied.Artist, lied.Titel, nr, Stellen);
     }
     const double T = std::nearbyint(P * 1024);  // KByte; a whole number far beyond any collection's size
-    double S = T + 1;                           // so that the first song opens the first portion
+    double S = 0;
     std::vector<std::vector<Long>> portionen;
     for (const long long nr : liste.sortierte_Nummern()) {
         const Long größe = bestand_.Lieder[nr].Größe;
-        if (größe + S > T) {
+        // The first song opens a portion whatever its size: a damaged record may tell one below nothing.
+        if (portionen.empty() || größe + S > T) {
             portionen.emplace_back();
             S = 0;
         }

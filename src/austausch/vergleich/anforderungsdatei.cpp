@@ -38,8 +38,7 @@ std::vector<Long> Anforderungsdatei::lesen(const Text& Datei) {
         meldung = Kopfmeldung(Kopf_prüfen(kanäle_, nummer, modell_.Programmversion, Kennung), keine_Anforderung);
         if (meldung.empty()) {
             const Long anzahl = kanäle_.lese_Long(nummer);
-            if (anzahl > Lieder_maximal) throw Laufzeitfehler(Fehler_Index);
-            for (Long i = 1; i <= anzahl; ++i) nummern.push_back(Portionsnummer(kanäle_.lese_Wert(nummer)));
+            for (Long i = 1; i <= anzahl; ++i) Nummer_aufnehmen(nummern, Portionsnummer(kanäle_.lese_Wert(nummer)));
         }
     } catch (const Laufzeitfehler&) {
         // Cut off, or numbers that no song can have: as little a request as a file of another kind.
