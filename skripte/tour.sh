@@ -257,6 +257,9 @@ dialoge() {
     erwarte Tonkartei.Liste_Anzahl '"text":"7"'
 }
 
+# shellcheck source=skripte/tour_austausch.sh
+. "$wurzel/skripte/tour_austausch.sh"
+
 rundgang "" Tour
 echo "== Sorting, searching, categories"
 tu "klick Tonkartei.sortieren(1)"
@@ -335,6 +338,7 @@ dialoge "" Tour
 ende
 [ -f "$arbeit/sammlungen/Tour/MP3_Info.MDB" ] || { echo "no info file was saved"; fehler=1; }
 [ ! -e "$arbeit/sammlungen/Tour/MP3_Info.DBG" ] || { echo "the access file stayed behind"; fehler=1; }
+austausch "" Tour
 
 echo "== The same windows at twice the scale"
 export QT_SCALE_FACTOR=2
@@ -347,6 +351,7 @@ starten
 ansichten "@2x"
 dialoge "@2x" Doppelt
 ende
+austausch "@2x" Doppelt
 
 echo
 if [ "$fehler" -ne 0 ]; then

@@ -15,6 +15,11 @@ constexpr Ersatz Ersetzungen[] = {{"\n", 127}, {"\r", 128}, {"\"", 129}, {",", 1
 }  // namespace
 
 void Text_schreiben(Kanäle& kanäle, int Dateinummer, const Text& text) {
+    // Nearly all names: nothing to replace, and nothing to copy.
+    if (text.find_first_of("\n\r\",") == Text::npos) {
+        kanäle.schreibe_Zeile(Dateinummer, text);
+        return;
+    }
     Text form = text;
     for (const Ersatz& ersatz : Ersetzungen) form = ersetzt(form, ersatz.zeichen, Zeichen(ersatz.code));
     kanäle.schreibe_Zeile(Dateinummer, form);
