@@ -24,7 +24,7 @@ public:
     Auswahlfeld Ebene[3]{{*this, "Ebene", 1}, {*this, "Ebene", 2}, {*this, "Ebene", 3}};
     Rahmen Dateinamen{*this, "Dateinamen", "Dateiname"};
     Schriftfeld DName_Text[3]{
-        {*this, "DName_Text", "1. &Teil:", 1}, {*this, "DName_Text", "2. T&eil:", 2}, {*this, "DName_Text", "3. Te&il:", 3}};
+        {*this, "DName_Text", "1. &Teil:", 1}, {*this, "DName_Text", "2. Tei&l:", 2}, {*this, "DName_Text", "3. Te&il:", 3}};
     Auswahlfeld DName[3]{{*this, "DName", 1}, {*this, "DName", 2}, {*this, "DName", 3}};
     Rahmen Aktionen{*this, "Aktionen", "Lieder"};
     Optionsfeld Aktion[2]{{*this, "Aktion", "kopieren", 1}, {*this, "Aktion", "bewegen", 2}};

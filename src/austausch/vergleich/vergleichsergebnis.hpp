@@ -17,7 +17,7 @@ public:
     Knopf alle_anfordern{*this, "alle_anfordern", "&alle anfordern >>"};
     Knopf nicht_anfordern{*this, "nicht_anfordern", "< n&icht anfordern"};
     Knopf keine_Anfordern{*this, "keine_Anfordern", "<< &keine anfordern"};
-    Schriftfeld AListe_Text{*this, "AListe_Text", "an&geforderte Lieder:"};
+    Schriftfeld AListe_Text{*this, "AListe_Text", "angeforderte &Lieder:"};
     Listenfeld AListe{*this, "AListe"};
     Schriftfeld AListe_Anzahl_Text{*this, "AListe_Anzahl_Text", "Anzahl:"};
     Schriftfeld AListe_Anzahl{*this, "AListe_Anzahl", "0"};
