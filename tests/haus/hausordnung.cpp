@@ -16,7 +16,7 @@ namespace {
 enum Fremdes : unsigned { nichts = 0, Qt = 1, POSIX = 2, mpv = 4 };
 
 struct Raum {
-    std::string_view Ordner;  // below src/; the longest that fits counts
+    std::string_view Ordner;  // below src/; a folder within it is a room of its own
     int Stockwerk;            // where it lies
     int Sicht;                // the highest floor that it may include
     unsigned Darf;            // what it may name that is not of the standard library
@@ -25,15 +25,35 @@ struct Raum {
 // The floors, from the ground up. Rooms of one floor may include each other, file by file without a loop. The rooms of
 // one toolkit or one machine lie just below the roof, where only the composition reaches them, yet see the seams alone.
 constexpr std::array Räume{
-    Raum{"grundlagen", 0, 0, nichts},       Raum{"plattform", 10, 10, nichts},
-    Raum{"oberflaeche", 10, 10, nichts},    Raum{"mp3", 20, 20, nichts},
-    Raum{"datenbank", 21, 21, nichts},      Raum{"alben", 30, 30, nichts},
-    Raum{"kategorien", 31, 31, nichts},     Raum{"liste", 32, 32, nichts},
-    Raum{"wiedergabe", 33, 33, nichts},     Raum{"playlist", 34, 34, nichts},
-    Raum{"lieder", 35, 35, nichts},         Raum{"statistik", 40, 40, nichts},
-    Raum{"austausch", 40, 40, nichts},      Raum{"dj", 40, 40, nichts},
-    Raum{"display", 40, 40, nichts},        Raum{"oberflaeche/qt", 50, 10, Qt},
-    Raum{"plattform/linux", 50, 10, POSIX}, Raum{"programm", 60, 60, nichts},
+    Raum{"grundlagen", 0, 0, nichts},
+    Raum{"plattform", 10, 10, nichts},
+    Raum{"oberflaeche", 10, 10, nichts},
+    Raum{"mp3", 20, 20, nichts},
+    Raum{"datenbank", 21, 21, nichts},
+    Raum{"alben", 30, 30, nichts},
+    Raum{"kategorien", 31, 31, nichts},
+    Raum{"liste", 32, 32, nichts},
+    Raum{"wiedergabe", 33, 33, nichts},
+    Raum{"wiedergabe/winamp", 33, 33, nichts},
+    Raum{"wiedergabe/zufall", 33, 33, nichts},
+    Raum{"playlist", 34, 34, nichts},
+    Raum{"lieder", 35, 35, nichts},
+    Raum{"lieder/hinzufuegen", 35, 35, nichts},
+    Raum{"lieder/wartung", 35, 35, nichts},
+    Raum{"albenverwaltung", 40, 40, nichts},
+    Raum{"austausch", 40, 40, nichts},
+    Raum{"austausch/sicherung", 40, 40, nichts},
+    Raum{"austausch/vergleich", 40, 40, nichts},
+    Raum{"austausch/abgleich", 40, 40, nichts},
+    Raum{"austausch/aufloesung", 40, 40, nichts},
+    Raum{"statistik", 40, 40, nichts},
+    Raum{"ausgabe", 40, 40, nichts},
+    Raum{"display", 40, 40, nichts},
+    Raum{"dj", 40, 40, nichts},
+    Raum{"dj/alt", 40, 40, nichts},
+    Raum{"oberflaeche/qt", 50, 10, Qt},
+    Raum{"plattform/linux", 50, 10, POSIX},
+    Raum{"programm", 60, 60, nichts},
     Raum{"spieler", 70, 10, POSIX | mpv},
 };
 
@@ -56,10 +76,9 @@ bool liegt_in(std::string_view pfad, std::string_view ordner) {
 }
 
 const Raum* Raum_von(std::string_view pfad) {
-    const Raum* bester = nullptr;
-    for (const Raum& raum : Räume)
-        if (liegt_in(pfad, raum.Ordner) && (!bester || raum.Ordner.size() > bester->Ordner.size())) bester = &raum;
-    return bester;
+    const std::string_view ordner = pfad.substr(0, pfad.rfind('/'));
+    const auto raum = std::find_if(Räume.begin(), Räume.end(), [&](const Raum& r) { return r.Ordner == ordner; });
+    return raum == Räume.end() ? nullptr : &*raum;
 }
 
 bool hat_Tür(std::string_view von, std::string_view nach) {
@@ -121,10 +140,9 @@ Fremdes Herkunft_des_Wortes(std::string_view wort, bool ist_Aufruf) {
 using Meldung = std::function<void(const std::string& grund)>;
 
 void prüfe_Wörter(std::string_view zeile, unsigned darf, const Meldung& melde) {
-    for (std::size_t i = 0, ende = 0; i < zeile.size(); i = ende + 1) {
-        for (ende = i; ende < zeile.size() && im_Wort(zeile[ende]);) ++ende;
+    for (const std::string_view wort : Wörter(zeile)) {
+        const auto ende = static_cast<std::size_t>(wort.data() - zeile.data()) + wort.size();
         const std::size_t danach = zeile.find_first_not_of(' ', ende);
-        const std::string_view wort = zeile.substr(i, ende - i);
         const Fremdes fremdes = Herkunft_des_Wortes(wort, danach != zeile.npos && zeile[danach] == '(');
         if (fremdes != nichts && !(darf & fremdes)) melde(std::string("names ") + Name(fremdes) + ": " + std::string(wort));
     }
@@ -175,7 +193,17 @@ void suche_Schleifen(const std::map<std::string, std::vector<std::string>>& kant
     for (const auto& [datei, _] : kanten) besuche(datei);
 }
 
-// Comments and the contents of strings and character literals as blanks, line breaks kept; include paths stay.
+}  // namespace
+
+std::vector<std::string_view> Wörter(std::string_view zeile) {
+    std::vector<std::string_view> wörter;
+    for (std::size_t i = 0, ende = 0; i < zeile.size(); i = ende + 1) {
+        for (ende = i; ende < zeile.size() && im_Wort(zeile[ende]);) ++ende;
+        if (ende > i) wörter.push_back(zeile.substr(i, ende - i));
+    }
+    return wörter;
+}
+
 std::string nur_Code(const std::string& text) {
     std::string code = text;
     const auto hinter = [&](std::string_view schluss, std::size_t ab) {
@@ -209,8 +237,6 @@ std::string nur_Code(const std::string& text) {
     return code;
 }
 
-}  // namespace
-
 std::vector<Verstoß> prüfe(const Quellen& quellen) {
     std::vector<Verstoß> verstöße;
     std::map<std::string, std::vector<std::string>> kanten;
@@ -239,6 +265,7 @@ std::vector<Verstoß> prüfe(const Quellen& quellen) {
         }
     }
     suche_Schleifen(kanten, verstöße);
+    prüfe_Maße(quellen, verstöße);
     return verstöße;
 }
 

@@ -38,6 +38,7 @@ Quellen Umgebung() {
           "src/oberflaeche/qt/ansicht_qt.hpp", "src/mp3/tag.hpp", "src/datenbank/modell.hpp", "src/kategorien/wahl.hpp",
           "src/liste/bereich.hpp", "src/dj/dj.hpp", "src/programm/programm.hpp", "werkzeug/probe/probe.hpp"})
         quellen[datei] = "#pragma once\n";
+    quellen["src/liste/bereich.hpp"] = "class A; class B; class C; struct D; class E; class F;\n";
     return quellen;
 }
 
@@ -61,6 +62,12 @@ TEST(Hausordnung, FindetWasSieVerbietetUndNurDas) {
         {"src/programm/a.cpp", "#include \"fehlt.hpp\"\n", "no such file"},
         {"src/programm/a.cpp", "#include <mp3/tag.hpp>\n", "in quotes"},
         {"src/garten/a.cpp", "", "no floor"},
+        {"src/mp3/beet/a.cpp", "", "no floor"},
+        {"src/dj/a.hpp",
+         "class Dj {\npublic:\n    // all\n    explicit Dj(A& a, B& b, const C& c,\n  D* d, E& e, std::map<A, F>& f, F&);",
+         "Dj takes 6"},
+        {"src/dj/a.hpp", "struct Dj : A { Dj(A& a, B b, const C& c, D* d, E& e, const Text& g, std::function<F&()> f); };",
+         ""},
         {"src/mp3/a.cpp", "#include <qglobal.h>\n", "Qt"},
         {"src/programm/main.cpp", "int x = QThread::idealThreadCount();\n", "Qt"},
         {"src/plattform/linux/a.cpp", "#include <QFile>\n", "Qt"},
@@ -98,6 +105,17 @@ TEST(Hausordnung, FindetEineSchleifeÜberMehrereDateien) {
     quellen["src/mp3/c.hpp"] = "#include \"mp3/a.hpp\"\n";
     EXPECT_EQ(Gründe(prüfe(quellen)),
               "src/mp3/c.hpp:0: include loop: src/mp3/a.hpp > src/mp3/b.hpp > src/mp3/c.hpp > src/mp3/a.hpp\n");
+}
+
+TEST(Hausordnung, FindetWasZuGroßIst) {
+    Quellen quellen = Umgebung();
+    quellen["src/mp3/lang.cpp"] = std::string(400, '\n');
+    quellen["tests/groß.cpp"] = std::string(8192, ' ');
+    quellen["tests/fast_groß.cpp"] = std::string(8191, ' ');
+    EXPECT_EQ(Gründe(prüfe(quellen)), "");
+    quellen["src/mp3/lang.cpp"] += '\n';
+    quellen["leistung/groß.cpp"] = std::string(8192, ' ');
+    EXPECT_EQ(Gründe(prüfe(quellen)), "src/mp3/lang.cpp:0: has 401 lines\n:0: 2 files of 16 are big\n");
 }
 
 TEST(Hausordnung, WirdEingehalten) {
