@@ -34,7 +34,7 @@ int main() {
     const std::string qt = TONKARTEI_SPEICHER_QT;
     const double fenster = gemessen(qt), leer = gemessen(qt + " leer");
     Verhältnisse v;
-    v.Wert("Speicher mit 5000 Liedern, ohne Oberfläche", ohne, "MByte", 40);
+    v.Wert("Speicher mit 5000 Liedern, ohne Oberfläche", ohne, "MByte", 20);
     v.Wert("Qt-Fenster mit 5000 Liedern über einem leeren", fenster - leer, "MByte", 25);
     return v.Ergebnis();
 }

@@ -1,0 +1,13 @@
+# clang-tidy beside every compilation. What has been checked stays checked until the file, a header of its or a list of checks
+# changes: the objects are the marks, and the lists are part of the command. g++'s precompiled headers mean nothing to it.
+if(TONKARTEI_PRUEFUNG)
+  find_program(CLANG_TIDY clang-tidy REQUIRED)
+  set(inhalt)
+  foreach(liste .clang-tidy tests/.clang-tidy leistung/.clang-tidy)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${liste})
+    file(READ ${liste} text)
+    string(APPEND inhalt "${text}")
+  endforeach()
+  string(SHA1 stand "${inhalt}")
+  set(CMAKE_CXX_CLANG_TIDY ${CLANG_TIDY} --quiet --extra-arg=-DTONKARTEI_PRUEFLISTEN=${stand})
+endif()
