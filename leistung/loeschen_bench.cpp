@@ -51,8 +51,8 @@ struct Abgang {
 
     Testordner ordner;
     Dateisystem_Linux dateien;
-    Papierkorb_Freedesktop papierkorb{dateien, ordner.pfad("korb")};
-    Shell_Linux shell{dateien, papierkorb};
+    Papierkorb_Freedesktop korb{dateien, ordner.pfad("korb")};
+    Shell_Linux shell{dateien, korb};
     Registrierung_Linux registrierung{ordner.pfad("einstellungen.reg")};
     Fenstersystem_Linux fenster;
     Rechner_Linux rechner{ordner.pfad()};

@@ -23,18 +23,17 @@ void Dateisystem_Linux::umbenennen(const Text& von, const Text& nach) {
     Text ziel = ohne_Trenner(voll(nach));
     const Text name = Dateiname_von(ziel);
     struct stat datei {};
-    struct stat dort {};
     if (const int fehler = namen_.ansehen(quelle, datei, true); fehler != 0) werfen(fehler, von);
-    const int am_Ziel = namen_.ansehen(ziel, dort, true);
-    const bool selbst = am_Ziel == 0 && dort.st_dev == datei.st_dev && dort.st_ino == datei.st_ino;
-    const bool nur_Schreibweise = selbst && quelle == ziel && Dateiname_von(ziel) != name;
-    if (am_Ziel == 0 && !nur_Schreibweise) throw Dateifehler(58, nach);
-    if (am_Ziel != 0 && am_Ziel != ENOENT) werfen(am_Ziel, nach);
+    const int am_Ziel = namen_.vergeben(ziel);
+    const bool nur_Schreibweise = am_Ziel == EEXIST && quelle == ziel && Dateiname_von(ziel) != name;
+    if (am_Ziel != ENOENT && !nur_Schreibweise) werfen(am_Ziel, nach);
     if (offen_hier(datei) != nullptr) throw Dateifehler(75, von);
     ziel = Ordner_von(ziel) + name;
     if (::renameat2(AT_FDCWD, quelle.c_str(), AT_FDCWD, ziel.c_str(), RENAME_NOREPLACE) == 0) return;
-    // Not every file system can refuse by itself; the target was looked at just now.
-    if ((errno == EINVAL || errno == ENOSYS) && ::rename(quelle.c_str(), ziel.c_str()) == 0) return;
+    if (errno == EINVAL || errno == ENOSYS) {  // not every file system can refuse by itself
+        if (!nur_Schreibweise && ::lstat(ziel.c_str(), &datei) == 0) throw Dateifehler(58, nach);
+        if (::rename(quelle.c_str(), ziel.c_str()) == 0) return;
+    }
     werfen(errno, errno == EEXIST ? nach : von);
 }
 

@@ -3,6 +3,7 @@
 #include <dirent.h>
 #include <sys/inotify.h>
 
+#include <climits>
 #include <cstring>
 #include <ctime>
 #include <utility>
@@ -13,6 +14,8 @@ namespace {
 // Without notices only the modification time tells of changes, and the file system's clock ticks coarsely: a folder that
 // changed so shortly before it was read may change again unseen within the tick.
 constexpr long long Unschärfe_ns = 20'000'000;
+
+constexpr std::size_t längste_Nachricht = sizeof(inotify_event) + NAME_MAX + 1;
 
 long long Nanosekunden(const struct timespec& zeit) { return zeit.tv_sec * 1'000'000'000LL + zeit.tv_nsec; }
 
@@ -42,7 +45,8 @@ void Namensbuch::Nachrichten_lesen() {
     for (;;) {
         const auto länge = ungestört([&] { return ::read(nachrichten_.fd(), puffer, sizeof puffer); });
         if (länge <= 0) return;
-        for (std::size_t i = 0; i < static_cast<std::size_t>(länge);) {
+        const auto voll = static_cast<std::size_t>(länge);
+        for (std::size_t i = 0; i < voll;) {
             inotify_event nachricht;
             std::memcpy(&nachricht, puffer + i, sizeof nachricht);
             const char* name = puffer + i + sizeof nachricht;
@@ -57,6 +61,7 @@ void Namensbuch::Nachrichten_lesen() {
                 if ((nachricht.mask & (IN_DELETE | IN_MOVED_FROM)) != 0) ordner.weg(name);
             }
         }
+        if (voll + längste_Nachricht <= sizeof puffer) return;  // there was room for one more
     }
 }
 

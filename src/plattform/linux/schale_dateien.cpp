@@ -123,7 +123,8 @@ void Shell_Dateivorgang::übertragen() {
             ziel = mit_Trenner(ziel) + Dateiname_von(quelle);
             dort = dateien_.Art_von(ziel);
         }
-        if (const Text ordner = Ordner_von(ziel); dort == Pfadart::nichts && !ordner.empty()) Zielordner_anlegen(ordner);
+        if (const Text ordner = Ordner_von(ziel); dort == Pfadart::nichts && !ordner.empty() && ordner != Ordner_von(quelle))
+            Zielordner_anlegen(ordner);
         einen_übertragen(quelle, art, std::move(ziel), dort);
     }
 }

@@ -5,7 +5,6 @@
 
 namespace tonkartei {
 
-// For a path that could not be reached as it stands.
 Schreibweise::Fund Schreibweise::suchen(Text& pfad) {
     const Text glatt = ohne_Trenner(pfad);
     Text ordner = Ordner_von(glatt);
@@ -37,6 +36,14 @@ int Schreibweise::ansehen(Text& pfad, struct stat& ergebnis, bool Verweis_selbst
             case Fund::ohne_Ordner: return ENOTDIR;
             default: return ENOENT;
         }
+    }
+}
+
+int Schreibweise::vergeben(Text& pfad) {
+    switch (suchen(pfad)) {
+        case Fund::nichts: return ENOENT;
+        case Fund::ohne_Ordner: return ENOTDIR;
+        default: return EEXIST;
     }
 }
 

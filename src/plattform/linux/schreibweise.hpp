@@ -18,7 +18,9 @@ class Schreibweise {
 public:
     // 0 or the error: ENOENT when only the last name is missing, ENOTDIR when a folder is.
     int ansehen(Text& pfad, struct stat& ergebnis, bool Verweis_selbst);
-    // The existing file, or with `anlegen` otherwise a new one. Without a descriptor errno tells the failure, as above.
+    // For a name that is to be new: ENOENT when it is free, EEXIST when it is taken, ENOTDIR.
+    int vergeben(Text& pfad);
+    // The existing file; the second makes one where there is none. Without a descriptor errno tells the failure, as above.
     Deskriptor öffnen(Text& pfad, int flags);
     Deskriptor öffnen_oder_anlegen(Text& pfad, int flags, mode_t rechte);
 
