@@ -14,6 +14,7 @@
 #include "plattform/linux/befehlstext.hpp"
 #include "plattform/linux/dateisystem_linux.hpp"
 #include "plattform/linux/papierkorb_freedesktop.hpp"
+#include "plattform/offene_datei.hpp"
 #include "testordner.hpp"
 
 namespace tonkartei {
@@ -155,21 +156,30 @@ TEST_F(ShellTest, GleicheNamen) {
     EXPECT_EQ(ordner.inhalt("z"), "neu");
 }
 
-// Replacing a file by itself under another name must not be the end of it.
+// Replacing a file by itself under another name must not be the end of it, nor may two names that differ by case become one.
 TEST_F(ShellTest, ErsetzenVerliertNichts) {
-    ordner.ordner("echt");
-    ordner.datei("echt/lied", "lied");
+    ordner.datei("echt/lied", (ordner.ordner("echt"), "lied"));
     std::filesystem::create_symlink("echt", ordner.pfad("link"));
     EXPECT_NE(tu(FO_MOVE, {"link/lied"}, {"echt/lied"}, FOF_NOCONFIRMATION), "0");
     EXPECT_NE(tu(FO_COPY, {"link/lied"}, {"echt/lied"}, FOF_NOCONFIRMATION), "0");
     EXPECT_EQ(ordner.inhalt("echt/lied"), "lied");
-    // The source is open, so it cannot be moved: the target comes back.
+    // The source is open, so it cannot be moved: the target stays.
     ordner.datei("ziel", "ziel");
-    const auto griff = dateien.öffnen(ordner.pfad("echt/lied"), Dateimodus::lesen);
-    EXPECT_NE(tu(FO_MOVE, {"echt/lied"}, {"ziel"}, FOF_NOCONFIRMATION), "0");
-    dateien.schließen(griff);
-    EXPECT_EQ(ordner.inhalt("ziel"), "ziel");
-    EXPECT_EQ(ordner.inhalt("echt/lied"), "lied");
+    {
+        const Offene_Datei offen(dateien, ordner.pfad("echt/lied"), Dateimodus::lesen);
+        EXPECT_NE(tu(FO_MOVE, {"echt/lied"}, {"ziel"}, FOF_NOCONFIRMATION), "0");
+    }
+    std::filesystem::remove(ordner.pfad("link"));
+    EXPECT_EQ(stand(), "echt/lied=lied ziel=ziel ");
+
+    for (const char* name : {"ziel", "ZIEL", "zwei/a", "zwei/A"}) ordner.datei(name, (ordner.ordner("zwei"), name));
+    EXPECT_EQ(tu(FO_MOVE, {"ziel"}, {"ZIEL"}, FOF_NOCONFIRMATION), "80");
+    EXPECT_EQ(tu(FO_COPY, {"ziel"}, {"ZIEL"}, FOF_NOCONFIRMATION), "113");
+    EXPECT_EQ(tu(FO_MOVE, {"echt/lied"}, {"ziel"}, FOF_NOCONFIRMATION), "0") << "the exact one is replaced";
+    EXPECT_EQ(tu(FO_MOVE, {"zwei"}, {"fern"}, FOF_NOCONFIRMATION), "80");
+    EXPECT_EQ(tu(FO_COPY, {"zwei"}, {"ZWEI/sub"}, 0), "125") << "not into itself";
+    EXPECT_EQ(tu(FO_RENAME, {"zwei"}, {"Zwei"}), "0");
+    EXPECT_EQ(stand(), "ZIEL=ZIEL Zwei/a=zwei/a echt/ fern/A=zwei/A ziel=lied ");
 }
 
 TEST_F(ShellTest, ÜberLaufwerkeHinweg) {
@@ -227,10 +237,15 @@ TEST_F(ShellTest, Papierkorb) {
     EXPECT_FALSE(ordner.da("korb/info/x.trashinfo"));
 
     // What cannot go leaves no trace in the bin.
-    const auto griff = dateien.öffnen(ordner.datei("offen", "o"), Dateimodus::lesen);
-    EXPECT_NE(tu(FO_DELETE, {"offen"}, {}, FOF_ALLOWUNDO), "0");
+    {
+        const Offene_Datei offen(dateien, ordner.datei("offen", "o"), Dateimodus::lesen);
+        EXPECT_NE(tu(FO_DELETE, {"offen"}, {}, FOF_ALLOWUNDO), "0");
+    }
     EXPECT_FALSE(ordner.da("korb/info/offen.trashinfo"));
-    dateien.schließen(griff);
+    // A bin that is removed in between is made anew.
+    std::filesystem::remove_all(ordner.pfad("korb"));
+    EXPECT_EQ(tu(FO_DELETE, {"offen"}, {}, FOF_ALLOWUNDO), "0");
+    EXPECT_EQ(stand("korb/files"), "offen=o ");
 
     // From a volume without a bin of its own the file is carried over; if it cannot be taken away there, nothing is left
     // behind.
@@ -252,26 +267,38 @@ TEST_F(ShellTest, Papierkorb) {
 
 TEST_F(ShellTest, PapierkorbAmAnderenLaufwerk) {
     if (!anderes_Laufwerk_da(ordner)) GTEST_SKIP() << "only one volume";
-    const Text nummer = std::to_string(::geteuid());
-    const bool schon_da = std::filesystem::exists("/dev/shm/.Trash-" + nummer) || std::filesystem::exists("/dev/shm/.Trash");
-    if (schon_da) GTEST_SKIP() << "somebody's bin is there";
+    const Text oben = "/dev/shm/.Trash-" + std::to_string(::geteuid());
+    if (std::filesystem::exists(oben) || std::filesystem::exists("/dev/shm/.Trash")) GTEST_SKIP() << "somebody's bin";
     Dateisystem_Linux echte;
     Papierkorb_Freedesktop korb(echte, ordner.pfad("korb"));
     const Testordner anderer("/dev/shm");
     korb.wegwerfen(anderer.datei("lied x", "m"));
-    const Text oben = "/dev/shm/.Trash-" + nummer;
     const std::string info = Testordner::inhalt_von(oben + "/info/lied x.trashinfo");
     EXPECT_EQ(Testordner::inhalt_von(oben + "/files/lied x"), "m");
     const Text Herkunft = anderer.pfad().substr(std::string("/dev/shm/").size()) + "lied%20x\n";
     EXPECT_NE(info.find("Path=" + Herkunft), std::string::npos) << info;
     std::filesystem::remove_all(oben);
-    // A link in its place is another's trap.
-    ordner.ordner("falle");
-    std::filesystem::create_directory_symlink(ordner.pfad("falle"), oben);
-    korb.wegwerfen(anderer.datei("lied y", "m"));
-    std::filesystem::remove(oben);
-    EXPECT_EQ(stand("falle"), "");
-    EXPECT_EQ(ordner.inhalt("korb/files/lied y"), "m");
+}
+
+// The bin at the top of a volume: the administrator's if its sticky bit is set, else our own; links and what belongs to
+// others are traps.
+TEST(Papierkorb, NurSichereOrdner) {
+    const Text nummer = std::to_string(::geteuid());
+    const struct {
+        int gemeinsam;  // mode of .Trash; -1 a link, 0 none
+        char eigener;   // .Trash-UID: ' ' none, '@' a link, '!' somebody else's
+        const char* korb;
+    } fälle[] = {{01777, ' ', ".Trash/"}, {0777, ' ', ".Trash-"},  {-1, ' ', ".Trash-"}, {0, ' ', ".Trash-"},
+                 {0777, '@', ""},         {01777, '@', ".Trash/"}, {0, '!', ""}};
+    for (const auto& fall : fälle) {
+        const Testordner ordner;
+        const Text gemeinsam = ordner.pfad(".Trash"), eigener = ordner.pfad(".Trash-" + nummer);
+        if (fall.gemeinsam > 0) ::chmod(ordner.ordner(".Trash").c_str(), static_cast<mode_t>(fall.gemeinsam));
+        if (fall.gemeinsam < 0) std::filesystem::create_directory_symlink(ordner.ordner("falle"), gemeinsam);
+        if (fall.eigener == '@') std::filesystem::create_directory_symlink(ordner.ordner("falle"), eigener);
+        if (fall.eigener == '!' && ::chown(ordner.ordner(".Trash-" + nummer).c_str(), 65534, 65534) != 0) continue;
+        EXPECT_EQ(Korb_auf(ordner.pfad()).value_or(""), *fall.korb ? ordner.pfad(fall.korb + nummer + "/") : Text());
+    }
 }
 
 TEST(Befehlstext, Zerlegen) {
