@@ -10,7 +10,7 @@ bilder=$wurzel/build/tour
 arbeit=$(mktemp -d)
 bediener_prozess=
 aufraeumen() {
-    [ -z "$bediener_prozess" ] || kill "$bediener_prozess" 2>/dev/null
+    [ -z "$bediener_prozess" ] || kill "$bediener_prozess" 2>/dev/null || true
     rm -rf "$arbeit"
 }
 trap aufraeumen EXIT
