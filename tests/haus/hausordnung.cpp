@@ -54,19 +54,24 @@ struct Tür {
 constexpr std::array Türen{Tür{"programm/main.cpp", "oberflaeche/qt"}, Tür{"programm/main.cpp", "plattform/linux"},
                            Tür{"spieler/", "plattform/linux"}};
 
-std::string Ordner(std::string_view pfad) { return std::string(pfad.substr(0, pfad.rfind('/'))); }
+bool steht_in(std::string_view liste, std::string_view wort) {
+    return liste.find(" " + std::string(wort) + " ") != std::string_view::npos;
+}
+
+std::string_view Ordner(std::string_view pfad) { return pfad.substr(0, pfad.rfind('/')); }
 
 const Stock* Stock_von(std::string_view pfad) {
-    const std::string ordner = " " + Ordner(pfad) + " ";
-    const auto da = std::find_if(Stockwerke.begin(), Stockwerke.end(),
-                                 [&](const Stock& stock) { return stock.Räume.find(ordner) != std::string_view::npos; });
-    return da == Stockwerke.end() ? nullptr : &*da;
+    for (const Stock& stock : Stockwerke)
+        if (steht_in(stock.Räume, Ordner(pfad))) return &stock;
+    return nullptr;
 }
 
 bool ist_Einschluss(std::string_view zeile) {
-    const std::size_t raute = std::min(zeile.find_first_not_of(" \t"), zeile.size());
-    const std::size_t wort = std::min(zeile.find_first_not_of(" \t", raute + 1), zeile.size());
-    return zeile.substr(raute).starts_with('#') && zeile.substr(wort).starts_with("include");
+    const auto Rest = [](std::string_view text) {
+        return text.substr(std::min(text.find_first_not_of(" \t"), text.size()));
+    };
+    zeile = Rest(zeile);
+    return zeile.starts_with('#') && Rest(zeile.substr(1)).starts_with("include");
 }
 
 // Beside the including file first, then below the include folders, as the compiler looks.
@@ -91,13 +96,12 @@ Fremdes Herkunft(const std::string& kopf) {
 const char* Name(Fremdes fremdes) { return fremdes == Qt ? "Qt" : fremdes == mpv ? "libmpv" : "the machine (POSIX)"; }
 
 // Calls that headers of the standard library bring along or that need no header at all.
-constexpr std::array<std::string_view, 30> Aufrufe{
-    "localtime_r", "gmtime_r",    "timegm", "setenv",    "unsetenv", "mkstemp", "mkdtemp",   "realpath",  "popen", "pclose",
-    "fileno",      "fdopen",      "fsync",  "usleep",    "getpid",   "getuid",  "fdatasync", "ftruncate", "execv", "execvp",
-    "strcasecmp",  "strncasecmp", "dlopen", "nanosleep", "fork",     "lstat",   "fstat",     "sigaction", "mmap",  "ioctl"};
+constexpr std::string_view Aufrufe =
+    " localtime_r gmtime_r timegm setenv unsetenv mkstemp mkdtemp realpath popen pclose fileno fdopen fsync usleep getpid "
+    "getuid "
+    "fdatasync ftruncate execv execvp strcasecmp strncasecmp dlopen nanosleep fork lstat fstat sigaction mmap ioctl ";
 // Asking for the machine is a way of naming it.
-constexpr std::array<std::string_view, 6> Schalter{"__linux__", "__unix__",        "__APPLE__",
-                                                   "_WIN32",    "_POSIX_C_SOURCE", "_GNU_SOURCE"};
+constexpr std::string_view Schalter = " __linux__ __unix__ __APPLE__ _WIN32 _POSIX_C_SOURCE _GNU_SOURCE ";
 
 bool im_Wort(char zeichen) {
     const auto byte = static_cast<unsigned char>(zeichen);
@@ -105,12 +109,11 @@ bool im_Wort(char zeichen) {
 }
 
 Fremdes Herkunft_des_Wortes(std::string_view wort, bool ist_Aufruf) {
-    const auto steht_in = [&](const auto& wörter) { return std::find(wörter.begin(), wörter.end(), wort) != wörter.end(); };
     if (wort.size() > 2 && wort[0] == 'Q' && (wort[1] == '_' || std::isupper(static_cast<unsigned char>(wort[1]))))
         return Qt;
     if (wort.starts_with("mpv_")) return mpv;
-    if (steht_in(Schalter)) return POSIX;
-    if (ist_Aufruf && (steht_in(Aufrufe) || wort.starts_with("posix_") || wort.starts_with("pthread_"))) return POSIX;
+    if (steht_in(Schalter, wort)) return POSIX;
+    if (ist_Aufruf && (steht_in(Aufrufe, wort) || wort.starts_with("posix_") || wort.starts_with("pthread_"))) return POSIX;
     return nichts;
 }
 
@@ -136,11 +139,10 @@ void prüfe_Einschluss(std::string_view von, const Stock& stock, const std::stri
     if (!ziel->starts_with("src/")) return melde("leaves src/");
     const std::string_view wohin = std::string_view(*ziel).substr(4);
     const Stock* nach = Stock_von(wohin);
-    if (!nach || nach == &stock || std::any_of(Türen.begin(), Türen.end(), [&](const Tür& tür) {
-            return von.starts_with(tür.Von) && tür.Nach == Ordner(wohin);
-        }))
-        return;
-    if (nach->Höhe == Anbau) return melde("only the composition may know " + Ordner(wohin) + "/");
+    for (const Tür& tür : Türen)
+        if (von.starts_with(tür.Von) && tür.Nach == Ordner(wohin)) return;
+    if (!nach || nach == &stock) return;
+    if (nach->Höhe == Anbau) return melde("only the composition may know " + std::string(Ordner(wohin)));
     if (nach->Höhe > stock.Sicht) melde("points up a floor");
 }
 
@@ -188,10 +190,6 @@ std::string nur_Code(const std::string& text) {
     for (std::size_t i = 0; i < text.size();) {
         const std::size_t anfang = i;
         const char zeichen = text[i];
-        if (zeichen == '#' && ist_Einschluss(std::string_view(text).substr(i, 20))) {
-            i = hinter("\n", i);
-            continue;
-        }
         if (text.compare(i, 2, "//") == 0) {
             i = std::min(text.find('\n', i), text.size());
         } else if (text.compare(i, 2, "/*") == 0) {
@@ -203,7 +201,7 @@ std::string nur_Code(const std::string& text) {
             for (++i; i < text.size() && text[i] != zeichen && text[i] != '\n'; ++i) i += text[i] == '\\';
             ++i;
         } else {
-            ++i;
+            i = zeichen == '#' && ist_Einschluss(std::string_view(text).substr(i, 20)) ? hinter("\n", i) : i + 1;
             continue;
         }
         for (std::size_t j = anfang; j < std::min(i, text.size()); ++j)

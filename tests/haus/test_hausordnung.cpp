@@ -18,15 +18,13 @@ std::string Gründe(const std::vector<Verstoß>& verstöße) {
 
 Quellen lies_Projekt(const std::filesystem::path& wurzel) {
     Quellen quellen;
-    for (const char* ordner : {"src", "werkzeug", "tests", "leistung"}) {
+    for (const char* ordner : {"src", "werkzeug", "tests", "leistung"})
         for (const auto& eintrag : std::filesystem::recursive_directory_iterator(wurzel / ordner)) {
-            const auto endung = eintrag.path().extension();
-            if (!eintrag.is_regular_file() || (endung != ".cpp" && endung != ".hpp" && endung != ".h")) continue;
+            if (const auto art = eintrag.path().extension(); art != ".cpp" && art != ".hpp" && art != ".h") continue;
             std::ifstream strom(eintrag.path(), std::ios::binary);
-            quellen[eintrag.path().lexically_relative(wurzel).generic_string()].assign(std::istreambuf_iterator<char>(strom),
-                                                                                       {});
+            quellen[eintrag.path().lexically_relative(wurzel).generic_string()] = {std::istreambuf_iterator<char>(strom),
+                                                                                   {}};
         }
-    }
     return quellen;
 }
 
