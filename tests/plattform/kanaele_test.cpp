@@ -81,8 +81,7 @@ TEST_F(KanäleTest, GrenzenDesPuffers) {
         kanäle.schließen(nr);
         nr = lesend(lang + "\r\n" + std::string(länge, ' ') + "v\r\nw");
         EXPECT_TRUE(kanäle.lese_Wert(nr) == lang) << länge;
-        EXPECT_EQ(kanäle.lese_Wert(nr), "v") << länge;
-        EXPECT_EQ(kanäle.lese_Wert(nr), "w") << länge;
+        for (const char* wert : {"v", "w"}) EXPECT_EQ(kanäle.lese_Wert(nr), wert) << länge;
         kanäle.schließen(nr);
     }
 }
@@ -107,9 +106,7 @@ TEST_F(KanäleTest, NummernUndModus) {
     EXPECT_EQ(kanäle.öffnen_zum_Schreiben(ordner.pfad("schreiben")), 2);
     EXPECT_EQ(Fehler_von([&] { kanäle.schreibe_Zeile(1, "x"); }), 54);
     EXPECT_EQ(Fehler_von([&] { kanäle.lese_Zeile(2); }), 54);
-    EXPECT_EQ(Fehler_von([&] { kanäle.am_Ende(2); }), 54);
     for (const int nummer : {0, -1, 3, 256}) EXPECT_EQ(Fehler_von([&] { kanäle.lese_Zeile(nummer); }), 52);
-    EXPECT_EQ(Fehler_von([&] { kanäle.öffnen_zum_Schreiben(pfad); }), 55);
     kanäle.schließen(1);
     EXPECT_EQ(Fehler_von([&] { kanäle.schließen(1); }), 52);
     EXPECT_EQ(Fehler_von([&] { kanäle.öffnen_zum_Lesen(ordner.pfad("fehlt")); }), 53);

@@ -1,4 +1,6 @@
 // Every message that the program sends, to a real player over a real socket.
+#include <algorithm>
+
 #include "spieler/buehne.hpp"
 
 namespace tonkartei::spieler {
@@ -36,11 +38,9 @@ TEST_F(Nachrichten, GestoppteDateiIstFrei) {
     const Hwnd f = Fenster_von("Tonkartei");
     ASSERT_TRUE(läuft(f));
     const auto offen = [&] {
-        for (const auto& fd : std::filesystem::directory_iterator("/proc/" + std::to_string(pid) + "/fd")) {
-            std::error_code egal;
-            if (std::filesystem::read_symlink(fd.path(), egal) == lied) return true;
-        }
-        return false;
+        std::error_code egal;
+        return std::ranges::any_of(std::filesystem::directory_iterator("/proc/" + std::to_string(pid) + "/fd"),
+                                   [&](const auto& fd) { return std::filesystem::read_symlink(fd.path(), egal) == lied; });
     };
     EXPECT_TRUE(offen());
     Befehl(f, 40047);

@@ -113,13 +113,12 @@ TEST_F(Starten, NichtsSpielbaresIstGestoppt) {
 
 TEST_F(Starten, VieleDateienWerdenGanzÜbergeben) {
     const Hwnd f = Spieler_mit();
-    const std::string letztes = Lied("letztes.wav");
     std::vector<std::string> worte{"/CLASS=Tonkartei"};
     for (int i = 0; i < 3000; ++i) worte.push_back(Ordner.pfad("es-fehlt-" + std::to_string(i) + ".mp3"));
-    worte.push_back(letztes);
+    worte.push_back(Lied("letztes.wav"));
     EXPECT_EQ(0, Ende(starten(worte)));
     Befehl(f, 40045);
-    EXPECT_TRUE(warte([&] { return Datei(f) == letztes; }));
+    EXPECT_TRUE(warte([&] { return Datei(f) == worte.back(); }));
 }
 
 TEST(SpielerArgumente, InJederReihenfolge) {
