@@ -24,7 +24,8 @@ TEST_F(Nachrichten, WiedergabePauseStopp) {
     EXPECT_LT(Position(f), 2000) << "play on a playing song begins anew";
     Befehl(f, 40047);
     Befehl(f, 40046);
-    EXPECT_EQ(0, Status(f)) << "pause does nothing while stopped";
+    springen(f, 5000);
+    EXPECT_EQ(0, Status(f)) << "pause and jump do nothing while stopped";
     EXPECT_EQ(-1, Position(f));
     Befehl(f, 40045);
     EXPECT_TRUE(läuft(f)) << "play starts the current song again";
