@@ -17,20 +17,6 @@ constexpr std::size_t Puffergröße = 65536;
 constexpr std::size_t höchste_Nummer = 255;
 constexpr std::size_t längste_Zahl = 20;  // digits and sign of 64 bits
 
-bool nur_ASCII(std::string_view bytes) {
-    std::size_t i = 0;
-    for (; i + 8 <= bytes.size(); i += 8) {
-        std::uint64_t acht;
-        std::memcpy(&acht, bytes.data() + i, 8);
-        if (acht & 0x8080808080808080U) return false;
-    }
-    for (; i < bytes.size(); ++i)
-        if (static_cast<unsigned char>(bytes[i]) >= 0x80) return false;
-    return true;
-}
-
-Text als_Text(std::string_view bytes) { return nur_ASCII(bytes) ? Text(bytes) : aus_1252(bytes); }
-
 std::string_view ohne_Blanks_dahinter(std::string_view bytes) {
     while (!bytes.empty() && bytes.back() == ' ') bytes.remove_suffix(1);
     return bytes;
@@ -121,11 +107,6 @@ bool Kanäle::nachfüllen(Kanal& kanal) {
     return gelesen > 0;
 }
 
-bool Kanäle::am_Ende(int nummer) {
-    Kanal& kanal = zum_Lesen(nummer);
-    return kanal.stelle == kanal.ende && !nachfüllen(kanal);
-}
-
 // The view is good until the next reading from the channel.
 std::string_view Kanäle::Zeile(Kanal& kanal) {
     if (kanal.stelle == kanal.ende && !nachfüllen(kanal)) throw Dateifehler(62, kanal.pfad);
@@ -185,8 +166,8 @@ std::string_view Kanäle::Wert(Kanal& kanal, std::size_t höchstens) {
     return ohne_Blanks_dahinter(wert);
 }
 
-Text Kanäle::lese_Zeile(int nummer) { return als_Text(Zeile(zum_Lesen(nummer))); }
-Text Kanäle::lese_Wert(int nummer) { return als_Text(Wert(zum_Lesen(nummer))); }
+Text Kanäle::lese_Zeile(int nummer) { return aus_1252(Zeile(zum_Lesen(nummer))); }
+Text Kanäle::lese_Wert(int nummer) { return aus_1252(Wert(zum_Lesen(nummer))); }
 std::optional<std::string_view> Kanäle::nächster_Rohwert(int nummer, std::size_t höchstens) {
     Kanal& kanal = zum_Lesen(nummer);
     if (!am_Wert(kanal)) return std::nullopt;

@@ -37,8 +37,6 @@ public:
     void aufgeben(int nummer) noexcept;
     bool offen(int nummer) const;
 
-    // True when nothing is left to read.
-    bool am_Ende(int nummer);
     // A whole line, up to CR LF or the end of the file. A CR or LF that stands alone belongs to the line, so all
     // 256 bytes come back in a name.
     Text lese_Zeile(int nummer);

@@ -77,13 +77,6 @@ TEST_F(Fremde, UnsinnStörtDenSpielerNicht) {
         EXPECT_TRUE(beendet(s)) << "talk " << i;
         EXPECT_EQ(1, Status(f)) << "talk " << i;
     }
-    // Files that are none, in a packet that is one: what cannot be a path is not taken.
-    Anfrage dateien;
-    dateien.Art = Art::Dateien_anhängen;
-    const Deskriptor s = verbinden(f);
-    senden(s, gegrüßt);
-    senden(s, protokoll::gepackt(dateien, std::string("http://x/y.mp3\0\0relativ\0/ohne Ende", 34)));
-    EXPECT_EQ(1, Status(f));
 }
 
 TEST_F(Fremde, StummeUndVieleStörenDenSpielerNicht) {
@@ -94,14 +87,6 @@ TEST_F(Fremde, StummeUndVieleStörenDenSpielerNicht) {
         ASSERT_EQ(1, i % 10 == 0 ? Status(f) : 1) << i;
     }
     EXPECT_TRUE(beendet(stumme.back())) << "who does not greet is not kept";
-
-    // Greets and asks without ever taking an answer, with full speed.
-    const Deskriptor taub = verbinden(f);
-    senden(taub, protokoll::gepackt(Anfrage{}));
-    Anfrage frage;
-    frage.Art = Art::Auskunft;
-    for (int i = 0; i < 5000; ++i) senden(taub, protokoll::gepackt(frage));
-    EXPECT_EQ(1, Status(f));
 }
 
 TEST_F(Fremde, WasKeinFensterIstStörtDenBlickNicht) {

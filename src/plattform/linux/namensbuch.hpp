@@ -45,7 +45,7 @@ private:
 
     Deskriptor nachrichten_;
     bool ohne_Nachrichten_ = false;
-    std::array<Ordner, 4> ordner_;
+    std::array<Ordner, 16> ordner_;  // a path may need one for each of its levels
     std::size_t nächster_ = 0;
 };
 
