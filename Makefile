@@ -6,6 +6,7 @@ export DESTDIR
 
 RELEASE := build/release
 KERNE   := $(shell nproc 2>/dev/null || echo 2)
+QUELLEN := src werkzeug tests leistung
 
 .PHONY: help run test pruefen tour bench format install paket bediener bauen
 .NOTPARALLEL:
@@ -48,7 +49,7 @@ test:
 
 pruefen:
 	@sh skripte/einrichten.sh pruefen
-	@git ls-files -co --exclude-standard -- '*.cpp' '*.hpp' | xargs clang-format --dry-run -Werror
+	@find $(QUELLEN) -name '*.[ch]pp' | xargs clang-format --dry-run -Werror
 	@shellcheck .ci/run skripte/*.sh
 	@cmake --preset pruefung
 	@cmake --build --preset pruefung --target test_haus
@@ -66,7 +67,7 @@ bench:
 
 format:
 	@sh skripte/einrichten.sh format
-	@git ls-files -co --exclude-standard -- '*.cpp' '*.hpp' | xargs clang-format -i
+	@find $(QUELLEN) -name '*.[ch]pp' | xargs clang-format -i
 
 install: bauen
 	@cmake --install $(RELEASE) --prefix '$(PREFIX)'

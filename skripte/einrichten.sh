@@ -16,9 +16,9 @@ pakete="$pakete libgtest-dev libgmock-dev nlohmann-json3-dev"
 for gruppe in "$@"; do
     case $gruppe in
         leistung) pakete="$pakete libtag1-dev" ;;
-        format) pakete="$pakete git clang-format" ;;
+        format) pakete="$pakete clang-format" ;;
         # It compiles the benchmarks as well.
-        pruefen) pakete="$pakete git clang-format clang-tidy shellcheck libtag1-dev" ;;
+        pruefen) pakete="$pakete clang-format clang-tidy shellcheck libtag1-dev" ;;
         paket) pakete="$pakete dpkg-dev file" ;;
         *)
             echo "einrichten.sh: unknown group '$gruppe' (known: leistung, format, pruefen, paket)" >&2
