@@ -65,18 +65,19 @@ public:
                         t.wartung.Lieder_Namen_einlesen();
                         t.playlist_anschluss.aktualisieren();
                     }),
-             Befehl("Statistik_anzeigen", "&Statistik"),
+             Befehl("Statistik_anzeigen", "&Statistik", [this] { t.statistik.fenster.öffnen(); }),
              Befehl("zeige_Random_Liste", "&Heute gespielten...", [this] { gespielte_zeigen(); }),
              Befehl("Lieder_ab_Datum", "ab &Datum...", [this] { t.wartung.Lieder_ab_Datum(); }), Strich("Lieder_Strich2"),
              Wartung()});
     }
 
     Menüzeile Optionen() {
-        return Untermenü("OMP_Optionen", "&Optionen",
-                         {Listeneinstellungen(), Kategorien(), Allgemeines(), WinAmp(), Strich("Optionen_Strich1"),
-                          Befehl("Backup_Warnung_ändern", "nächste &Backup-Warnung"),
-                          Befehl("Menü_Display_Setup", "&Display/Tasten-Einstellungen..."), Strich("Optionen_Strich2"),
-                          Befehl("Uninstall", "&Uninstall", [this] { deinstallieren(); })});
+        return Untermenü(
+            "OMP_Optionen", "&Optionen",
+            {Listeneinstellungen(), Kategorien(), Allgemeines(), WinAmp(), Strich("Optionen_Strich1"),
+             Befehl("Backup_Warnung_ändern", "nächste &Backup-Warnung"),
+             Befehl("Menü_Display_Setup", "&Display/Tasten-Einstellungen...", [this] { t.display.setup.öffnen(); }),
+             Strich("Optionen_Strich2"), Befehl("Uninstall", "&Uninstall", [this] { deinstallieren(); })});
     }
 
     Menüzeile Hilfe() {
@@ -141,7 +142,7 @@ private:
              Befehl("Lieder_add_to_Playlist", "zur &Playlist hinzufügen",
                     [this] { t.playlist_anschluss.Lieder_add_to_Playlist(); }),
              Befehl("Lieder_add_to_Album", "zum aktuellen &Album hinzufügen"),
-             Befehl("ASCII_Datei", "Liedernamen in &Datei ausgeben")});
+             Befehl("ASCII_Datei", "Liedernamen in &Datei ausgeben", [this] { t.ausgabe.dialog.öffnen(); })});
     }
 
     Menüzeile Wartung() {

@@ -61,6 +61,10 @@ void Programm::Teile::verbinden() {
     ansicht.Kasten.verbinden([this](const Text& text) { modell.Meldung = text; });
     wiedergabe.Optionen.geändert.verbinden([this] { Menüs_nachführen(); });
 
+    const auto Hauptfenster_sperren = [this](bool gesperrt) { fenster.aktiv(!gesperrt); };
+    statistik.fenster.offen.verbinden(Hauptfenster_sperren);
+    display.setup.offen.verbinden(Hauptfenster_sperren);
+
     kontextmenüs->Winamp_Pause = [this] { wiedergabe.Spieler.Befehl(WinAmp_Code_Pause); };
 
     fenster.Kategorien.Kategorien_bearbeiten.verbinden([this] {

@@ -5,6 +5,7 @@
 #include "alben/alben_datei.hpp"
 #include "alben/album_start.hpp"
 #include "alben/album_waehlen.hpp"
+#include "ausgabe/ausgaberaum.hpp"
 #include "datenbank/datenbank_oeffnen.hpp"
 #include "datenbank/einstellungsspeicher.hpp"
 #include "datenbank/info_datei.hpp"
@@ -12,6 +13,7 @@
 #include "datenbank/m3u.hpp"
 #include "datenbank/sitzung.hpp"
 #include "datenbank/zugriffsdatei.hpp"
+#include "display/displayraum.hpp"
 #include "kategorien/kategorie_bearbeiten.hpp"
 #include "kategorien/kategorie_wahl.hpp"
 #include "lieder/hinzufuegen/dateien_uebernehmen.hpp"
@@ -50,6 +52,7 @@
 #include "programm/splash.hpp"
 #include "programm/startparameter.hpp"
 #include "programm/tonkartei.hpp"
+#include "statistik/statistikraum.hpp"
 #include "wiedergabe/wiedergabe.hpp"
 #include "wiedergabe/zufall/liedautomatik.hpp"
 
@@ -136,6 +139,10 @@ struct Programm::Teile {
     Vergleichsbericht vergleichsbericht{modell, kanäle, plattform.Dateisystem, taghead, fortschritt};
     Datum_eingeben datum_eingeben{ansicht, plattform.Rechner};
     Wartung wartung{modell, plattform.Dateisystem, einlesen, fortschritt, datum_eingeben, fenster.Lieder};
+
+    Statistikraum statistik{modell, plattform, kanäle, fortschritt, {wiedergabe.Zählung, playlist}};
+    Ausgaberaum ausgabe{modell, plattform, kanäle, fortschritt, fenster.Lieder};
+    Displayraum display{ansicht, einstellungen.Display};
 
 private:
     void verbinden();

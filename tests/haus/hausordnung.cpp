@@ -25,16 +25,13 @@ struct Raum {
 // The floors, from the ground up. Rooms of one floor may include each other, file by file without a loop. The rooms of
 // one toolkit or one machine lie just below the roof, where only the composition reaches them, yet see the seams alone.
 constexpr std::array Räume{
-    Raum{"grundlagen", 0, 0, nichts},       Raum{"plattform", 10, 10, nichts},
-    Raum{"oberflaeche", 10, 10, nichts},    Raum{"mp3", 20, 20, nichts},
-    Raum{"datenbank", 21, 21, nichts},      Raum{"alben", 30, 30, nichts},
-    Raum{"kategorien", 31, 31, nichts},     Raum{"liste", 32, 32, nichts},
-    Raum{"wiedergabe", 33, 33, nichts},     Raum{"playlist", 34, 34, nichts},
-    Raum{"lieder", 35, 35, nichts},         Raum{"statistik", 40, 40, nichts},
-    Raum{"austausch", 40, 40, nichts},      Raum{"dj", 40, 40, nichts},
-    Raum{"display", 40, 40, nichts},        Raum{"oberflaeche/qt", 50, 10, Qt},
-    Raum{"plattform/linux", 50, 10, POSIX}, Raum{"programm", 60, 60, nichts},
-    Raum{"spieler", 70, 10, POSIX | mpv},
+    Raum{"grundlagen", 0, 0, nichts},   Raum{"plattform", 10, 10, nichts},    Raum{"oberflaeche", 10, 10, nichts},
+    Raum{"mp3", 20, 20, nichts},        Raum{"datenbank", 21, 21, nichts},    Raum{"alben", 30, 30, nichts},
+    Raum{"kategorien", 31, 31, nichts}, Raum{"liste", 32, 32, nichts},        Raum{"wiedergabe", 33, 33, nichts},
+    Raum{"playlist", 34, 34, nichts},   Raum{"lieder", 35, 35, nichts},       Raum{"statistik", 40, 40, nichts},
+    Raum{"austausch", 40, 40, nichts},  Raum{"dj", 40, 40, nichts},           Raum{"display", 40, 40, nichts},
+    Raum{"ausgabe", 40, 40, nichts},    Raum{"oberflaeche/qt", 50, 10, Qt},   Raum{"plattform/linux", 50, 10, POSIX},
+    Raum{"programm", 60, 60, nichts},   Raum{"spieler", 70, 10, POSIX | mpv},
 };
 
 // Includes beyond a room's sight that are meant: from (a folder or a file) into (a folder).
