@@ -103,31 +103,27 @@ void Display_Setup::übernehmen() {
 Knoten Display_Setup::anordnung() {
     // Every such field holds a number.
     const auto Feld = [](Textfeld& feld) { return Knoten(feld).zeichen(7).dehnen(1); };
-    std::vector<Knoten> tasten, adressen, schritte;
+    const auto anfügen = [](std::vector<Knoten>& zellen, std::initializer_list<Knoten> neue) {
+        zellen.insert(zellen.end(), neue.begin(), neue.end());
+    };
+    std::vector<Knoten> tasten, display, schritte{Feder(0), Init_Wert_Text, Init_Zeit_Text};
     for (int i = 1; i <= Taster.Anzahl(); ++i)
-        for (Knoten& k :
-             std::vector<Knoten>{Taster_Text[i], Taster[i], Hi_aktiv[i], Low_aktiv[i], Knoten(Taster_Status[i]).zeichen(2)})
-            tasten.push_back(std::move(k));
-    for (const int i : {1, 3, 2, 4})
-        for (Knoten& k : std::vector<Knoten>{Display_Zeilen_Adresse_Text[i], Feld(Display_Zeilen_Adresse[i])})
-            adressen.push_back(std::move(k));
-    schritte = {Feder(0), Init_Wert_Text, Init_Zeit_Text};
+        anfügen(tasten, {Taster_Text[i], Taster[i], Hi_aktiv[i], Low_aktiv[i], Knoten(Taster_Status[i]).zeichen(2)});
+    anfügen(display, {Register_Select_Text, Knoten(Register_Select).dehnen(1), Enable_Text, Knoten(Enable).dehnen(1)});
+    anfügen(display,
+            {Display_Anzahl_Zeilen_Text, Display_Anzahl_Zeilen, Display_Anzahl_Zeichen_Text, Feld(Display_Anzahl_Zeichen)});
+    anfügen(display,
+            {Display_Befehls_Zeit_Text, Feld(Display_Befehls_Zeit), Display_Anzeige_Zeit_Text, Feld(Display_Anzeige_Zeit)});
+    // Two columns, read downwards.
+    for (const int i : {1, 3, 2, 4}) anfügen(display, {Display_Zeilen_Adresse_Text[i], Feld(Display_Zeilen_Adresse[i])});
     for (int i = 1; i <= Display_Init_aktiv.Anzahl(); ++i)
-        for (Knoten& k : std::vector<Knoten>{Display_Init_aktiv[i], Feld(Display_Init_Wert[i]), Feld(Display_Init_Zeit[i])})
-            schritte.push_back(std::move(k));
-    return Spalte(
-               {Gruppe(LPT_Rahmen, Zeile({LPT_Data_Text, Feld(LPT_Data), LPT_Stat_Text, Feld(LPT_Stat), LPT_Cont_Text,
-                                          Feld(LPT_Cont), LPT_LPT1})),
-                Zeile({Gruppe(Taster_Rahmen, Gitter(5, std::move(tasten))).dehnen(1),
-                       Gruppe(Init_Rahmen, Gitter(3, std::move(schritte))).dehnen(1)}),
-                Gruppe(Display_Rahmen, Spalte({Gitter(4, {Register_Select_Text, Knoten(Register_Select).dehnen(1),
-                                                          Enable_Text, Knoten(Enable).dehnen(1), Display_Anzahl_Zeilen_Text,
-                                                          Knoten(Display_Anzahl_Zeilen).dehnen(1),
-                                                          Display_Anzahl_Zeichen_Text, Feld(Display_Anzahl_Zeichen),
-                                                          Display_Befehls_Zeit_Text, Feld(Display_Befehls_Zeit),
-                                                          Display_Anzeige_Zeit_Text, Feld(Display_Anzeige_Zeit)}),
-                                               Gitter(4, std::move(adressen))})),
-                Zeile({Init_Test, Feder(), Knoten(Ok).zeichen(12), Knoten(Abbruch).zeichen(12)})})
+        anfügen(schritte, {Display_Init_aktiv[i], Feld(Display_Init_Wert[i]), Feld(Display_Init_Zeit[i])});
+    return Spalte({Gruppe(LPT_Rahmen, Zeile({LPT_Data_Text, Feld(LPT_Data), LPT_Stat_Text, Feld(LPT_Stat), LPT_Cont_Text,
+                                             Feld(LPT_Cont), LPT_LPT1})),
+                   Zeile({Gruppe(Taster_Rahmen, Gitter(5, std::move(tasten))).dehnen(1),
+                          Gruppe(Init_Rahmen, Gitter(3, std::move(schritte))).dehnen(1)}),
+                   Gruppe(Display_Rahmen, Gitter(4, std::move(display))),
+                   Zeile({Init_Test, Feder(), Knoten(Ok).zeichen(12), Knoten(Abbruch).zeichen(12)})})
         .rand(12 * Twips_je_Pixel);
 }
 

@@ -10,6 +10,7 @@ Abbruch_Bereich::Abbruch_Bereich(Fenster& fenster, const Modell& modell, Dateisy
     : AOption(fenster, "AOption",
               {"alle (&kürzestes Lied zuerst)", "alle &unter x Sekunden gehörte", "alle &über x Sekunden gehörte",
                "alle &x Sekunden gehörte"}),
+      ASekunden_Text(fenster, "ASekunden_Text", "x Sekunden:"),
       ASekunden(fenster, "ASekunden", "60"),
       Lieder(fenster, "A", ziel),
       fenster_(fenster),
@@ -43,7 +44,7 @@ void Abbruch_Bereich::zeigen(Abbruch_Sicht sicht) {
 }
 
 Knoten Abbruch_Bereich::knoten() {
-    return Spalte({Zeile({Gitter(2, {AOption[1], AOption[2], AOption[3], AOption[4]}),
+    return Spalte({Zeile({Gitter(2, {AOption[1], AOption[2], AOption[3], AOption[4]}), ASekunden_Text,
                           Knoten(ASekunden).zeichen(6).dehnen(1), Feder(3)}),
                    Lieder.Listenknoten(), Lieder.Knopfknoten()});
 }

@@ -14,6 +14,7 @@ public:
     Abbruch_Bereich(Fenster& fenster, const Modell& modell, Dateisystem& dateien, Kanäle& kanäle, Liedziel ziel);
 
     Elementreihe<Optionsfeld, 4> AOption;
+    Schriftfeld ASekunden_Text;
     Textfeld ASekunden;
     Liedauswahl Lieder;
 
