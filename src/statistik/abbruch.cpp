@@ -63,9 +63,9 @@ Abbruchstatistik::Liste Abbruchstatistik::auflisten(const Bestand& bestand, Abbr
     }
     liste.lieder.sortieren();
     constexpr double Tag_Sekunden = 86400;
-    for (std::size_t i = 0; i < liste.lieder.zeilen().size(); ++i) {
-        const Lied& lied = bestand.Lieder[liste.lieder.Nr(static_cast<int>(i))];
-        const Long sekunden = gerundet(Zahlwert(links(liste.lieder.zeilen()[i], Mittel_Stellen)));
+    for (const auto& sortiert : liste.lieder.zeilen()) {
+        const Lied& lied = bestand.Lieder[sortiert.Nr];
+        const Long sekunden = gerundet(Zahlwert(links(sortiert.text, Mittel_Stellen)));
         liste.zeilen.push_back(Minuten_Sekunden(sekunden / Tag_Sekunden) + ": " + lied.Artist + " - " + lied.Titel);
     }
     return liste;

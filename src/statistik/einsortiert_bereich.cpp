@@ -5,7 +5,8 @@
 #include "datenbank/modell.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fortschritts_ende.hpp"
-#include "plattform/plattform.hpp"
+#include "plattform/dateisystem.hpp"
+#include "plattform/rechner.hpp"
 
 namespace tonkartei {
 namespace {
@@ -17,7 +18,7 @@ constexpr int Abstand = 4 * Twips_je_Pixel;
 
 }  // namespace
 
-Einsortiert_Bereich::Einsortiert_Bereich(Fenster& fenster, const Modell& modell, const Plattform& plattform,
+Einsortiert_Bereich::Einsortiert_Bereich(Fenster& fenster, const Modell& modell, Dateisystem& dateien, Rechner& rechner,
                                          Fortschritts_Fenster& fortschritt)
     : Einsortiert_Jahr_Text(fenster, "Einsortiert_Jahr_Text", "&Jahr:"),
       Einsortiert_Jahr(fenster, "Einsortiert_Jahr"),
@@ -30,7 +31,8 @@ Einsortiert_Bereich::Einsortiert_Bereich(Fenster& fenster, const Modell& modell,
                     {"Jan", "Feb", "Mrz", "Apr", "Mai", "Jun", "Jul", "Aug", "Sep", "Okt", "Nov", "Dez"}),
       Monat_Anzahl(fenster, "Monat_Anzahl"),
       modell_(modell),
-      plattform_(plattform),
+      dateien_(dateien),
+      rechner_(rechner),
       fortschritt_(fortschritt) {
     Einsortiert_Jahr.tooltip("Das Jahr, dessen Verlauf gezeigt wird.");
     Einsortiert_Anzahl.eingerahmt = true;
@@ -75,7 +77,7 @@ void Einsortiert_Bereich::lesen() {
                 " in der Datenbank!" + Text(CRCR) +
                 "Benutzen sie die Funktion Lücken suchen/auffüllen unter Lieder/Wartung/Fehlersuche!");
     const auto& zeilen = Einsortiert_Jahr.zeilen();
-    const auto dieses = std::find(zeilen.begin(), zeilen.end(), Zahltext(plattform_.Rechner.jetzt().Jahr));
+    const auto dieses = std::find(zeilen.begin(), zeilen.end(), Zahltext(rechner_.jetzt().Jahr));
     if (dieses != zeilen.end()) Einsortiert_Jahr.wähle(static_cast<int>(dieses - zeilen.begin()));
 }
 
@@ -88,7 +90,7 @@ Long Einsortiert_Bereich::Daten_lesen(std::vector<Text>& Jahre) {
     std::vector<int> jahre;
     Long fehlende = 0;
     for (Long nr = 1; nr <= anzahl; ++nr) {
-        if (const auto datum = plattform_.Dateisystem.Änderungszeit(modell_.Lied_Pfad(nr))) {
+        if (const auto datum = dateien_.Änderungszeit(modell_.Lied_Pfad(nr))) {
             Datei_Datum_[static_cast<std::size_t>(nr - 1)] = *datum;
             if (std::find(jahre.begin(), jahre.end(), datum->Jahr) == jahre.end()) jahre.push_back(datum->Jahr);
         } else {
@@ -111,7 +113,7 @@ void Einsortiert_Bereich::zeichnen() {
     grund.Höhe = Einsortiert_Grafik.höhe();
     grund.Gipfel = static_cast<Long>(Datei_Datum_.size());
     Einsortiert_Anzahl.beschriftung(Zahltext(verlauf.Jahr_Anzahl));
-    Einsortiert_Grafik.linien(Verlauf_zeichnen(verlauf, grund, plattform_.Rechner.jetzt()));
+    Einsortiert_Grafik.linien(Verlauf_zeichnen(verlauf, grund, rechner_.jetzt()));
     for (int m = 1; m <= Monate; ++m) Monat_Anzahl[m].beschriftung(Zahltext(verlauf.Monat_Anzahl(m)));
 }
 

@@ -10,13 +10,13 @@
 
 namespace tonkartei {
 
+class Dateisystem;
 class Rechner;
 struct Modell;
-struct Plattform;
 
 class Einsortiert_Bereich {
 public:
-    Einsortiert_Bereich(Fenster& fenster, const Modell& modell, const Plattform& plattform,
+    Einsortiert_Bereich(Fenster& fenster, const Modell& modell, Dateisystem& dateien, Rechner& rechner,
                         Fortschritts_Fenster& fortschritt);
 
     Schriftfeld Einsortiert_Jahr_Text;
@@ -44,7 +44,8 @@ private:
     void markieren(int Monat, int Reihe);
 
     const Modell& modell_;
-    const Plattform& plattform_;
+    Dateisystem& dateien_;
+    Rechner& rechner_;
     Fortschritts_Fenster& fortschritt_;
     std::vector<Zeitpunkt> Datei_Datum_;  // of each song
 };

@@ -32,10 +32,9 @@ Gehört_Liste Gehört_auflisten(const Bestand& bestand, Gehört_Sicht sicht, dou
         if (sicht != Gehört_Sicht::genau || anzahl == x) liste.lieder.hinzufügen(Schlüssel(sicht, anzahl), nr);
     }
     liste.lieder.sortieren();
-    const int anzahl = static_cast<int>(liste.lieder.zeilen().size());
     liste.zeilen.reserve(liste.lieder.zeilen().size());
-    for (int i = 0; i < anzahl; ++i) {
-        const Lied& lied = bestand.Lieder[liste.lieder.Nr(i)];
+    for (const auto& sortiert : liste.lieder.zeilen()) {
+        const Lied& lied = bestand.Lieder[sortiert.Nr];
         liste.Insgesamt += lied.Anzahl;
         Text zeile;
         zeile.reserve(lied.Artist.size() + lied.Titel.size() + 9);

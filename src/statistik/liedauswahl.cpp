@@ -29,7 +29,9 @@ Knoten Liedauswahl::Knopfknoten() {
     return Zeile({Knoten(Lied_starten).zeichen(14), Knoten(Lied_in_Playlist).zeichen(14), Feder()});
 }
 
-Long Liedauswahl::gewähltes_Lied() const { return Liste.gewählt() < 0 ? 0 : lieder_.Nr(Liste.gewählt()); }
+Long Liedauswahl::gewähltes_Lied() const {
+    return Liste.gewählt() < 0 ? 0 : lieder_.zeilen().at(static_cast<std::size_t>(Liste.gewählt())).Nr;
+}
 
 // The lines stay as they are, whatever the start counts.
 void Liedauswahl::starten() {

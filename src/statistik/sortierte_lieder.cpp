@@ -11,14 +11,19 @@ constexpr int Nr_Stellen = 4;
 
 void Sortierte_Lieder::hinzufügen(Text Schlüssel, Long Nr) {
     Schlüssel += Zahl_mit_Nullen(Nr, Nr_Stellen);
-    zeilen_.push_back(std::move(Schlüssel));
+    zeilen_.push_back({std::move(Schlüssel), Nr});
 }
 
 // Digits, points and signs alone: the order of the bytes is that of the texts.
-void Sortierte_Lieder::sortieren() { std::sort(zeilen_.begin(), zeilen_.end()); }
+void Sortierte_Lieder::sortieren() {
+    std::sort(zeilen_.begin(), zeilen_.end(), [](const Zeile& a, const Zeile& b) { return a.text < b.text; });
+}
 
-Long Sortierte_Lieder::Nr(int zeile) const {
-    return gerundet(Zahlwert(rechts(zeilen_.at(static_cast<std::size_t>(zeile)), Nr_Stellen)));
+std::vector<Text> Sortierte_Lieder::texte() const {
+    std::vector<Text> texte;
+    texte.reserve(zeilen_.size());
+    for (const Zeile& zeile : zeilen_) texte.push_back(zeile.text);
+    return texte;
 }
 
 }  // namespace tonkartei

@@ -11,17 +11,21 @@ namespace tonkartei {
 
 class Sortierte_Lieder {
 public:
+    struct Zeile {
+        Text text;
+        Long Nr;  // as its last four characters tell
+    };
+
     void vormerken(Long zeilen) { zeilen_.reserve(static_cast<std::size_t>(zeilen)); }
     void hinzufügen(Text Schlüssel, Long Nr);
     // To be called once all are there.
     void sortieren();
 
-    const std::vector<Text>& zeilen() const noexcept { return zeilen_; }
-    // Number of the song on a line, from 0.
-    Long Nr(int zeile) const;
+    const std::vector<Zeile>& zeilen() const noexcept { return zeilen_; }
+    std::vector<Text> texte() const;
 
 private:
-    std::vector<Text> zeilen_;
+    std::vector<Zeile> zeilen_;
 };
 
 }  // namespace tonkartei

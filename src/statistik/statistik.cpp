@@ -9,7 +9,7 @@ Statistik::Statistik(const Modell& modell, const Plattform& plattform, Kanäle& 
                      Liedziel ziel)
     : Fenster(fortschritt.ansicht(), "Statistik", "Statistik"),
       Gehört(*this, modell, ziel),
-      Einsortiert(*this, modell, plattform, fortschritt),
+      Einsortiert(*this, modell, plattform.Dateisystem, plattform.Rechner, fortschritt),
       Kategorien(*this, modell),
       Abbruch(*this, modell, plattform.Dateisystem, kanäle, ziel),
       modell_(modell) {
@@ -75,8 +75,8 @@ void Statistik::füllen(int tab) {
 
 void Statistik::Sortierung_nachführen(int tab) {
     if (tab != Tabs.wert()) return;
-    if (tab == Tab_Gehört) Sortier_Liste.setzen(Gehört.Lieder.lieder().zeilen());
-    if (tab == Tab_Abbruch) Sortier_Liste.setzen(Abbruch.Lieder.lieder().zeilen());
+    if (tab == Tab_Gehört) Sortier_Liste.setzen(Gehört.Lieder.lieder().texte());
+    if (tab == Tab_Abbruch) Sortier_Liste.setzen(Abbruch.Lieder.lieder().texte());
 }
 
 Knoten Statistik::anordnung() {

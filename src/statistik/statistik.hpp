@@ -11,6 +11,8 @@
 
 namespace tonkartei {
 
+struct Plattform;
+
 class Statistik : public Fenster {
 public:
     Statistik(const Modell& modell, const Plattform& plattform, Kanäle& kanäle, Fortschritts_Fenster& fortschritt,
