@@ -2,15 +2,17 @@
 // their time.
 #include <sys/stat.h>
 
-#include "datenbank/einstellungen.hpp"
-#include "datenbank/m3u.hpp"
+#include "alben/albenraum.hpp"
+#include "datenbank/datenbankraum.hpp"
+#include "kategorien/kategorienbereich.hpp"
+#include "kategorien/kategorienraum.hpp"
 #include "leistung/sammlung.hpp"
 #include "leistung/speicher.hpp"
 #include "leistung/verhaeltnis.hpp"
+#include "liste/listenbereich.hpp"
 #include "playlist/playlist.hpp"
 #include "probe/stumme_ansicht.hpp"
 #include "statistik/statistikraum.hpp"
-#include "wiedergabe/wiedergabe.hpp"
 
 using namespace tonkartei;
 
@@ -18,24 +20,27 @@ int main() {
     const Sammlung sammlung;
     Speicherprobe probe;
     Stumme_Ansicht ansicht;
-    Modell modell;
-    Einstellungen einstellungen;
-    Kanäle kanäle{probe.dateien};
-    Fortschritts_Fenster fortschritt{ansicht};
-    Wiedergabe wiedergabe{modell, einstellungen, probe.maschine(), kanäle, ansicht};
-    const M3U m3u{modell, kanäle};
-    Playlist playlist{ansicht, modell, einstellungen, probe.dateien, m3u};
-    Statistikraum statistik{modell, probe.maschine(), kanäle, fortschritt, {wiedergabe.Zählung, playlist}};
+    Haus haus{probe.maschine(), ansicht};
+    Datenbankraum datenbank{haus};
+    Albenraum alben{datenbank};
+    Kategorienraum kategoriefenster{haus};
+    Wiedergabe wiedergabe{haus};
+    Fenster haupt{ansicht, "Tonkartei", "Tonkartei"};
+    Kategorienbereich kategorien{haupt, haus.modell, haus.einstellungen, kategoriefenster.bearbeiten};
+    Listenbereich lieder{haupt, haus, alben, kategorien};
+    Playlist playlist{haus, datenbank.m3u, lieder, wiedergabe.Starter};
+    Statistikraum statistik{haus, wiedergabe, playlist};
 
-    Standard_Datenbank(modell, true);
-    modell.Datenbank_Verzeichnis = sammlung.Ordner();
-    modell.Datenbank_offen = true;
-    modell.Anzahl_Lieder = Sammlung::Anzahl;
+    Standard_Datenbank(haus.modell, true);
+    haus.modell.Datenbank_Verzeichnis = sammlung.Ordner();
+    haus.modell.Datenbank_offen = true;
+    haus.modell.Anzahl_Lieder = Sammlung::Anzahl;
     for (Long nr = 1; nr <= Sammlung::Anzahl; ++nr) {
-        modell.Lieder[nr].Artist = "Some Band With A Name " + std::to_string(nr * 7919 % 997);
-        modell.Lieder[nr].Titel = "A title of the usual length no. " + std::to_string(nr);
-        modell.Lieder[nr].Anzahl = nr * 7919 % 61;
-        modell.Lieder[nr].Kategorie = static_cast<Byte>(1 + nr % 6);
+        Lied& lied = haus.modell.Lieder[nr];
+        lied.Artist = "Some Band With A Name " + std::to_string(nr * 7919 % 997);
+        lied.Titel = "A title of the usual length no. " + std::to_string(nr);
+        lied.Anzahl = nr * 7919 % 61;
+        lied.Kategorie = static_cast<Byte>(1 + nr % 6);
     }
     const auto fragen = [&] {
         std::size_t summe = 0;

@@ -1,12 +1,13 @@
 // The display, put together: so far the dialog of its settings.
 #pragma once
 
+#include "datenbank/haus.hpp"
 #include "display/display_setup.hpp"
 
 namespace tonkartei {
 
 struct Displayraum {
-    Displayraum(Ansicht& ansicht, Display_Einstellungen& werte) : setup(ansicht, werte) {}
+    explicit Displayraum(Haus& haus) : setup(haus.ansicht, haus.einstellungen.Display) {}
     Displayraum(const Displayraum&) = delete;
     Displayraum& operator=(const Displayraum&) = delete;
 

@@ -1,18 +1,16 @@
 #include "statistik/statistik.hpp"
 
-#include "oberflaeche/ansicht.hpp"
-#include "plattform/plattform.hpp"
+#include "datenbank/haus.hpp"
 
 namespace tonkartei {
 
-Statistik::Statistik(const Modell& modell, const Plattform& plattform, Kanäle& kanäle, Fortschritts_Fenster& fortschritt,
-                     Liedziel ziel)
-    : Fenster(fortschritt.ansicht(), "Statistik", "Statistik"),
-      Gehört(*this, modell, ziel),
-      Einsortiert(*this, modell, plattform.Dateisystem, plattform.Rechner, fortschritt),
-      Kategorien(*this, modell),
-      Abbruch(*this, modell, plattform.Dateisystem, kanäle, ziel),
-      modell_(modell) {
+Statistik::Statistik(Haus& haus, Liedziel ziel)
+    : Fenster(haus.ansicht, "Statistik", "Statistik"),
+      Gehört(*this, haus.modell, ziel),
+      Einsortiert(*this, haus.modell, haus.plattform.Dateisystem, haus.plattform.Rechner, haus.fortschritt),
+      Kategorien(*this, haus.modell),
+      Abbruch(*this, haus.modell, haus.plattform.Dateisystem, haus.kanäle, ziel),
+      modell_(haus.modell) {
     Sortier_Liste.unsichtbarer_Helfer = true;
     Abbruchknopf = &Ok;
     for (Rahmen& rahmen : Tabrahmen) rahmen.sichtbar(rahmen.Index() == Tab_Gehört + 1);

@@ -11,12 +11,11 @@
 
 namespace tonkartei {
 
-struct Plattform;
+struct Haus;
 
 class Statistik : public Fenster {
 public:
-    Statistik(const Modell& modell, const Plattform& plattform, Kanäle& kanäle, Fortschritts_Fenster& fortschritt,
-              Liedziel ziel);
+    Statistik(Haus& haus, Liedziel ziel);
 
     Reiter Tabs{*this, "Ansicht", {"&Anzahl gehört", "&Einsortiert", "&Kategorien", "Abbgebrochene"}};
     Elementreihe<Rahmen, 4> Tabrahmen{*this, "Ansicht_Rahmen"};  // one for each tab

@@ -2,13 +2,12 @@
 #pragma once
 
 #include "statistik/statistik.hpp"
+#include "wiedergabe/wiedergabe.hpp"
 
 namespace tonkartei {
 
 struct Statistikraum {
-    Statistikraum(const Modell& modell, const Plattform& plattform, Kanäle& kanäle, Fortschritts_Fenster& fortschritt,
-                  Liedziel ziel)
-        : fenster(modell, plattform, kanäle, fortschritt, ziel) {}
+    Statistikraum(Haus& haus, Wiedergabe& wiedergabe, Playlist& playlist) : fenster(haus, {wiedergabe.Zählung, playlist}) {}
     Statistikraum(const Statistikraum&) = delete;
     Statistikraum& operator=(const Statistikraum&) = delete;
 
