@@ -85,9 +85,11 @@ bool Programm::Teile::darf_schließen(Schließgrund grund) {
     }
     lieder_.hinzufügen.übernahme.abschließen();
     if (!haus_.modell.Datenbank_offen || datenbank_.sitzung.schreibe_Datenbank(!von_außen)) return true;
-    return haus_.ansicht.fragen(
+    const bool beenden = haus_.ansicht.fragen(
         "Programm beenden",
         "Wollen sie das Prorgamm wirklich beenden, ohne das die alten Informationen gespeichert wurden?");
+    if (beenden || von_außen) datenbank_.sitzung.ungespeichert_verlassen();
+    return beenden;
 }
 
 void Programm::Teile::wird_geschlossen() {

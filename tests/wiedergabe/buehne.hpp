@@ -67,7 +67,8 @@ public:
     explicit Fenster_Bühne(Aufzeichnung& aufzeichnung) : aufzeichnung_(aufzeichnung) {}
     std::vector<Eintrag> Fenster;  // in window order
 
-    std::int32_t SendMessageA(Hwnd fenster, std::uint32_t nachricht, std::int32_t w, std::int64_t l) override {
+    std::optional<std::int32_t> SendMessageA(Hwnd fenster, std::uint32_t nachricht, std::int32_t w,
+                                             std::int64_t l) override {
         if (nachricht == WM_CLOSE) {
             aufzeichnung_.push_back("schließen " + Zahltext(fenster));
             std::erase_if(Fenster, [&](const Eintrag& e) { return e.Griff == fenster; });

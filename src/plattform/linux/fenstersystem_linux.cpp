@@ -221,14 +221,18 @@ std::optional<Fenstersystem_Linux::Rückgabe> Fenstersystem_Linux::Antwort_abwar
     return std::nullopt;
 }
 
-std::int32_t Fenstersystem_Linux::SendMessageA(Hwnd fenster, std::uint32_t nachricht, std::int32_t w, std::int64_t l) {
+std::optional<std::int32_t> Fenstersystem_Linux::SendMessageA(Hwnd fenster, std::uint32_t nachricht, std::int32_t w,
+                                                              std::int64_t l) {
     Anfrage anfrage;
     anfrage.Art = Art::Nachricht;
     anfrage.Nachricht = nachricht;
     anfrage.w = w;
     anfrage.l = l;
-    const auto antwort = fragen(fenster, anfrage);
-    return antwort ? antwort->Antwort.Ergebnis : 0;
+    if (const auto antwort = fragen(fenster, anfrage)) return antwort->Antwort.Ergebnis;
+    // Who has gone is no longer registered; who still is owes the answer.
+    const auto i = einträge_.find(fenster);
+    if (i != einträge_.end() && i->second.angemeldet) return std::nullopt;
+    return 0;
 }
 
 Hwnd Fenstersystem_Linux::FindWindowA(const Text& klasse) {

@@ -24,7 +24,7 @@ public:
     Fenstersystem_Linux(const Fenstersystem_Linux&) = delete;
     Fenstersystem_Linux& operator=(const Fenstersystem_Linux&) = delete;
 
-    std::int32_t SendMessageA(Hwnd fenster, std::uint32_t nachricht, std::int32_t w, std::int64_t l) override;
+    std::optional<std::int32_t> SendMessageA(Hwnd fenster, std::uint32_t nachricht, std::int32_t w, std::int64_t l) override;
     Hwnd FindWindowA(const Text& klasse) override;
     Hwnd GetWindow(Hwnd fenster, std::uint32_t art) override;
     Text GetClassNameA(Hwnd fenster) override;
