@@ -23,6 +23,7 @@ Display_Setup::Display_Setup(Ansicht& ansicht, Display_Einstellungen& werte)
     LPT_LPT1.tooltip("Setzt die Werte für Daten-, Status- und Controlport auf die Standartwerte für LPT1");
     for (int i = 1; i <= Taster.Anzahl(); ++i)
         Hi_aktiv[i].Gruppe = Low_aktiv[i].Gruppe = "Taster_aktiv(" + Zahltext(i) + ")";
+    Listen_füllen();
     LPT_LPT1.Klick.verbinden([this] {
         LPT_Data.text("888");
         LPT_Stat.text("889");
@@ -41,6 +42,8 @@ void Display_Setup::öffnen() {
         "Display-Einstellungen",
         "Dieser Menü-Punkt ist in Planung und soll es dieser Software ermöglichen als Stand-Alone-MP3-Player "
         "mit LCD-Display und Steuerungstasten zu arbeiten.");
+    // The end of the program may have come while the box was up.
+    if (ansicht().endet()) return;
     laden();
     Reset();
     zeigen();
@@ -54,9 +57,6 @@ void Display_Setup::Listen_füllen() {
 }
 
 void Display_Setup::Reset() {
-    Listen_füllen();
-    // The lists have just got their widths.
-    neu_anordnen();
     eintragen(LPT_Data, werte_.Datenport);
     eintragen(LPT_Stat, werte_.Statusport);
     eintragen(LPT_Cont, werte_.Controlport);

@@ -104,6 +104,9 @@ void Programm::Teile::wird_geschlossen() {
     haus_.einstellungen.Kategorien = fenster_.Kategorien.Kategorien_Maske();
     playlist_.Hauptfenster_schließt();
     einstellungen_.schreiben();
+    statistik_.fenster.entladen();
+    ausgabe_.dialog.entladen();
+    display_.setup.entladen();
     splash_.entladen();
     infofenster_.entladen();
     kategorien_.wahl.entladen();
