@@ -92,9 +92,11 @@ TEST_F(Statistikbühne, EinJahrAlsLinie) {
     statistik({.Lieder = std::vector<Probelied>(7)},
               {2026y / 3 / 31, 2025y / 2 / 28, {}, 2024y / 12 / 31, 2026y / 1 / 1, 2026y / 3 / 3, 2025y / 12 / 31});
     tu({"wähle Ansicht 1"});
-    EXPECT_EQ(geschehen(), (Zeilen{"Fortschritt|Datum der MP3-Dateien lesen...",
-                                   "Fehler beim einlesen der Daten|Achtung: Es fehlt ein Lied in der Datenbank!\n\nBenutzen "
-                                   "sie die Funktion Lücken suchen/auffüllen unter Lieder/Wartung/Fehlersuche!|i"}));
+    EXPECT_EQ(b->ereignis("fortschritt")["text"], "Datum der MP3-Dateien lesen...");
+    EXPECT_EQ(b->ereignis("meldung")["titel"], "Fehler beim einlesen der Daten");
+    EXPECT_EQ(b->meldung(),
+              "Achtung: Es fehlt ein Lied in der Datenbank!\n\nBenutzen sie die Funktion Lücken "
+              "suchen/auffüllen unter Lieder/Wartung/Fehlersuche!");
     hand("antwort OK");
     EXPECT_EQ(zeilen("Einsortiert_Jahr"), (Zeilen{"2024", "2025", "2026"}));
     EXPECT_EQ(texte({"Einsortiert_Jahr", "Einsortiert_Anzahl", "Monat_Anzahl(1)", "Monat_Anzahl(2)", "Monat_Anzahl(3)",
@@ -155,15 +157,16 @@ TEST_F(Statistikbühne, KategorienAlsBalken) {
             EXPECT_LE(maß("Kategorie_Name", 20, "oben") + 200, maß("Kategorien_Rahmen", "höhe"));
         }
         hände({"schließe Statistik", "klick Tonkartei.Statistik_anzeigen", "klick Statistik.Kategorie_Name(1)"});
-        EXPECT_EQ(geschehen(), Zeilen{"FEHLER kein solches Element: Statistik.Kategorie_Name(1)"});
+        EXPECT_EQ(b->fehler(), "kein solches Element: Statistik.Kategorie_Name(1)");
     }
 }
 
 TEST_F(Statistikbühne, AbgebrocheneMitSeltsamenSätzen) {
     statistik({.Lieder = {{"A", "a"}, {"B", "b"}, {"C", "c"}, {"D", "d"}}});
-    hände({"wähle Statistik.Ansicht 3", "antwort OK"});
-    EXPECT_EQ(geschehen(), Zeilen{"Statistik abbgebrochen gehörte Lieder|In dieser Datenbank existiert keine Statistik über "
-                                  "abbgebrochen angehörte Lieder.|i"});
+    tu({"wähle Ansicht 3"});
+    EXPECT_EQ(b->ereignis("meldung")["titel"], "Statistik abbgebrochen gehörte Lieder");
+    EXPECT_EQ(b->meldung(), "In dieser Datenbank existiert keine Statistik über abbgebrochen angehörte Lieder.");
+    hand("antwort OK");
     EXPECT_EQ(maß("Ansicht", "wert"), 0);
     // Song 1: 30 and 90. Song 2: 61 in 21 listens. Song 3: 0, 1, 9, 8, and what does not count. 4999 is nobody's.
     std::string sätze =
@@ -187,7 +190,7 @@ TEST_F(Statistikbühne, AbgebrocheneMitSeltsamenSätzen) {
     EXPECT_EQ(zeilen("Sortier_Liste").size(), 4U);
     ordner.datei("a/MP3_Info.ABR", "   1: 5\r\n5001: 1\r\n");
     hände({"klick Statistik.Ok", "klick Tonkartei.Statistik_anzeigen", "wähle Statistik.Ansicht 3"});
-    EXPECT_EQ(geschehen(), Zeilen{"Laufzeitfehler|9"});
+    EXPECT_EQ(b->ereignis("laufzeitfehler")["nummer"], 9);
     EXPECT_EQ(b->Ende_abwarten(), 1);
 }
 
