@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "alben/alben_datei.hpp"
+#include "alben/albenraum.hpp"
 #include "datenbank/abr_datei.hpp"
-#include "datenbank/haus.hpp"
+#include "datenbank/datenbankraum.hpp"
 #include "leistung/verhaeltnis.hpp"
 #include "lieder/lied_nachruecken.hpp"
 #include "lieder/lieder_entfernen.hpp"
@@ -21,8 +21,7 @@
 #include "plattform/linux/shell_linux.hpp"
 #include "probe/stumme_ansicht.hpp"
 #include "testordner.hpp"
-#include "wiedergabe/winamp/fenstersuche.hpp"
-#include "wiedergabe/winamp/winamp.hpp"
+#include "wiedergabe/wiedergabe.hpp"
 
 using namespace tonkartei;
 
@@ -61,14 +60,12 @@ struct Abgang {
     Ja_Ansicht ansicht;
     Haus haus{{dateien, registrierung, fenster, shell, rechner}, ansicht};
     Modell& modell = haus.modell;
-    Alben alben{rechner, ansicht};
-    Alben_Datei alben_datei{modell, alben, haus.kanäle, dateien, ansicht};
+    Datenbankraum datenbank{haus};
+    Albenraum alben{datenbank};
+    Wiedergabe wiedergabe{haus};
     ABR_Datei abr{modell, dateien, haus.kanäle};
-    Lied_nachrücken nachrücken{modell, alben_datei, abr};
-    Winamp_Steuerung steuerung{fenster};
-    Fenstersuche suche{fenster, ansicht};
-    WinAmp spieler{haus.einstellungen, steuerung, suche, rechner};
-    Lieder_entfernen entfernen{haus, nachrücken, spieler};
+    Lied_nachrücken nachrücken{modell, alben.datei, abr};
+    Lieder_entfernen entfernen{haus, nachrücken, wiedergabe.Spieler};
 
 private:
     Long anzahl_;

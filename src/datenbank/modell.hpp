@@ -46,6 +46,8 @@ struct Modell : Bestand {
     // The arrays may be used; every command that touches the collection tests it.
     bool Datenbank_offen = false;
     bool erste_Datenbank_geladen = false;
+    // Files are being moved and records follow: what is in memory and what is on the disk do not belong together.
+    bool im_Umbau = false;
     // Converted into the temporary folder only: read, never saved back.
     bool konvertiert_in_Temp = false;
     Text Temp_Info_Datei;

@@ -236,7 +236,7 @@ void Ansicht_Bediener::an_Laufzeitfehler_enden(const Laufzeitfehler& fehler) {
     ausgeben(Json::Objekt()
                  .mit("ereignis", "laufzeitfehler")
                  .mit("nummer", fehler.Nummer())
-                 .mit("text", einheitliche_Umbrüche(fehler.Beschreibung()))
+                 .mit("text", einheitliche_Umbrüche(Fehlertext(fehler)))
                  .text());
     ausgeben(Json::Objekt().mit("bereit", "ende").text());
     abbrechen(1);

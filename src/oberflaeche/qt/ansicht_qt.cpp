@@ -221,14 +221,15 @@ void Ansicht_Qt::Zeitgeber_entfernt(Zeitgeber& zeitgeber) {
 }
 
 void Ansicht_Qt::an_Laufzeitfehler_enden(const Laufzeitfehler& fehler) {
+    const Text text = Fehlertext(fehler);
     if (!innen_->sitzung_endet) {
         Meldungsfeld feld;
         feld.titel = "Tonkartei";
-        feld.text = "Laufzeitfehler '" + std::to_string(fehler.Nummer()) + "':" + Text(CRCR) + fehler.Beschreibung();
+        feld.text = "Laufzeitfehler '" + std::to_string(fehler.Nummer()) + "':" + Text(CRCR) + text;
         feld.quelle = "laufzeit";
         innen_->zeigen([&](QWidget* eltern) { return Meldung_zeigen(feld, eltern); });
     }
-    // At once: nothing is saved, no destructor runs, the access file stays.
+    // At once: nothing more is saved, no destructor runs, the access file stays.
     std::_Exit(1);
 }
 
