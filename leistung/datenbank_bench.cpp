@@ -2,6 +2,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <string>
 #include <vector>
@@ -92,8 +94,10 @@ int main(int, char** argv) {
         return bytes.size();
     };
     v.höchstens("Speichern von 5000 Liedern", 3, "dieselben Bytes schreiben", durch_uns, von_Hand);
+    // A disk takes as long as it likes: more rounds.
     dateien.wartet = true;
-    v.Uhr = verstrichene_Zeit;
-    v.höchstens("dasselbe, bis es auf der Platte ist", 1.5, "dieselben Bytes, bis sie es sind", durch_uns, von_Hand);
-    return v.Ergebnis();
+    Verhältnisse platte(101);
+    platte.Uhr = verstrichene_Zeit;
+    platte.höchstens("dasselbe, bis es auf der Platte ist", 1.5, "dieselben Bytes, bis sie es sind", durch_uns, von_Hand);
+    return std::max(v.Ergebnis(), platte.Ergebnis());
 }
