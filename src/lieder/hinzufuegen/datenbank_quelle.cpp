@@ -91,7 +91,7 @@ bool Datenbank_Quelle::lesen(const Text& datei, int& nummer, std::vector<Fund>& 
     for (int kopfzeile = 1; kopfzeile <= 2; ++kopfzeile) kanäle_.lese_Wert(nummer);
     kategorien = Kategorien_lesen(nummer);
     const auto anzahl_kategorien = kategorien.size();
-    zuordnung_.Quell_Kategorien = std::move(kategorien);
+    zuordnung_.Quelle_setzen(std::move(kategorien));
 
     kanäle_.lese_Byte(nummer);  // schemes offered
     for (int s = 1; s <= Schemas_maximal; ++s) {
