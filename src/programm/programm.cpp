@@ -88,7 +88,7 @@ bool Programm::Teile::darf_schließen(Schließgrund grund) {
     const bool beenden = haus_.ansicht.fragen(
         "Programm beenden",
         "Wollen sie das Prorgamm wirklich beenden, ohne das die alten Informationen gespeichert wurden?");
-    if (beenden || von_außen) datenbank_.sitzung.ungespeichert_verlassen();
+    if (beenden || fenster_.Ende_von_außen()) datenbank_.sitzung.ungespeichert_verlassen();
     return beenden;
 }
 

@@ -150,7 +150,7 @@ public:
         z.zu_Ende();
         if (wie == "extern") {
             if (!f.geladen()) throw Befehlsfehler("das Fenster ist nicht geladen: " + f.Name());
-            a_.von_außen([&] { f.schließen(Schließgrund::außen); });
+            a_.von_außen_schließen(f);
             return;
         }
         if (!wie.empty()) throw Befehlsfehler("unbekannt: " + wie);
