@@ -72,7 +72,7 @@ int main() {
         for (std::string zeile; std::getline(strom, zeile);) zeilen.push_back(zeile);
         return zeilen.size();
     });
-    v.höchstens("Speichern von 5000 Alben", 5, "dieselben Bytes schreiben", schreiben, [&] {
+    v.höchstens("Speichern von 5000 Alben", 6, "dieselben Bytes schreiben", schreiben, [&] {
         std::ofstream strom(pfad, std::ios::binary);
         strom.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
         return bytes.size();
