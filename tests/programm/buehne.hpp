@@ -104,8 +104,8 @@ protected:
         Sammlung s;
         s.Lieder.clear();
         for (int n = 1; n <= anzahl; ++n)
-            s.Lieder.push_back({"A" + std::to_string(n),
-                                std::count(weg.begin(), weg.end(), n) > 0 ? "weg" : "T" + std::to_string(n), n});
+            s.Lieder.push_back(
+                {"A" + std::to_string(n), std::count(weg.begin(), weg.end(), n) > 0 ? "weg" : "T" + std::to_string(n), n});
         std::filesystem::remove_all(ordner.pfad("a"));
         sammlung("a", s);
         for (int n = 1; n <= anzahl; ++n)

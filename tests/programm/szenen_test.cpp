@@ -119,9 +119,9 @@ public:
                 wirklich = {std::string("exception: ") + fehler.what()};
             }
             if (wirklich != erwartet)
-                ADD_FAILURE_AT(szene_.datei.c_str(), schritt.zeile) << szene_.name << "\n  " << schritt.art << " " << text
-                                                                    << "\nexpected:\n  " << verbunden(erwartet, "\n  ")
-                                                                    << "\ngot:\n  " << verbunden(wirklich, "\n  ");
+                ADD_FAILURE_AT(szene_.datei.c_str(), schritt.zeile)
+                    << szene_.name << "\n  " << schritt.art << " " << text << "\nexpected:\n  "
+                    << verbunden(erwartet, "\n  ") << "\ngot:\n  " << verbunden(wirklich, "\n  ");
         }
     }
 
@@ -145,7 +145,9 @@ private:
         if (schritt.art == '!' && erwartet.empty()) std::erase(alles, "Fortschritt | Datenbank laden...");
         if (b == nullptr) return alles;
         const std::string bereit = b->bereit();
-        const std::string ort = bereit == "schleife" ? "[schleife]" : bereit == "fenster" ? "[" + b->bereit_name() + "]" : "";
+        const std::string ort = bereit == "schleife"  ? "[schleife]"
+                                : bereit == "fenster" ? "[" + b->bereit_name() + "]"
+                                                      : "";
         if (!ort.empty() && ort != ort_) alles.push_back(ort_ = ort);
         if (bereit.empty() || bereit == "hängt") alles.push_back("[" + bereit + "]");
         return alles;
@@ -187,18 +189,18 @@ private:
             sammlung(wo, Sammlung_aus(felder, block));
         } else if (was == "lieder") {
             std::vector<int> zahlen, ohne;
-            for (std::size_t i = 1; i < worte.size(); ++i)
-                (i == 1 ? zahlen : ohne).push_back(std::atoi(worte[i].c_str()));
+            for (std::size_t i = 1; i < worte.size(); ++i) (i == 1 ? zahlen : ohne).push_back(std::atoi(worte[i].c_str()));
             lege(zahlen[0], ohne);
         } else if (was == "datei") {
             ordner.datei(wo, Dateibytes(block));
         } else if (was == "lied") {  // path; artist; title; KByte
             const std::string artist = Dateibytes({felder.at(1) + "\\"}), titel = Dateibytes({felder.at(2) + "\\"});
             const std::size_t kbyte = felder.size() > 3 ? std::stoul(felder[3]) : 2;
-            ordner.datei(wo, std::string(kbyte * 1024 - 128, 'x') +
-                                 Tag_Bytes{.Titel = titel, .Artist = artist}.Block());
+            ordner.datei(wo, std::string(kbyte * 1024 - 128, 'x') + Tag_Bytes{.Titel = titel, .Artist = artist}.Block());
         } else if (was == "ordner") {
             ordner.ordner(wo);
+        } else if (was == "verweis") {  // path; where it leads
+            std::filesystem::create_symlink(felder.at(1), pfad);
         } else if (was == "weg") {
             std::filesystem::remove_all(pfad);
         } else if (was == "zeit") {  // path; moment
@@ -251,7 +253,8 @@ private:
         }
         if (was == "gleich") return {ordner.inhalt(worte[1]) == ordner.inhalt(worte[2]) ? "ja" : "nein"};
         if (was == "tag") {
-            const std::string bytes = ordner.inhalt(wo), ende = bytes.substr(bytes.size() - std::min<std::size_t>(128, bytes.size()));
+            const std::string bytes = ordner.inhalt(wo),
+                              ende = bytes.substr(bytes.size() - std::min<std::size_t>(128, bytes.size()));
             const auto feld = [&](std::size_t von) {
                 const std::string wert = ende.substr(von, 30).c_str();
                 return wert.substr(0, wert.find_last_not_of(' ') + 1);
@@ -274,7 +277,8 @@ private:
         if (was == "spieler") {
             Zeilen alle;
             for (const auto& s : b->spieler())
-                alle.push_back(s["klasse"].get<std::string>() + " " + s["status"].dump() + " " + s["datei"].get<std::string>());
+                alle.push_back(s["klasse"].get<std::string>() + " " + s["status"].dump() + " " +
+                               s["datei"].get<std::string>());
             return {verbunden(alle)};
         }
         if (was == "fenster") {
@@ -289,11 +293,11 @@ private:
         for (const auto& name : geteilt(was, ",")) {
             const auto bild = b->zeige(name.find('.') == std::string::npos ? was.substr(0, was.find('.') + 1) + name : name);
             const std::string art = bild["art"];
-            const std::string schlüssel = worte.size() > 1    ? worte[1]
-                                          : art == "liste"    ? "zeilen"
-                                          : art == "menü"     ? "haken"
+            const std::string schlüssel = worte.size() > 1        ? worte[1]
+                                          : art == "liste"        ? "zeilen"
+                                          : art == "menü"         ? "haken"
                                           : bild.contains("wert") ? "wert"
-                                                              : "text";
+                                                                  : "text";
             werte.push_back(bild.contains(schlüssel) ? Wort(bild[schlüssel]) : "-");
         }
         return {verbunden(werte)};
