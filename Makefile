@@ -44,6 +44,7 @@ test:
 	@cmake --build --preset sanitizer
 	@ctest --preset sanitizer -j $(KERNE) -LE fuzz
 	@ctest --preset sanitizer -j $(KERNE) -L fuzz
+	@sh skripte/anteil.sh
 
 tour: bediener
 	@bash skripte/tour.sh
