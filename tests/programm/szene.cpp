@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <map>
 #include <stdexcept>
 
 namespace tonkartei {
@@ -21,9 +22,18 @@ std::vector<Szene> Szenen_lesen(const std::string& pfad) {
     std::ifstream strom(pfad);
     if (!strom) throw std::runtime_error("no transcript " + pfad);
     std::vector<Szene> szenen;
+    std::map<std::string, std::string> gemerkte;
     std::string zeile;
     for (int nr = 1; std::getline(strom, zeile); ++nr) {
         if (zeile.empty() || zeile.starts_with("#")) continue;
+        if (zeile.starts_with("@") && zeile.ends_with(" =")) {
+            std::string& text = gemerkte[zeile.substr(0, zeile.size() - 2)];
+            do {
+                std::getline(strom, zeile), ++nr;
+                text += zeile.substr(std::min(zeile.find_first_not_of(' '), zeile.size()));
+            } while (geht_weiter(text));
+            continue;
+        }
         if (zeile.starts_with("=== ")) {
             szenen.push_back({pfad, zeile.substr(4), nr, {}});
             continue;
@@ -43,6 +53,7 @@ std::vector<Szene> Szenen_lesen(const std::string& pfad) {
             zeile += mehr.substr(std::min(mehr.find_first_not_of(' '), mehr.size()));
             ++nr;
         }
+        if (zeile[0] == '@') zeile = gemerkte.at(zeile);
         if (zeichen)
             schritte.push_back({beginn, zeile[0], zeile.substr(2), {}, {}});
         else
