@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "grundlagen/text.hpp"
 
@@ -29,8 +30,9 @@ class Fenstersystem {
 public:
     virtual ~Fenstersystem() = default;
 
-    // Waits for the answer, but never longer than a short limit; then, as for a closed window, 0.
-    virtual std::int32_t SendMessageA(Hwnd fenster, std::uint32_t nachricht, std::int32_t w, std::int64_t l) = 0;
+    // Waits for the answer, but never longer than a short limit. None: the window is there and has not answered in time.
+    virtual std::optional<std::int32_t> SendMessageA(Hwnd fenster, std::uint32_t nachricht, std::int32_t w,
+                                                     std::int64_t l) = 0;
     // First top-level window of exactly that class.
     virtual Hwnd FindWindowA(const Text& klasse) = 0;
     // GW_CHILD: the first child; GW_HWNDNEXT: the next sibling. Window order is the order of appearance.

@@ -87,9 +87,9 @@ protected:
         return ergebnis;
     }
 
-    std::int32_t Status(Hwnd f) { return System.SendMessageA(f, WM_USER, 0, 104); }
-    std::int32_t Position(Hwnd f) { return System.SendMessageA(f, WM_USER, 0, 105); }
-    std::int32_t Länge(Hwnd f) { return System.SendMessageA(f, WM_USER, 1, 105); }
+    std::optional<std::int32_t> Status(Hwnd f) { return System.SendMessageA(f, WM_USER, 0, 104); }
+    std::int32_t Position(Hwnd f) { return System.SendMessageA(f, WM_USER, 0, 105).value_or(-9); }
+    std::int32_t Länge(Hwnd f) { return System.SendMessageA(f, WM_USER, 1, 105).value_or(-9); }
     void springen(Hwnd f, std::int32_t ms) { System.SendMessageA(f, WM_USER, ms, 106); }
     void Befehl(Hwnd f, std::int32_t code) { System.SendMessageA(f, WM_COMMAND, code, 0); }
     Text Datei(Hwnd f) { return System.Zustand(f).value_or(Fenstersystem_Linux::Spielerzustand{}).Datei; }

@@ -28,7 +28,7 @@ long Anzahl_lesen(Befehlszeile& z) {
     return anzahl;
 }
 
-// "status=1", "position=5000", "länge=200".
+// "status=1", "position=5000", "länge=200"; "hängt=1": answers no message until "hängt=0".
 void Spieler_stellen(Fenstersystem_Probe& fenster, const Text& klasse, Befehlszeile& z) {
     const auto spieler = fenster.von_Klasse(klasse);
     if (spieler.empty()) throw Befehlsfehler("kein solcher Spieler: " + klasse);
@@ -37,7 +37,7 @@ void Spieler_stellen(Fenstersystem_Probe& fenster, const Text& klasse, Befehlsze
         const Text angabe = z.nächstes("Angabe");
         const std::size_t gleich = angabe.find('=');
         const Text name = angabe.substr(0, gleich);
-        if (gleich == Text::npos || (name != "status" && name != "position" && name != "länge"))
+        if (gleich == Text::npos || (name != "status" && name != "position" && name != "länge" && name != "hängt"))
             throw Befehlsfehler("unbekannt: " + angabe);
         Befehlszeile zahl(angabe.substr(gleich + 1));
         werte[name] = static_cast<int>(zahl.Zahl("Wert"));
@@ -46,6 +46,7 @@ void Spieler_stellen(Fenstersystem_Probe& fenster, const Text& klasse, Befehlsze
         if (werte.contains("status")) s->Status = werte["status"];
         if (werte.contains("position")) s->Position = werte["position"];
         if (werte.contains("länge")) s->Länge = werte["länge"];
+        if (werte.contains("hängt")) s->hängt = werte["hängt"] != 0;
     }
 }
 

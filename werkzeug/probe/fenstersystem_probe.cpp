@@ -89,9 +89,11 @@ Fenstersystem_Probe::Spieler* Fenstersystem_Probe::suchen(Hwnd fenster) {
     return nullptr;
 }
 
-std::int32_t Fenstersystem_Probe::SendMessageA(Hwnd fenster, std::uint32_t nachricht, std::int32_t w, std::int64_t l) {
+std::optional<std::int32_t> Fenstersystem_Probe::SendMessageA(Hwnd fenster, std::uint32_t nachricht, std::int32_t w,
+                                                              std::int64_t l) {
     Spieler* spieler = suchen(fenster);
     if (spieler == nullptr) return 0;
+    if (spieler->hängt) return std::nullopt;
     switch (nachricht) {
         case WM_CLOSE: schließen(*spieler); return 0;
         case WM_COMMAND: befehlen(*spieler, w); return 0;

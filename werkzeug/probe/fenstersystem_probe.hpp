@@ -21,6 +21,7 @@ public:
         int Länge = 0;     // seconds
         int Lautstärke = 255;
         bool sichtbar = true;
+        bool hängt = false;  // is there, but answers no message and heeds none
         Rechteck Platz{60, 60, 335, 176};
         std::map<int, std::int32_t> Fensterwerte;
     };
@@ -35,7 +36,7 @@ public:
     std::vector<Spieler*> von_Klasse(const Text& klasse);
     const std::vector<std::unique_ptr<Spieler>>& Spielerliste() const noexcept { return spieler_; }
 
-    std::int32_t SendMessageA(Hwnd fenster, std::uint32_t nachricht, std::int32_t w, std::int64_t l) override;
+    std::optional<std::int32_t> SendMessageA(Hwnd fenster, std::uint32_t nachricht, std::int32_t w, std::int64_t l) override;
     Hwnd FindWindowA(const Text& klasse) override;
     Hwnd GetWindow(Hwnd fenster, std::uint32_t art) override;
     Text GetClassNameA(Hwnd fenster) override;

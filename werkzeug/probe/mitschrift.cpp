@@ -37,7 +37,8 @@ std::vector<Mitschrift_Eintrag> Mitschrift::nehmen(bool alles) {
     return ergebnis;
 }
 
-std::int32_t Fenstersystem_Mitschrift::SendMessageA(Hwnd fenster, std::uint32_t nachricht, std::int32_t w, std::int64_t l) {
+std::optional<std::int32_t> Fenstersystem_Mitschrift::SendMessageA(Hwnd fenster, std::uint32_t nachricht, std::int32_t w,
+                                                                   std::int64_t l) {
     mitschrift_.eintragen(Mitschrift_Nachricht{innen_.GetClassNameA(fenster), nachricht, w, l});
     return innen_.SendMessageA(fenster, nachricht, w, l);
 }

@@ -62,7 +62,7 @@ class Fenstersystem_Mitschrift : public Fenstersystem {
 public:
     Fenstersystem_Mitschrift(Fenstersystem& innen, Mitschrift& mitschrift) : innen_(innen), mitschrift_(mitschrift) {}
 
-    std::int32_t SendMessageA(Hwnd fenster, std::uint32_t nachricht, std::int32_t w, std::int64_t l) override;
+    std::optional<std::int32_t> SendMessageA(Hwnd fenster, std::uint32_t nachricht, std::int32_t w, std::int64_t l) override;
     Hwnd FindWindowA(const Text& klasse) override { return innen_.FindWindowA(klasse); }
     Hwnd GetWindow(Hwnd fenster, std::uint32_t art) override { return innen_.GetWindow(fenster, art); }
     Text GetClassNameA(Hwnd fenster) override { return innen_.GetClassNameA(fenster); }

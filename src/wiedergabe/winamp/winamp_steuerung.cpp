@@ -24,16 +24,20 @@ void Winamp_Steuerung::WinAmp_Lautstärke_setzen(Hwnd Fenster, Long& Wert) {
 }
 
 Long Winamp_Steuerung::WinAmp_Status_lesen(Hwnd Fenster) {
-    switch (system_.SendMessageA(Fenster, WM_USER, 0, Status_Frage)) {
+    switch (system_.SendMessageA(Fenster, WM_USER, 0, Status_Frage).value_or(0)) {
         case 1: return Status_spielt;
         case 3: return Status_Pause;
         default: return Status_gestoppt;
     }
 }
 
-Long Winamp_Steuerung::WinAmp_Position_lesen(Hwnd Fenster) { return system_.SendMessageA(Fenster, WM_USER, 0, Zeit_Frage); }
+Long Winamp_Steuerung::WinAmp_Position_lesen(Hwnd Fenster) {
+    return system_.SendMessageA(Fenster, WM_USER, 0, Zeit_Frage).value_or(0);
+}
 
-Long Winamp_Steuerung::WinAmp_Länge_lesen(Hwnd Fenster) { return system_.SendMessageA(Fenster, WM_USER, 1, Zeit_Frage); }
+Long Winamp_Steuerung::WinAmp_Länge_lesen(Hwnd Fenster) {
+    return system_.SendMessageA(Fenster, WM_USER, 1, Zeit_Frage).value_or(0);
+}
 
 void Winamp_Steuerung::WinAmp_springen(Hwnd Fenster, Long Millisekunden) {
     system_.SendMessageA(Fenster, WM_USER, Millisekunden, Sprung);
