@@ -3,10 +3,11 @@
 #include <string>
 #include <vector>
 
-#include "alben/alben.hpp"
-#include "alben/album.hpp"
-#include "datenbank/einstellungen.hpp"
+#include "alben/albenraum.hpp"
+#include "datenbank/datenbankraum.hpp"
 #include "kategorien/kategorienbereich.hpp"
+#include "kategorien/kategorienraum.hpp"
+#include "leistung/speicher.hpp"
 #include "leistung/verhaeltnis.hpp"
 #include "liste/listenbereich.hpp"
 #include "oberflaeche/fenster.hpp"
@@ -17,11 +18,15 @@ namespace {
 using namespace tonkartei;
 
 struct Listenfenster : Fenster {
-    Modell modell;
-    Einstellungen einstellungen;
-    Kategorienbereich kategorien{*this, modell, einstellungen};
-    Albenbestand alben;
-    Listenbereich lieder{*this, modell, einstellungen, alben, kategorien};
+    Speicherprobe probe;
+    Haus haus{probe.maschine(), ansicht()};
+    Modell& modell = haus.modell;
+    Datenbankraum datenbank{haus};
+    Albenraum albenraum{datenbank};
+    Albenbestand& alben = albenraum.alben.eigene;
+    Kategorienraum kategoriefenster{haus};
+    Kategorienbereich kategorien{*this, modell, haus.einstellungen, kategoriefenster.bearbeiten};
+    Listenbereich lieder{*this, haus, albenraum, kategorien};
     explicit Listenfenster(Ansicht& ansicht) : Fenster(ansicht, "Listenfenster", "") {}
 };
 
@@ -93,7 +98,6 @@ int main() {
         albumschlüssel.push_back(groß(album.Interpret + album.Titel) + Zahl_mit_Nullen(n, 4));
     }
     f.modell.Alben_geladen = true;
-    f.lieder.Alben_öffnen = [] { return true; };
     v.höchstens(
         "Öffnen des Reiters mit 5000 Alben", 2, "std::sort derselben Schlüssel",
         [&] {

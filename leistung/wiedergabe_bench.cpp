@@ -12,14 +12,15 @@
 #include <thread>
 #include <vector>
 
-#include "alben/album.hpp"
+#include "alben/albenraum.hpp"
+#include "datenbank/datenbankraum.hpp"
 #include "kategorien/kategorienbereich.hpp"
+#include "kategorien/kategorienraum.hpp"
 #include "leistung/speicher.hpp"
 #include "leistung/verhaeltnis.hpp"
 #include "liste/listenbereich.hpp"
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/zeitgeber.hpp"
-#include "plattform/kanaele.hpp"
 #include "probe/stumme_ansicht.hpp"
 #include "programm/programm.hpp"
 #include "spieler/fenster.hpp"
@@ -42,16 +43,17 @@ public:
 
 void Zufall_messen(Verhältnisse& v, Speicherprobe& probe) {
     Stumme_Ansicht ansicht;
-    Modell modell;
-    Einstellungen einstellungen;
-    Kanäle kanäle{probe.dateien};
-    Albenbestand alben;
-    Wiedergabe wiedergabe{modell, einstellungen, probe.maschine(), kanäle, ansicht};
+    Haus haus{probe.maschine(), ansicht};
+    Modell& modell = haus.modell;
+    Datenbankraum datenbank{haus};
+    Albenraum alben{datenbank};
+    Kategorienraum kategoriefenster{haus};
+    Wiedergabe wiedergabe{haus};
     Fenster haupt{ansicht, "Tonkartei", "Tonkartei"};
-    Kategorienbereich kategorien{haupt, modell, einstellungen};
-    Listenbereich lieder{haupt, modell, einstellungen, alben, kategorien};
+    Kategorienbereich kategorien{haupt, modell, haus.einstellungen, kategoriefenster.bearbeiten};
+    Listenbereich lieder{haupt, haus, alben, kategorien};
     Wiedergabebereich knöpfe{haupt};
-    Liedautomatik automatik{modell, einstellungen, probe.maschine(), ansicht, wiedergabe, lieder, kategorien, knöpfe};
+    Liedautomatik automatik{haus, alben.start, wiedergabe, {lieder, kategorien, knöpfe}};
 
     std::vector<std::string> zeilen;
     std::vector<long long> nummern;

@@ -4,12 +4,14 @@
 
 #include "grundlagen/codepage.hpp"
 #include "grundlagen/waehrend.hpp"
+#include "kategorien/kategorie_bearbeiten.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fenster.hpp"
 
 namespace tonkartei {
 
-Kategorienbereich::Kategorienbereich(Fenster& fenster, Modell& modell, Einstellungen& einstellungen)
+Kategorienbereich::Kategorienbereich(Fenster& fenster, Modell& modell, Einstellungen& einstellungen,
+                                     Kategorie_bearbeiten& editor)
     : Lied_Kategorie(fenster, "Lied_Kategorie"),
       Kategorien_Rahmen(fenster, "Kategorien_Rahmen", "Kategorien"),
       Schema_Rahmen(fenster, "Schema_Rahmen"),
@@ -38,10 +40,25 @@ Kategorienbereich::Kategorienbereich(Fenster& fenster, Modell& modell, Einstellu
         });
     }
     Kategorie_Edit.tooltip("öffnet das Fenster zum Bearbeiten der Kategorien");
-    Kategorie_Edit.Klick.verbinden([this] { Kategorien_bearbeiten(); });
+    Editor_anschließen(editor);
     Lied_Kategorie.aktiv(false);
     Lied_Kategorie.tooltip("Die Kategorie des Liedes");
     Lied_Kategorie.Klick.verbinden([this] { Kategorie_des_Liedes_geändert(); });
+}
+
+// While it is open the main window is locked.
+void Kategorienbereich::Editor_anschließen(Kategorie_bearbeiten& editor) {
+    Kategorie_Edit.Klick.verbinden([this, &editor] {
+        if (!modell_.Datenbank_offen) return;
+        fenster_.aktiv(false);
+        editor.öffnen(Kategorie_bearbeiten::vom_Hauptfenster);
+    });
+    editor.geschlossen.verbinden([this] { aktualisiere_Kategorie_List(false); });
+    editor.zurück[Kategorie_bearbeiten::vom_Hauptfenster] = [this] {
+        fenster_.aktiv(true);
+        Suche_fokussieren();
+        return true;
+    };
 }
 
 Kasten& Kategorienbereich::zeige_Kategorie(int k) const {

@@ -15,10 +15,12 @@
 
 namespace tonkartei {
 
+class Kategorie_bearbeiten;
+
 // The selection lives in the boxes and nowhere else: whoever wants to know it reads them.
 class Kategorienbereich {
 public:
-    Kategorienbereich(Fenster& fenster, Modell& modell, Einstellungen& einstellungen);
+    Kategorienbereich(Fenster& fenster, Modell& modell, Einstellungen& einstellungen, Kategorie_bearbeiten& editor);
 
     // First: its label stands at the end of the list area, and the label's access key goes to what follows it.
     Auswahlfeld Lied_Kategorie;
@@ -49,10 +51,8 @@ public:
 
     // The selection is another: the list is to be built anew.
     Ereignis<> Auswahl_geändert;
-    // The user is done with a box or a scheme: on with the search.
+    // The user is done with a box, a scheme or the editor: on with the search.
     Ereignis<> Suche_fokussieren;
-    // The editor is wanted.
-    Ereignis<> Kategorien_bearbeiten;
     // Caption, state or number of categories or schemes changed, for the pop-up menus.
     Ereignis<> Tabelle_geändert;
     // Number of the song whose details are shown; 0 none.
@@ -72,6 +72,7 @@ public:
     Knoten anordnung();
 
 private:
+    void Editor_anschließen(Kategorie_bearbeiten& editor);
     enum class Schema_Modus { wählen, speichern, beschreiben };
 
     void Kasten_geändert(int k);

@@ -28,9 +28,6 @@ public:
     void CustomText(Text wert) { CustomText_ = std::move(wert); }
     bool IncludeDirectories() const noexcept { return IncludeDirectories_; }
     void IncludeDirectories(bool wert) noexcept { IncludeDirectories_ = wert; }
-    // Window handle of the owner; 0 none.
-    Long ParentWnd() const noexcept { return ParentWnd_; }
-    void ParentWnd(Long wert) noexcept { ParentWnd_ = wert; }
     bool RenameOnCollision() const noexcept { return RenameOnCollision_; }
     void RenameOnCollision(bool wert) noexcept { RenameOnCollision_ = wert; }
     bool SilentMode() const noexcept { return SilentMode_; }
@@ -57,7 +54,6 @@ private:
     bool ConfirmOperation_ = true;
     Text CustomText_;
     bool IncludeDirectories_ = true;
-    Long ParentWnd_ = 0;
     bool RenameOnCollision_ = false;
     bool SilentMode_ = false;
     std::vector<Text> Quellen_, Ziele_;

@@ -4,6 +4,7 @@
 
 #include "lieder/dateibewegung.hpp"
 #include "lieder/lied_einlesen.hpp"
+#include "lieder/lied_kopieren.hpp"
 #include "lieder/lieder_entfernen.hpp"
 #include "oberflaeche/ansicht.hpp"
 
@@ -41,7 +42,7 @@ bool Lied_austauschen::ausführen(Long Nr, const Text& Datei) {
                       "Wenn sie das Lied jetzt austauschen, wird die alte Version gelöscht.";
     const Antwort antwort = ansicht_.fragen_oder_abbrechen(Überschrift, modell_.Meldung);
     if (antwort == Antwort::Ja)
-        Lied_kopieren(Nr);
+        kopieren_.ausführen(Nr);
     else if (antwort != Antwort::Nein)
         return false;
 

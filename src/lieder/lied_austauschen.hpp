@@ -1,30 +1,24 @@
 // Another file takes the place of a song's file; the song keeps its number, count and category.
 #pragma once
 
-#include <functional>
-
-#include "datenbank/modell.hpp"
+#include "datenbank/haus.hpp"
 #include "mp3/mp3_taghead.hpp"
-#include "plattform/plattform.hpp"
 
 namespace tonkartei {
 
-class Ansicht;
+class Lied_kopieren;
 class Lieder_entfernen;
 
 class Lied_austauschen {
 public:
-    Lied_austauschen(Modell& modell, const Plattform& plattform, MP3_TagHead& mp3, Ansicht& ansicht,
-                     Lieder_entfernen& entfernen)
-        : modell_(modell),
-          dateien_(plattform.Dateisystem),
-          shell_(plattform.Shell),
+    Lied_austauschen(Haus& haus, MP3_TagHead& mp3, Lieder_entfernen& entfernen, Lied_kopieren& kopieren)
+        : modell_(haus.modell),
+          dateien_(haus.plattform.Dateisystem),
+          shell_(haus.plattform.Shell),
+          ansicht_(haus.ansicht),
           mp3_(mp3),
-          ansicht_(ansicht),
-          entfernen_(entfernen) {}
-
-    // The copy command, offered before the old file goes.
-    std::function<void(Long Nr)> Lied_kopieren = [](Long) {};
+          entfernen_(entfernen),
+          kopieren_(kopieren) {}
 
     // The command: asks, has a file chosen, replaces. True when the song has changed.
     bool Lied_tauschen(Long Nr);
@@ -42,9 +36,10 @@ private:
     Modell& modell_;
     Dateisystem& dateien_;
     Shell& shell_;
-    MP3_TagHead& mp3_;
     Ansicht& ansicht_;
+    MP3_TagHead& mp3_;
     Lieder_entfernen& entfernen_;
+    Lied_kopieren& kopieren_;
 };
 
 }  // namespace tonkartei

@@ -6,6 +6,7 @@
 #include "lieder/dateibewegung.hpp"
 #include "lieder/lied_nachruecken.hpp"
 #include "oberflaeche/ansicht.hpp"
+#include "wiedergabe/winamp/winamp.hpp"
 
 namespace tonkartei {
 namespace {
@@ -17,7 +18,7 @@ constexpr int Loslassen_ms = 1000;
 
 bool Lieder_entfernen::Datei_entfernen(Long Nr) {
     const Text datei = modell_.Lied_Pfad(Nr);
-    Winamp_anhalten();
+    spieler_.für_Dateiarbeit_anhalten();
     if (!einstellungen_.Papierkorb) return versuchen([&] { dateien_.löschen(datei); });
 
     const Text lesbar = modell_.Pfad(Lied_Exportname(modell_.Lieder[Nr]));
@@ -70,7 +71,7 @@ bool Lieder_entfernen::alle_Lieder_löschen(std::vector<Long> Nummern) {
             "Wollen sie wirklich die " + Zahltext(static_cast<long long>(Nummern.size())) + " Lieder in der Liste löschen?";
         if (!ansicht_.fragen("Lieder löschen", modell_.Meldung)) return false;
     }
-    Winamp_anhalten();
+    spieler_.für_Dateiarbeit_anhalten();
     // From the highest down: what moves into a freed place never has a number that is still to come. Once each, or the song
     // that moved in would go as well.
     std::sort(Nummern.begin(), Nummern.end(), std::greater<>());

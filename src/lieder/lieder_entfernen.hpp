@@ -1,32 +1,27 @@
 // A song leaves the collection: its file, and its record, whose place the last song takes.
 #pragma once
 
-#include <functional>
 #include <vector>
 
-#include "datenbank/einstellungen.hpp"
-#include "datenbank/modell.hpp"
-#include "plattform/plattform.hpp"
+#include "datenbank/haus.hpp"
 
 namespace tonkartei {
 
-class Ansicht;
 class Lied_nachrücken;
+class WinAmp;
 
 class Lieder_entfernen {
 public:
-    Lieder_entfernen(Modell& modell, const Einstellungen& einstellungen, const Plattform& plattform, Ansicht& ansicht,
-                     Lied_nachrücken& nachrücken)
-        : modell_(modell),
-          einstellungen_(einstellungen),
-          dateien_(plattform.Dateisystem),
-          shell_(plattform.Shell),
-          rechner_(plattform.Rechner),
-          ansicht_(ansicht),
-          nachrücken_(nachrücken) {}
-
-    // Makes the own player let go of its file, and waits until that is done.
-    std::function<void()> Winamp_anhalten = [] {};
+    // The player has to let go of its file first.
+    Lieder_entfernen(Haus& haus, Lied_nachrücken& nachrücken, WinAmp& spieler)
+        : modell_(haus.modell),
+          einstellungen_(haus.einstellungen),
+          dateien_(haus.plattform.Dateisystem),
+          shell_(haus.plattform.Shell),
+          rechner_(haus.plattform.Rechner),
+          ansicht_(haus.ansicht),
+          nachrücken_(nachrücken),
+          spieler_(spieler) {}
 
     // Takes the file of a song out of the folder, to the recycle bin under its readable name if the settings say so.
     bool Datei_entfernen(Long Nr);
@@ -49,6 +44,7 @@ private:
     Rechner& rechner_;
     Ansicht& ansicht_;
     Lied_nachrücken& nachrücken_;
+    WinAmp& spieler_;
 };
 
 }  // namespace tonkartei

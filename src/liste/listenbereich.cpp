@@ -3,15 +3,15 @@
 #include <algorithm>
 #include <utility>
 
-#include "alben/alben.hpp"
+#include "alben/albenraum.hpp"
+#include "datenbank/haus.hpp"
 #include "kategorien/kategorienbereich.hpp"
 #include "liste/alben_liste.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fenster.hpp"
 
 namespace tonkartei {
-Listenbereich::Listenbereich(Fenster& f, Modell& modell, const Einstellungen& einstellungen, const Albenbestand& alben,
-                             Kategorienbereich& kategorien)
+Listenbereich::Listenbereich(Fenster& f, Haus& haus, Albenraum& alben, Kategorienbereich& kategorien)
     : Datenbank_Modus(f, "Datenbank_Modus", {"Lieder", "Alben"}),
       sortieren_Text(f, "sortieren_Text", "sortieren:"),
       sortieren_Titel(f, "sortieren", "Titel", 1),
@@ -20,7 +20,7 @@ Listenbereich::Listenbereich(Fenster& f, Modell& modell, const Einstellungen& ei
       Schnellsuche(f, "Schnellsuche"),
       Liste(f, "Liste"),
       Nr_Liste(f, "Nr_Liste"),
-      Liste2(f, "Liste2", Liste, einstellungen),
+      Liste2(f, "Liste2", Liste, haus.einstellungen, haus.plattform.Rechner),
       Liste_Anzahl_Text(f, "Liste_Anzahl_Text", "Lieder:"),
       Liste_Anzahl(f, "Liste_Anzahl", "0"),
       Liste_Größe_Text(f, "Liste_Größe_Text", "MB:"),
@@ -41,9 +41,10 @@ Listenbereich::Listenbereich(Fenster& f, Modell& modell, const Einstellungen& ei
       Reset_Anzahl(f, "Reset_Anzahl", "Rese&t"),
       Lied_Kategorie_Text(f, "Lied_Kategorie_Text", "Kate&gorie:"),
       fenster_(f),
-      modell_(modell),
-      einstellungen_(einstellungen),
-      alben_(alben),
+      modell_(haus.modell),
+      einstellungen_(haus.einstellungen),
+      alben_(alben.alben.eigene),
+      albenbefehle_(alben.befehle),
       kategorien_(kategorien) {
     sortieren_Titel.tooltip("Zeigt den Titel des Liedes vorne an und sortiert die Liste danach");
     sortieren_Artist.tooltip("Zeigt den Artist des Liedes vorne an und sortiert die Liste danach");
@@ -128,8 +129,8 @@ void Listenbereich::aktualisiere_Liste() {
 
 void Listenbereich::erstelle_Lieder_Liste() {
     const Long gemerkt = Liste.Anzahl() > 0 && Liste.gewählt() >= 0 ? Lied_Nr(Liste.gewählt()) : 0;
-    const auto nummern = ordnung_.gefilterte_Lieder(modell_, sortierung_, Schnellsuche.text(),
-                                                    [this](int k) { return kategorien_.zeige_Kategorie(k).wert(); });
+    const auto nummern =
+        ordnung_.gefilterte_Lieder(modell_, sortierung_, Schnellsuche.text(), [this](int k) { return zeigt_Kategorie(k); });
     Nr_Liste_setzen(nummern);
     if (!nummern.empty()) {
         erstelle_Liste_von_Nr_Liste();
@@ -228,6 +229,16 @@ Long Listenbereich::gewähltes_Lied() const {
     if (Datenbank_Modus.wert() == 1) return Album_Lied_Nr();
     return Liste.gewählt() >= 0 ? Lied_Nr(Liste.gewählt()) : 0;
 }
+
+Long Listenbereich::gemeintes_Lied() const {
+    if (!modell_.Datenbank_offen) return 0;
+    const Long gewählt = gewähltes_Lied();
+    const Long nr = gewählt > 0 ? gewählt : angezeigtes_Lied_;
+    // A special list may hold numbers of a collection that is no longer open.
+    return nr <= modell_.Anzahl_Lieder ? nr : 0;
+}
+
+bool Listenbereich::zeigt_Kategorie(int k) const { return kategorien_.zeige_Kategorie(k).wert(); }
 
 std::vector<Long> Listenbereich::Lieder_in_Liste() const {
     std::vector<Long> nummern;
@@ -333,7 +344,7 @@ void Listenbereich::Suchtaste(Taste& taste) {
 }
 
 void Listenbereich::Tab_gewechselt() {
-    if (Datenbank_Modus.wert() == 1 && !Alben_öffnen()) {
+    if (Datenbank_Modus.wert() == 1 && !albenbefehle_.Ansicht_öffnen()) {
         Datenbank_Modus.wert(0);  // comes back here and rebuilds
         return;
     }

@@ -2,8 +2,6 @@
 // song.
 #pragma once
 
-#include <functional>
-
 #include "datenbank/einstellungen.hpp"
 #include "datenbank/modell.hpp"
 #include "grundlagen/ereignis.hpp"
@@ -15,8 +13,11 @@
 
 namespace tonkartei {
 
+class Alben_Befehle;
 class Kategorienbereich;
 struct Albenbestand;
+struct Albenraum;
+struct Haus;
 
 // A song on a line of the list of the present tab.
 struct Listenlied {
@@ -26,8 +27,7 @@ struct Listenlied {
 
 class Listenbereich {
 public:
-    Listenbereich(Fenster& fenster, Modell& modell, const Einstellungen& einstellungen, const Albenbestand& alben,
-                  Kategorienbereich& kategorien);
+    Listenbereich(Fenster& fenster, Haus& haus, Albenraum& alben, Kategorienbereich& kategorien);
 
     Reiter Datenbank_Modus;  // 0 songs, 1 albums
     Schriftfeld sortieren_Text;
@@ -67,6 +67,10 @@ public:
     void wähle_Lied(Long Nr);
     // Number of the song whose details are shown; 0 none.
     Long angezeigtes_Lied() const noexcept { return angezeigtes_Lied_; }
+    // The song that a command means: the chosen one of the present tab, else the one whose details are shown; 0 none.
+    Long gemeintes_Lied() const;
+    // Whether the box of a category is checked; the first stands for all.
+    bool zeigt_Kategorie(int k) const;
     void zeige_Lied(Long Nr);
     // A count was raised: the label follows where the chosen line is Nr - 1. That the line is compared with the number, not
     // with the song on it, is meant: the label is refreshed only where the two happen to agree.
@@ -87,8 +91,6 @@ public:
     Ereignis<Long> Titel_ändern, Artist_ändern;  // a click on the field of the song that is shown
     // Return in the search: as the start button, which knows what to do without a song.
     Ereignis<> Start_gewünscht;
-    // Opens the album view; false: the tab falls back to the songs.
-    std::function<bool()> Alben_öffnen = [] { return false; };
 
 private:
     void erstelle_Lieder_Liste();
@@ -108,6 +110,7 @@ private:
     Modell& modell_;
     const Einstellungen& einstellungen_;
     const Albenbestand& alben_;
+    Alben_Befehle& albenbefehle_;
     Kategorienbereich& kategorien_;
     Liederordnung ordnung_;
     Sortierung sortierung_ = Sortierung::Artist;

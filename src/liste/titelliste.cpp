@@ -10,8 +10,8 @@ constexpr int Schritt_ms = 10;
 
 }  // namespace
 
-Titelliste::Titelliste(Fenster& f, Text name, const Listenfeld& liste, const Einstellungen& einstellungen)
-    : Listenfeld(f, std::move(name)), liste_(liste), einstellungen_(einstellungen) {
+Titelliste::Titelliste(Fenster& f, Text name, const Listenfeld& liste, const Einstellungen& einstellungen, Rechner& rechner)
+    : Listenfeld(f, std::move(name)), liste_(liste), einstellungen_(einstellungen), rechner_(rechner) {
     frei = true;
     sichtbar(false);
 }
@@ -31,7 +31,7 @@ bool Titelliste::bewegt() const { return einstellungen_.Alben_Liste_animiert && 
 void Titelliste::Schritt_zeigen(int schritt) {
     ausfahren(schritt);
     fenster().malen();
-    Sleep(Schritt_ms);
+    rechner_.Sleep(Schritt_ms);
 }
 
 void Titelliste::hineinfahren() {

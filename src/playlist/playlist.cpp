@@ -3,17 +3,18 @@
 
 #include <algorithm>
 
-#include "datenbank/einstellungen.hpp"
-#include "oberflaeche/ansicht.hpp"
+#include "liste/listenbereich.hpp"
 
 namespace tonkartei {
 
-Playlist::Playlist(Ansicht& ansicht, Modell& modell, Einstellungen& einstellungen, Dateisystem& dateien, const M3U& m3u)
-    : Fenster(ansicht, "Playlist", "Playlist"),
-      modell_(modell),
-      einstellungen_(einstellungen),
-      dateien_(dateien),
+Playlist::Playlist(Haus& haus, const M3U& m3u, Listenbereich& liste, WinAmp_Starter& starter)
+    : Fenster(haus.ansicht, "Playlist", "Playlist"),
+      modell_(haus.modell),
+      einstellungen_(haus.einstellungen),
+      dateien_(haus.plattform.Dateisystem),
       m3u_(m3u),
+      datenbankliste_(liste),
+      starter_(starter),
       menü_(*this, Tabelle()) {
     Menü_setzen(menü_);
     Nr_Liste.unsichtbarer_Helfer = true;
@@ -40,9 +41,16 @@ Playlist::Playlist(Ansicht& ansicht, Modell& modell, Einstellungen& einstellunge
         aktuelles_löschen();
     });
     Liste.Abgelegt.verbinden([this](Element& quelle) {
-        const Long nr = gezogenes_Lied ? gezogenes_Lied(quelle) : 0;
-        if (nr > 0) add_Lied(nr, true);
+        if (const Long nr = gezogenes_Lied(quelle); nr > 0) add_Lied(nr, true);
     });
+}
+
+// A line of the albums carries no song.
+Long Playlist::gezogenes_Lied(const Element& quelle) const {
+    const auto& liste = datenbankliste_;
+    if (&quelle != &liste.Liste || liste.Datenbank_Modus.wert() != 0 || !modell_.Datenbank_offen) return 0;
+    const Long nr = liste.gewähltes_Lied();
+    return nr <= modell_.Anzahl_Lieder ? nr : 0;
 }
 
 std::vector<Menüzeile> Playlist::Tabelle() {

@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-#include "datenbank/modell.hpp"
+#include "datenbank/haus.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/elemente.hpp"
 #include "oberflaeche/fenster.hpp"
@@ -14,13 +14,14 @@
 
 namespace tonkartei {
 
-class Dateisystem;
+class Listenbereich;
 class M3U;
-struct Einstellungen;
+class WinAmp_Starter;
 
 class Playlist : public Fenster {
 public:
-    Playlist(Ansicht& ansicht, Modell& modell, Einstellungen& einstellungen, Dateisystem& dateien, const M3U& m3u);
+    // `liste` is the main window's area: where songs are dragged from, and where the window's own can be shown.
+    Playlist(Haus& haus, const M3U& m3u, Listenbereich& liste, WinAmp_Starter& starter);
 
     Listenfeld Liste{*this, "Liste"};
     // Side by side with Liste: the number of each line's song. Both change together.
@@ -63,12 +64,6 @@ public:
     // on there.
     std::function<void(const std::vector<Auszug>&)> Datenbank_vorbereiten;
     std::function<void()> Datenbank_anlegen;
-    // False while a dialog works on the collection that is open.
-    std::function<bool()> Hauptfenster_frei = [] { return true; };
-    std::function<void(const std::vector<Long>&)> in_Datenbank_Liste;
-    std::function<void(const Text& Datei)> starte_WinAmp_Liste;
-    // The song that a drag from that control carries; 0 none.
-    std::function<Long(Element& Quelle)> gezogenes_Lied;
 
 protected:
     Knoten anordnung() override;
@@ -80,6 +75,8 @@ protected:
 
 private:
     std::vector<Menüzeile> Tabelle();
+    // The song that a drag from that control carries; 0 none.
+    Long gezogenes_Lied(const Element& quelle) const;
     void Haken_setzen();
     void Lage_merken();
 
@@ -101,6 +98,8 @@ private:
     Einstellungen& einstellungen_;
     Dateisystem& dateien_;
     const M3U& m3u_;
+    Listenbereich& datenbankliste_;
+    WinAmp_Starter& starter_;
     Menü menü_;
     // The list has no changes that a save would keep.
     bool Playlist_gespeichert_ = true;

@@ -3,14 +3,13 @@
 #include <cmath>
 #include <utility>
 
-#include "datenbank/einstellungen.hpp"
 #include "datenbank/m3u.hpp"
 #include "datenbank/version.hpp"
-#include "liste/lieder_liste.hpp"
+#include "liste/listenbereich.hpp"
 #include "liste/sortierung.hpp"
-#include "oberflaeche/ansicht.hpp"
-#include "plattform/dateisystem.hpp"
+#include "oberflaeche/fenster.hpp"
 #include "playlist/playlist.hpp"
+#include "wiedergabe/winamp/winamp_starter.hpp"
 
 namespace tonkartei {
 namespace {
@@ -152,7 +151,7 @@ void Playlist::Dateigröße() {
 void Playlist::starten() {
     if (Liste.Anzahl() == 0) return;
     const Text datei = einstellungen_.WinAmp_Verzeichnis + Playlist_Datei_Name;
-    if (m3u_.Playlist_schreiben(datei, Nummern()) && starte_WinAmp_Liste) starte_WinAmp_Liste(datei);
+    if (m3u_.Playlist_schreiben(datei, Nummern())) starter_.starte_WinAmp_Liste(datei);
 }
 
 // That the file must exist is asked of the dialog here, too, and means nothing when saving.
@@ -190,13 +189,17 @@ void Playlist::öffnen() {
 }
 
 void Playlist::erstelle_DB_Liste() {
-    if (in_Datenbank_Liste) in_Datenbank_Liste(Nummern());
+    const std::vector<Long> nummern = Nummern();
+    // Song numbers must not stand where albums are chosen.
+    if (datenbankliste_.Datenbank_Modus.wert() != 0) datenbankliste_.Datenbank_Modus.wert(0);
+    datenbankliste_.Nr_Liste_setzen({nummern.begin(), nummern.end()});
+    datenbankliste_.erstelle_Liste_von_Nr_Liste();
 }
 
 // Numbers that are no songs any more have no file to take along. While the main window is locked its commands cannot take
 // the collection away from under a dialog, and neither can this one.
 void Playlist::erstelle_Datenbank() {
-    if (Liste.Anzahl() == 0 || !modell_.Datenbank_offen || !Hauptfenster_frei()) return;
+    if (Liste.Anzahl() == 0 || !modell_.Datenbank_offen || !datenbankliste_.Liste.fenster().aktiv()) return;
     if (!Datenbank_vorbereiten || !Datenbank_anlegen) return;
     std::vector<Auszug> auszug;
     for (const Long nr : Nummern()) {

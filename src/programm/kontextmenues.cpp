@@ -5,30 +5,25 @@
 #include "oberflaeche/ansicht.hpp"
 #include "playlist/playlist.hpp"
 #include "programm/tonkartei.hpp"
+#include "wiedergabe/liedstart.hpp"
+#include "wiedergabe/winamp/winamp.hpp"
 
 namespace tonkartei {
 namespace {
 
-// Does what a click on the control does, when a click would do something.
-Menüzeile wie_Klick(const Text& name, const Text& text, Element& element) {
-    return {name,
-            text,
-            ohne_Index,
-            [&element] {
-                if (element.aktiv()) element.von_Hand_klicken();
-            },
-            {}};
-}
+void umschalten(Kasten& kasten) { kasten.wert(!kasten.wert()); }
 
 Menüzeile Strich(int n) { return {"Tray_Strich" + Zahltext(n), "-", ohne_Index, nullptr, {}}; }
 
 }  // namespace
 
-Kontextmenüs::Kontextmenüs(Ansicht& ansicht, const Modell& modell, Tonkartei& haupt, Playlist& playlist)
-    : Fenster(ansicht, "Kontextmenüs", "Kontextmenüs"),
+Kontextmenüs::Kontextmenüs(const Modell& modell, Tonkartei& haupt, Playlist& playlist, WinAmp& spieler, Liedstart& start)
+    : Fenster(haupt.ansicht(), "Kontextmenüs", "Kontextmenüs"),
       modell_(modell),
       haupt_(haupt),
       playlist_(playlist),
+      spieler_(spieler),
+      start_(start),
       menü_(*this, Tabelle()) {
     Menü_setzen(menü_);
     haupt_.Kategorien.Tabelle_geändert.verbinden([this] { nachführen(); });
@@ -42,19 +37,17 @@ Kontextmenüs::Kontextmenüs(Ansicht& ansicht, const Modell& modell, Tonkartei& 
 
 // An entry that runs an entry of the menu bar.
 Menüzeile Kontextmenüs::wie(const Text& name, const Text& text) const {
-    Menüpunkt& vorbild = haupt_.Hauptmenü()(name);
+    const Hauptmenü& leiste = haupt_.Menüleiste;
     return {name,
-            text.empty() ? vorbild.beschriftung() : text,
-            vorbild.Index(),
-            [&vorbild] {
-                if (vorbild.aktiv()) vorbild.von_Hand_klicken();
-            },
+            text.empty() ? leiste.Leiste()(name).beschriftung() : text,
+            ohne_Index,
+            [&leiste, name] { leiste.ausführen(name); },
             {}};
 }
 
 std::vector<Menüzeile> Kontextmenüs::Tabelle() {
     std::vector<Menüzeile> lied;
-    for (const auto& eintrag : haupt_.Hauptmenü()("UMP_aktuelles").einträge())
+    for (const auto& eintrag : haupt_.Menüleiste.Leiste()("UMP_aktuelles").einträge())
         lied.push_back(eintrag->ist_Strich() ? Menüzeile{eintrag->Name(), "-", ohne_Index, nullptr, {}}
                                              : wie(eintrag->Name()));
 
@@ -63,17 +56,28 @@ std::vector<Menüzeile> Kontextmenüs::Tabelle() {
         schemas.push_back({"Schema", "---", n, [this, n] { haupt_.Kategorien.Schema_klicken(n); }, {}});
     // There is always a first category.
     std::vector<Menüzeile> kategorien{
-        {"Kategorie", "", 1, [this] { haupt_.Kategorien.zeige_Kategorie(1).von_Hand_klicken(); }, {}}};
+        {"Kategorie", "", 1, [this] { umschalten(haupt_.Kategorien.zeige_Kategorie(1)); }, {}}};
 
-    auto& wiedergabe = haupt_.Wiedergabe;
     std::vector<Menüzeile> tray{
         {"Datenbank_anzeigen", "&Datenbank-Fenster anzeigen", ohne_Index, [this] { haupt_.hervorholen(); }, {}},
         Strich(1),
-        wie_Klick("Zufallslied_starten", "nächstes/Zufalls-Lied &starten", wiedergabe.Zufallslied_starten),
-        wie_Klick("Random_Autoplay", "&Random-Autoplay", wiedergabe.Autoplay),
+        {"Zufallslied_starten",
+         "nächstes/Zufalls-Lied &starten",
+         ohne_Index,
+         [this] {
+             if (haupt_.Wiedergabe.Zufallslied_starten.aktiv()) start_.Zufallslied_starten();
+         },
+         {}},
+        {"Random_Autoplay",
+         "&Random-Autoplay",
+         ohne_Index,
+         [this] {
+             if (haupt_.Wiedergabe.Autoplay.aktiv()) umschalten(haupt_.Wiedergabe.Autoplay);
+         },
+         {}},
         wie("Menü_starte_Album", "&Album starten"),
         Strich(2),
-        {"Winamp_Pause", "Winamp &Pause/Weiter", ohne_Index, [this] { Winamp_Pause(); }, {}},
+        {"Winamp_Pause", "Winamp &Pause/Weiter", ohne_Index, [this] { spieler_.Befehl(WinAmp_Code_Pause); }, {}},
         wie("Menü_WinAmp_verstecken", "WinAmp &verstecken"),
         Strich(3),
         {"Tray_Kategorien", "&Kategorien...", ohne_Index, nullptr, std::move(kategorien)},
@@ -103,7 +107,7 @@ void Kontextmenüs::nachführen() {
     const int anzahl = std::max<int>(1, modell_.Anzahl_Kategorien);
     if (static_cast<int>(kategorien.einträge().size()) > anzahl) kategorien.kürzen(static_cast<std::size_t>(anzahl));
     for (int k = static_cast<int>(kategorien.einträge().size()) + 1; k <= anzahl; ++k)
-        kategorien.anfügen({"Kategorie", "", k, [this, k] { haupt_.Kategorien.zeige_Kategorie(k).von_Hand_klicken(); }, {}});
+        kategorien.anfügen({"Kategorie", "", k, [this, k] { umschalten(haupt_.Kategorien.zeige_Kategorie(k)); }, {}});
     for (int k = 1; k <= anzahl; ++k) {
         Menüpunkt& eintrag = *kategorien.einträge()[static_cast<std::size_t>(k - 1)];
         eintrag.Beschriftung_wörtlich = true;
@@ -121,7 +125,7 @@ void Kontextmenüs::nachführen() {
         for (const auto& eintrag : menü->einträge())
             if (const Element* vorbild = Vorbild(eintrag->Name())) eintrag->aktiv(vorbild->aktiv());
     menü_("Random_Autoplay").haken(haupt_.Wiedergabe.Autoplay.wert());
-    menü_("Menü_WinAmp_verstecken").haken(haupt_.Hauptmenü()("Menü_WinAmp_verstecken").haken());
+    menü_("Menü_WinAmp_verstecken").haken(haupt_.Menüleiste.Leiste()("Menü_WinAmp_verstecken").haken());
 }
 
 void Kontextmenüs::Lied_zeigen(int zeile) {

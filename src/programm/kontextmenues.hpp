@@ -2,21 +2,20 @@
 // same meaning, and is disabled where that command is.
 #pragma once
 
-#include <functional>
-
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/menue.hpp"
 
 namespace tonkartei {
 
+class Liedstart;
 class Playlist;
 class Tonkartei;
+class WinAmp;
 struct Modell;
 
 class Kontextmenüs : public Fenster {
 public:
-    // The main window has its menu already.
-    Kontextmenüs(Ansicht& ansicht, const Modell& modell, Tonkartei& haupt, Playlist& playlist);
+    Kontextmenüs(const Modell& modell, Tonkartei& haupt, Playlist& playlist, WinAmp& spieler, Liedstart& start);
 
     // Of the song under the mouse, which becomes the chosen one; -1 for none.
     void Lied_zeigen(int zeile);
@@ -26,8 +25,6 @@ public:
     // Marks, names and numbers of the entries as the window's controls and the menu bar have them.
     void nachführen();
 
-    std::function<void()> Winamp_Pause = [] {};
-
 private:
     std::vector<Menüzeile> Tabelle();
     Menüzeile wie(const Text& name, const Text& text = {}) const;
@@ -36,6 +33,8 @@ private:
     const Modell& modell_;
     Tonkartei& haupt_;
     Playlist& playlist_;
+    WinAmp& spieler_;
+    Liedstart& start_;
     Menü menü_;
 };
 

@@ -1,10 +1,9 @@
 #include "programm/splash.hpp"
 
-#include "datenbank/sitzung.hpp"
+#include "datenbank/datenbankraum.hpp"
 #include "datenbank/version.hpp"
 #include "datenbank/vorschau.hpp"
 #include "oberflaeche/ansicht.hpp"
-#include "plattform/plattform.hpp"
 
 namespace tonkartei {
 namespace {
@@ -14,14 +13,8 @@ constexpr int Gleitpause = 10;  // milliseconds
 
 }  // namespace
 
-Splash::Splash(Ansicht& ansicht, Modell& modell, const Einstellungen& einstellungen, Sitzung& sitzung, Kanäle& kanäle,
-               const Plattform& plattform)
-    : Fenster(ansicht, "Splash", Programmtitel),
-      modell_(modell),
-      einstellungen_(einstellungen),
-      sitzung_(sitzung),
-      kanäle_(kanäle),
-      plattform_(plattform) {
+Splash::Splash(Datenbankraum& datenbank)
+    : Fenster(datenbank.haus.ansicht, "Splash", Programmtitel), datenbank_(datenbank), haus_(datenbank.haus) {
     größenveränderlich = false;
     Symbol.frei = true;
     Symbol.Wunsch = {1920, 1920};
@@ -63,7 +56,7 @@ Knoten Splash::anordnung() {
 
 void Splash::beim_Laden() {
     Programm_Name.beschriftung(Programmtitel);
-    Programm_Version.beschriftung(modell_.Programmversion);
+    Programm_Version.beschriftung(haus_.modell.Programmversion);
     Autor.beschriftung(Programm_Autor);
     Copyright.beschriftung(Programm_Copyright);
     fertig_ = false;
@@ -81,33 +74,33 @@ bool Splash::lade_erste_Datenbank() {
     malen();
     neu_erstellt_ = false;
     Text verzeichnis;
-    if (einstellungen_.Datenbank_Liste_Anzahl > 0) {
+    if (haus_.einstellungen.Datenbank_Liste_Anzahl > 0) {
         Status.beschriftung("suche zuletzt geöffnete Datenbank...");
         malen();
-        verzeichnis = einstellungen_.Datenbank_Liste[1];
+        verzeichnis = haus_.einstellungen.Datenbank_Liste[1];
     }
-    modell_.Datenbank_Verzeichnis = verzeichnis;
-    if (!plattform_.Dateisystem.Ordner_da(verzeichnis)) Datenbank_wählen();
-    if (modell_.Datenbank_Verzeichnis.empty()) return false;
-    sitzung_.Verzeichnis_setzen(modell_.Datenbank_Verzeichnis);
-    if (!neu_erstellt_ && !sitzung_.lade_Datenbank()) {
-        modell_.Datenbank_Verzeichnis.clear();
+    haus_.modell.Datenbank_Verzeichnis = verzeichnis;
+    if (!haus_.plattform.Dateisystem.Ordner_da(verzeichnis)) Datenbank_wählen();
+    if (haus_.modell.Datenbank_Verzeichnis.empty()) return false;
+    datenbank_.sitzung.Verzeichnis_setzen(haus_.modell.Datenbank_Verzeichnis);
+    if (!neu_erstellt_ && !datenbank_.sitzung.lade_Datenbank()) {
+        haus_.modell.Datenbank_Verzeichnis.clear();
         return false;
     }
-    erste_Datenbank_da();
     return true;
 }
 
 void Splash::Datenbank_wählen() {
     // No collection stands behind the main window's commands while the user chooses.
-    modell_.Datenbank_offen = false;
-    modell_.Datenbank_Verzeichnis.clear();
+    haus_.modell.Datenbank_offen = false;
+    haus_.modell.Datenbank_Verzeichnis.clear();
     wählt_ = true;
     Symbol_gleiten_lassen();
     for (Schriftfeld* zeile : {&Programm_Name, &Programm_Version, &Autor, &Copyright}) zeile->sichtbar(false);
     Status.beschriftung("letzte geöffnete Datenbank nicht gefunden!");
     std::vector<Text> zeilen;
-    for (int i = 1; i <= einstellungen_.Datenbank_Liste_Anzahl; ++i) zeilen.push_back(einstellungen_.Datenbank_Liste[i]);
+    for (int i = 1; i <= haus_.einstellungen.Datenbank_Liste_Anzahl; ++i)
+        zeilen.push_back(haus_.einstellungen.Datenbank_Liste[i]);
     Liste.setzen(std::move(zeilen));
     Informationen_ = {};
     Liste.sichtbar(true);
@@ -117,7 +110,7 @@ void Splash::Datenbank_wählen() {
     ansicht().warten_bis(*this, [this] { return fertig_; });
     wählt_ = false;
     // The main window's own commands may have opened or made one meanwhile.
-    if (modell_.Datenbank_offen) neu_erstellt_ = true;
+    if (haus_.modell.Datenbank_offen) neu_erstellt_ = true;
 }
 
 void Splash::Symbol_gleiten_lassen() {
@@ -127,12 +120,12 @@ void Splash::Symbol_gleiten_lassen() {
         lage.links = (Gleitschritte - i) * schritt;
         Symbol.lage(lage);
         malen();
-        plattform_.Rechner.Sleep(Gleitpause);
+        haus_.plattform.Rechner.Sleep(Gleitpause);
     }
 }
 
 void Splash::aufgeben() {
-    modell_.Datenbank_Verzeichnis.clear();
+    haus_.modell.Datenbank_Verzeichnis.clear();
     fertig_ = true;
 }
 
@@ -140,13 +133,13 @@ void Splash::diese_öffnen() {
     if (Liste.gewählt() < 0) return;
     Status.beschriftung("öffne Datenbank...");
     const Text verzeichnis = Liste.gewählter_Text();
-    if (plattform_.Dateisystem.Ordner_da(verzeichnis)) {
-        modell_.Datenbank_Verzeichnis = verzeichnis;
+    if (haus_.plattform.Dateisystem.Ordner_da(verzeichnis)) {
+        haus_.modell.Datenbank_Verzeichnis = verzeichnis;
         fertig_ = true;
         return;
     }
-    modell_.Meldung = "Diese Datenbank existiert nicht mehr, oder es ist im moment kein Zugriff darauf möglich.";
-    ansicht().informieren("Datenbank öffnen", modell_.Meldung);
+    ansicht().informieren("Datenbank öffnen",
+                          "Diese Datenbank existiert nicht mehr, oder es ist im moment kein Zugriff darauf möglich.");
 }
 
 void Splash::andere_öffnen() {
@@ -155,13 +148,13 @@ void Splash::andere_öffnen() {
         nach_vorn();
         return;
     }
-    modell_.Datenbank_Verzeichnis = verzeichnis;
+    haus_.modell.Datenbank_Verzeichnis = verzeichnis;
     fertig_ = true;
 }
 
 void Splash::neue_erstellen() {
-    modell_.Datenbank_offen = false;
-    if (sitzung_.Datenbank_erstellen(false, false)) {
+    haus_.modell.Datenbank_offen = false;
+    if (datenbank_.sitzung.Datenbank_erstellen(false, false)) {
         neu_erstellt_ = true;
         fertig_ = true;
     } else {
@@ -174,7 +167,8 @@ void Splash::Vorschau_zeigen() {
     if (!information) {
         Status.beschriftung("lese Informationen...");
         malen();
-        information = Vorschau_Text(kanäle_, plattform_.Dateisystem, Liste.gewählter_Text(), modell_.Programmversion);
+        information =
+            Vorschau_Text(haus_.kanäle, haus_.plattform.Dateisystem, Liste.gewählter_Text(), haus_.modell.Programmversion);
     }
     Status.beschriftung(*information);
 }

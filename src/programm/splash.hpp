@@ -2,25 +2,21 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <optional>
 
 #include "datenbank/einstellungen.hpp"
-#include "datenbank/modell.hpp"
 #include "oberflaeche/elemente.hpp"
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/listen.hpp"
 
 namespace tonkartei {
 
-class Kanäle;
-class Sitzung;
-struct Plattform;
+struct Datenbankraum;
+struct Haus;
 
 class Splash : public Fenster {
 public:
-    Splash(Ansicht& ansicht, Modell& modell, const Einstellungen& einstellungen, Sitzung& sitzung, Kanäle& kanäle,
-           const Plattform& plattform);
+    explicit Splash(Datenbankraum& datenbank);
 
     Bildfläche Symbol{*this, "Symbol", "symbol"};
     Schriftfeld Programm_Name{*this, "Programm_Name"};
@@ -40,9 +36,6 @@ public:
     bool wählt() const noexcept { return wählt_; }
     void aufgeben();
 
-    // A collection is there (loaded just now, or made in this window).
-    std::function<void()> erste_Datenbank_da;
-
 protected:
     Knoten anordnung() override;
     Größe Startgröße() override { return {8400, 4800}; }
@@ -59,11 +52,8 @@ private:
     void neue_erstellen();
     void Vorschau_zeigen();
 
-    Modell& modell_;
-    const Einstellungen& einstellungen_;
-    Sitzung& sitzung_;
-    Kanäle& kanäle_;
-    const Plattform& plattform_;
+    Datenbankraum& datenbank_;
+    Haus& haus_;
     bool fertig_ = false, neu_erstellt_ = false, wählt_ = false;
     // What a line's collection holds, read at the first click on it.
     std::array<std::optional<Text>, Verzeichnisse_maximal> Informationen_;

@@ -1,20 +1,22 @@
 #include "programm/tonkartei.hpp"
 
 #include "datenbank/version.hpp"
+#include "kategorien/kategorienraum.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "programm/startparameter.hpp"
 
 namespace tonkartei {
 
-Tonkartei::Tonkartei(Ansicht& ansicht, Modell& modell, Einstellungen& einstellungen, const Albenbestand& alben,
-                     WinAmp& spieler, Rechner& rechner)
-    : Fenster(ansicht, "Tonkartei", Programmtitel),
-      Lieder(*this, modell, einstellungen, alben, Kategorien),
-      Kategorien(*this, modell, einstellungen),
+Tonkartei::Tonkartei(Haus& haus, Albenraum& alben, Kategorienraum& kategorien, WinAmp& spieler)
+    : Fenster(haus.ansicht, "Tonkartei", Programmtitel),
+      Lieder(*this, haus, alben, Kategorien),
+      Kategorien(*this, haus.modell, haus.einstellungen, kategorien.bearbeiten),
       Wiedergabe(*this),
-      Fernsteuerung(*this, einstellungen, spieler, rechner, Wiedergabe.Lied_starten),
-      modell_(modell),
-      einstellungen_(einstellungen) {
+      Fernsteuerung(*this, haus.einstellungen, spieler, haus.plattform.Rechner, Wiedergabe.Lied_starten),
+      Menüleiste(*this, haus.einstellungen),
+      modell_(haus.modell),
+      einstellungen_(haus.einstellungen) {
+    Menü_setzen(Menüleiste.Leiste());
     Datenbank.tooltip("Die zuletzt geöffneten Datenbanken, die erste ist die geöffnete");
     Datenbank.Klick.verbinden([this] {
         if (füllt_Liste_ || Datenbank.gewählt() < 0) return;
@@ -32,11 +34,6 @@ Tonkartei::Tonkartei(Ansicht& ansicht, Modell& modell, Einstellungen& einstellun
     });
     Fernsteuerung.Fokus_frei.verbinden([this] { Lieder.Schnellsuche_fokussieren(); });
     Lieder.Start_gewünscht.verbinden([this] { Wiedergabe.Lied_starten.Klick(); });
-}
-
-void Tonkartei::Menü_anlegen(const std::vector<Menüzeile>& tabelle) {
-    hauptmenü_ = std::make_unique<Menü>(*this, tabelle);
-    Menü_setzen(*hauptmenü_);
 }
 
 Knoten Tonkartei::anordnung() {
@@ -85,7 +82,7 @@ void Tonkartei::Datenbank_geladen(bool Startkategorien_setzen) {
     vor_dem_Zeigen();
     Tray_nachführen();
     Kategorien.Anz_Kat_Schemas_setzen(modell_.Anz_Kat_Schemas);
-    Hauptmenü().nur_Haken("Anz_Kat_Schemas", modell_.Anz_Kat_Schemas, 0, Schemas_maximal);
+    Menüleiste.nachführen();
     Datenbank_Liste_zeigen();
     Kategorien.aktualisiere_Kategorie_List(Startkategorien_setzen);
     Lieder.Sicht_zurücksetzen();

@@ -8,21 +8,22 @@
 #include "oberflaeche/elemente.hpp"
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/listen.hpp"
-#include "oberflaeche/menue.hpp"
+#include "programm/hauptmenue.hpp"
+#include "wiedergabe/bereiche.hpp"
 #include "wiedergabe/fernsteuerung.hpp"
 #include "wiedergabe/wiedergabebereich.hpp"
 
 namespace tonkartei {
 
-class Sitzung;
 class Startparameter;
 class WinAmp;
-struct Albenbestand;
+struct Albenraum;
+struct Haus;
+struct Kategorienraum;
 
 class Tonkartei : public Fenster {
 public:
-    Tonkartei(Ansicht& ansicht, Modell& modell, Einstellungen& einstellungen, const Albenbestand& alben, WinAmp& spieler,
-              Rechner& rechner);
+    Tonkartei(Haus& haus, Albenraum& alben, Kategorienraum& kategorien, WinAmp& spieler);
 
     Schriftfeld Datenbank_Text{*this, "Datenbank_Text", "D&atenbank:"};
     Auswahlfeld Datenbank{*this, "Datenbank"};
@@ -33,10 +34,9 @@ public:
     Wiedergabebereich Wiedergabe;
     tonkartei::Fernsteuerung Fernsteuerung;
     Traysymbol SysTray{*this, "SysTray"};
+    Hauptmenü Menüleiste;
 
-    // The menu bar, from its table; to be called once, while the program is put together.
-    void Menü_anlegen(const std::vector<Menüzeile>& tabelle);
-    const Menü& Hauptmenü() const { return *hauptmenü_; }
+    Bereiche bereiche() { return {Lieder, Kategorien, Wiedergabe}; }
 
     // The first place on the screen, by start parameters and settings.
     void platzieren(const Startparameter& parameter);
@@ -75,7 +75,6 @@ protected:
 private:
     Modell& modell_;
     Einstellungen& einstellungen_;
-    std::unique_ptr<Menü> hauptmenü_;
     bool füllt_Liste_ = false;
 };
 

@@ -16,10 +16,11 @@ public:
     Liedstart(Wiedergabebereich& bereich, Listenbereich& lieder, Listenfolge& folge, Zufallslied& zufall,
               Spielzählung& zählung);
 
-private:
     void Lied_starten();
     // While autoplay goes in order, the button of chance means next.
     void Zufallslied_starten();
+
+private:
     // 0 when the choice moved but nothing is to be played.
     Long nächstes_Lied();
 

@@ -1,20 +1,19 @@
 #include "wiedergabe/wiedergabe.hpp"
 
-#include "plattform/plattform.hpp"
+#include "datenbank/haus.hpp"
 
 namespace tonkartei {
 
-Wiedergabe::Wiedergabe(Modell& modell, Einstellungen& einstellungen, const Plattform& plattform, Kanäle& kanäle,
-                       Ansicht& ansicht)
-    : Steuerung(plattform.Fenstersystem),
-      Suche(plattform.Fenstersystem, ansicht),
-      Spieler(einstellungen, Steuerung, Suche, plattform.Rechner),
-      Programm(einstellungen, plattform.Dateisystem, plattform.Shell, plattform.Rechner),
-      Starter(modell, plattform.Dateisystem, ansicht, Spieler, Programm),
-      Takt(ansicht, Spieler),
-      Zählung(modell, einstellungen, Starter, plattform.Rechner),
-      ABR(modell, plattform.Dateisystem, kanäle),
-      Optionen(modell, einstellungen, ansicht, Spieler, Programm) {
+Wiedergabe::Wiedergabe(Haus& haus)
+    : Steuerung(haus.plattform.Fenstersystem),
+      Suche(haus.plattform.Fenstersystem, haus.ansicht),
+      Spieler(haus.einstellungen, Steuerung, Suche, haus.plattform.Rechner),
+      Programm(haus.einstellungen, haus.plattform.Dateisystem, haus.plattform.Shell, haus.plattform.Rechner),
+      Starter(haus.modell, haus.plattform.Dateisystem, haus.ansicht, Spieler, Programm),
+      Takt(haus.ansicht, Spieler),
+      Zählung(haus.modell, haus.einstellungen, Starter, haus.plattform.Rechner),
+      ABR(haus.modell, haus.plattform.Dateisystem, haus.kanäle),
+      Optionen(haus.modell, haus.einstellungen, haus.ansicht, Spieler, Programm) {
     Starter.Takt.verbinden([this] { Takt.Timer_Timer(); });
 }
 

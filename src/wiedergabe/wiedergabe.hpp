@@ -13,10 +13,10 @@
 
 namespace tonkartei {
 
-struct Plattform;
+struct Haus;
 
 struct Wiedergabe {
-    Wiedergabe(Modell& modell, Einstellungen& einstellungen, const Plattform& plattform, Kanäle& kanäle, Ansicht& ansicht);
+    explicit Wiedergabe(Haus& haus);
     Wiedergabe(const Wiedergabe&) = delete;
     Wiedergabe& operator=(const Wiedergabe&) = delete;
 

@@ -8,14 +8,21 @@
 #include <functional>
 #include <vector>
 
-#include "lieder/hinzufuegen/lieder_hinzufuegen.hpp"
+#include "alben/albenraum.hpp"
+#include "datenbank/datenbankraum.hpp"
+#include "kategorien/kategorienraum.hpp"
+#include "lieder/hinzufuegen/hinzufuegen.hpp"
 #include "mp3/bausteine.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/hand.hpp"
 #include "plattform/linux/dateisystem_linux.hpp"
+#include "plattform/linux/registrierung_linux.hpp"
 #include "plattform/linux/shell_linux.hpp"
+#include "probe/fenstersystem_probe.hpp"
+#include "probe/rechner_probe.hpp"
 #include "probe/stumme_ansicht.hpp"
 #include "testordner.hpp"
+#include "wiedergabe/wiedergabe.hpp"
 
 namespace tonkartei {
 
@@ -25,6 +32,7 @@ public:
     std::deque<int> Kategorien;        // clicks on Kategorie_Wahl
     std::function<void()> Handgriffe;  // what the hand does in a window that waits or is modal
     Text Verzeichnis;                  // chosen in the folder browser
+    Text Datei;                        // chosen in the file dialog
     std::vector<Text> Ablauf;          // boxes as "title: text", what was asked, what was called
     std::vector<Text> Fortschritte;
 
@@ -53,6 +61,7 @@ public:
         EXPECT_FALSE(fenster.sichtbar());
     }
     void Fortschritt_beendet(const Text& text, int) override { Fortschritte.push_back(text); }
+    Text Datei_wählen(const Dateiwahl&) override { return Datei; }
     Text Verzeichnis_wählen(const Text& titel) override {
         Ablauf.push_back(titel);
         return Verzeichnis;
@@ -71,22 +80,26 @@ struct Dateisystem_Knapp : Dateisystem_Linux {
     }
 };
 
-struct Kein_Korb : Papierkorb {
-    void wegwerfen(const Text& pfad) override { throw Dateifehler(70, pfad); }
+struct Eimer : Papierkorb {
+    void wegwerfen(const Text& pfad) override { std::filesystem::remove(pfad); }
 };
 
-// The real one, which may be told to do something of its own after its work.
+// The real one, which may be told to do something of its own instead of its work or after it; processes are only noted.
 struct Shell_mit_Tücken : Shell {
     explicit Shell_mit_Tücken(Shell& echt) : echt_(echt) {}
     std::vector<Shell_Vorgang> Vorgänge;
+    std::vector<Text> gestartet;
+    std::function<std::optional<Shell_Ergebnis>(const Shell_Vorgang&)> statt;
     std::function<Shell_Ergebnis(const Shell_Vorgang&, Shell_Ergebnis)> danach;
 
     Shell_Ergebnis SHFileOperationA(const Shell_Vorgang& vorgang) override {
         Vorgänge.push_back(vorgang);
+        if (statt)
+            if (const auto ergebnis = statt(vorgang)) return *ergebnis;
         const Shell_Ergebnis ergebnis = echt_.SHFileOperationA(vorgang);
         return danach ? danach(vorgang, ergebnis) : ergebnis;
     }
-    void starten(const Text& befehl, int stil) override { echt_.starten(befehl, stil); }
+    void starten(const Text& befehl, int) override { gestartet.push_back(befehl); }
 
 private:
     Shell& echt_;
@@ -98,11 +111,10 @@ struct Bühne {
         modell.Datenbank_offen = true;
         Standard_Datenbank(modell, true);
         quelle = ordner.ordner("quelle");
-        übernahme.Winamp_anhalten = [this] { ansicht.Ablauf.push_back("angehalten"); };
+        einstellungen.WinAmp_Verzeichnis = ordner.ordner("winamp");
+        ordner.datei("winamp/WinAmp.Exe");
         eintragen.Liste_neu_aufbauen = [this] { ansicht.Ablauf.push_back("aufgebaut"); };
         fenster.Hauptfenster_sperren = [this](bool gesperrt) { Haupt_gesperrt = gesperrt; };
-        fenster.Liste_fokussieren = [this] { ++fokussiert; };
-        fenster.Datei_abspielen = [this](const Text& datei) { gespielt.push_back(datei); };
     }
 
     // A file of the source folder; `zeit` in seconds since 1970, 0 leaves it at now.
@@ -138,24 +150,29 @@ struct Bühne {
     Text quelle;
     Drehbuch ansicht;
     Dateisystem_Knapp dateien;
-    Kein_Korb korb;
+    Eimer korb;
     Shell_Linux echte_Shell{dateien, korb};
     Shell_mit_Tücken shell{echte_Shell};
-    Modell modell;
-    Einstellungen einstellungen;
+    Registrierung_Linux registrierung{ordner.pfad("reg")};
+    Fenstersystem_Probe spieler;
+    Rechner_Probe rechner{{2026, 1, 15, 12, 0, 0}, ordner.pfad(), false};
+    Haus haus{{dateien, registrierung, spieler, shell, rechner}, ansicht};
+    Modell& modell = haus.modell;
+    Einstellungen& einstellungen = haus.einstellungen;
+    Fortschritts_Fenster& fortschritt = haus.fortschritt;
+    Datenbankraum datenbank{haus};
+    Albenraum alben{datenbank};
+    Kategorienraum kategorien{haus};
+    Wiedergabe wiedergabe{haus};
     MP3_TagHead mp3{dateien};
-    Kanäle kanäle{dateien};
-    Fortschritts_Fenster fortschritt{ansicht};
-    Kategorie_Wahl wahl{ansicht, modell};
-    Dateien_übernehmen übernehmen{modell, dateien, shell, mp3, fortschritt};
-    Lieder_eintragen eintragen{modell, mp3, wahl};
-    Lieder_Übernahme übernahme{ansicht, modell, dateien, übernehmen, eintragen};
-    neue_Lieder_Liste fenster{ansicht, dateien, mp3, fortschritt, übernahme};
-    Verzeichnis_add verzeichnis{ansicht, dateien, einstellungen};
-    tonkartei::Lieder_hinzufügen befehle{modell, dateien, kanäle, einstellungen, verzeichnis, fenster};
+    Hinzufügen hinzufügen{datenbank, mp3, alben, kategorien, wiedergabe};
+    Dateien_übernehmen& übernehmen = hinzufügen.übernehmen;
+    Lieder_eintragen& eintragen = hinzufügen.eintragen;
+    Lieder_Übernahme& übernahme = hinzufügen.übernahme;
+    neue_Lieder_Liste& fenster = hinzufügen.liste;
+    Verzeichnis_add& verzeichnis = hinzufügen.verzeichnis;
+    tonkartei::Lieder_hinzufügen& befehle = hinzufügen.dateien;
     bool Haupt_gesperrt = false;
-    int fokussiert = 0;
-    std::vector<Text> gespielt;
 };
 
 }  // namespace tonkartei

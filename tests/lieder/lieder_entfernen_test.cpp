@@ -1,28 +1,14 @@
 // Songs leave the folder or change their file while the shell does not do what it should.
 #include "buehne.hpp"
 
-#include "alben/alben_datei.hpp"
-#include "datenbank/abr_datei.hpp"
 #include "lieder/lied_austauschen.hpp"
+#include "lieder/lied_kopieren.hpp"
 #include "lieder/lied_nachruecken.hpp"
 #include "lieder/lieder_entfernen.hpp"
 #include "lieder/luecken.hpp"
-#include "plattform/kanaele.hpp"
-#include "plattform/linux/fenstersystem_linux.hpp"
-#include "plattform/linux/rechner_linux.hpp"
-#include "plattform/linux/registrierung_linux.hpp"
 
 namespace tonkartei {
 namespace {
-
-struct Wacher_Rechner : Rechner_Linux {
-    int geschlafen = 0;
-    void Sleep(int ms) override { geschlafen += ms; }
-};
-
-struct Eimer : Papierkorb {
-    void wegwerfen(const Text& pfad) override { std::filesystem::remove(pfad); }
-};
 
 // Three songs "A - T1" to "A - T3" whose files hold "1", "2" and "3", and a recycle bin.
 struct Werkstatt : Bühne {
@@ -37,9 +23,12 @@ struct Werkstatt : Bühne {
     }
     // The shell fails at operations of that code; it may do them all the same.
     void scheitern(std::uint32_t code, const Text& von, bool trotzdem_getan, Shell_Ergebnis ergebnis = {5, false}) {
-        vorher.scheitert = [=](const Shell_Vorgang& v) { return v.Code == code && v.von.front().ends_with(von); };
-        vorher.trotzdem = trotzdem_getan;
-        vorher.ergebnis = ergebnis;
+        shell.statt = [=, this](const Shell_Vorgang& v) -> std::optional<Shell_Ergebnis> {
+            if (v.Code != code || !v.von.front().ends_with(von)) return std::nullopt;
+            if (trotzdem_getan) echte_Shell.SHFileOperationA(v);
+            statt_dessen();
+            return ergebnis;
+        };
     }
     Text titel() const {
         Text text;
@@ -47,39 +36,13 @@ struct Werkstatt : Bühne {
         return text;
     }
 
-    struct Launische : Shell {
-        explicit Launische(Shell& echt) : echt_(echt) {}
-        std::function<bool(const Shell_Vorgang&)> scheitert = [](const Shell_Vorgang&) { return false; };
-        bool trotzdem = false;
-        Shell_Ergebnis ergebnis;
-        std::function<void()> statt_dessen = [] {};
-        Shell_Ergebnis SHFileOperationA(const Shell_Vorgang& vorgang) override {
-            if (!scheitert(vorgang)) return echt_.SHFileOperationA(vorgang);
-            if (trotzdem) echt_.SHFileOperationA(vorgang);
-            statt_dessen();
-            return ergebnis;
-        }
-        void starten(const Text&, int) override {}
-
-    private:
-        Shell& echt_;
-    };
-
-    Eimer eimer;
-    Shell_Linux mit_Eimer{dateien, eimer};
-    Launische vorher{mit_Eimer};
-    Registrierung_Linux registrierung{ordner.pfad("reg")};
-    Fenstersystem_Linux fenstersystem;
-    Wacher_Rechner rechner;
-    Plattform plattform{dateien, registrierung, fenstersystem, vorher, rechner};
-    Kanäle kanäle{dateien};
-    Alben alben{rechner, ansicht};
-    Alben_Datei alben_datei{modell, alben, kanäle, dateien, ansicht};
-    ABR_Datei abr{modell, dateien, kanäle};
-    Lied_nachrücken nachrücken{modell, alben_datei, abr};
-    Lieder_entfernen entfernen{modell, einstellungen, plattform, ansicht, nachrücken};
-    Lücken lücken{modell, dateien, vorher, fortschritt, nachrücken};
-    Lied_austauschen austauschen{modell, plattform, mp3, ansicht, entfernen};
+    std::function<void()> statt_dessen = [] {};
+    ABR_Datei abr{modell, dateien, haus.kanäle};
+    Lied_nachrücken nachrücken{modell, alben.datei, abr};
+    Lieder_entfernen entfernen{haus, nachrücken, wiedergabe.Spieler};
+    Lücken lücken{modell, dateien, shell, fortschritt, nachrücken};
+    Lied_kopieren kopieren{modell, shell, fortschritt};
+    Lied_austauschen austauschen{haus, mp3, entfernen, kopieren};
 };
 
 const Text Umbenennen = "Fehler: Beim Umbennen ist ein Fehler aufgetreten!";
@@ -125,7 +88,7 @@ TEST(Lieder_entfernen, wenn_die_Shell_versagt) {
         Text da;
         for (const Long n : {1, 2, 3}) da += w.ordner.da("db/" + Lied_Dateiname(n)) ? w.inhalt(n) : "-";
         EXPECT_EQ(da, fall.dateien);
-        EXPECT_EQ(w.rechner.geschlafen, fall.pause);
+        EXPECT_EQ(w.rechner.Uhr(), fall.pause);
         // What could not be thrown away stays, under its readable name.
         EXPECT_EQ(w.ordner.da("db/A - T1.MP3"), fall.code == FO_DELETE);
     }
@@ -140,8 +103,9 @@ TEST(Lücken, eine_die_sich_nicht_füllen_lässt) {
     std::filesystem::remove(w.modell.Lied_Pfad(2));
     // The first move fails and leaves its gap; the next one works.
     int züge = 0;
-    w.vorher.scheitert = [&](const Shell_Vorgang& v) { return v.Code == FO_MOVE && ++züge == 1; };
-    w.vorher.ergebnis = {5, false};
+    w.shell.statt = [&](const Shell_Vorgang& v) {
+        return v.Code == FO_MOVE && ++züge == 1 ? std::optional(Shell_Ergebnis{5, false}) : std::nullopt;
+    };
     w.ansicht.Antworten = {Antwort::Ja};
     int aufgefrischt = 0;
     w.nachrücken.Alben_geändert.verbinden([&] { ++aufgefrischt; });
@@ -159,7 +123,7 @@ TEST(Lied_austauschen, kurze_Kopie_bleibt_nicht) {
     Werkstatt w(false);
     const Text neu = w.lege("neu.mp3", std::string(3000, 'n'));
     w.scheitern(FO_COPY, "neu.mp3", false);
-    w.vorher.statt_dessen = [&] { w.ordner.datei("db/" + Lied_Dateiname(2), "nnn"); };
+    w.statt_dessen = [&] { w.ordner.datei("db/" + Lied_Dateiname(2), "nnn"); };
     w.ansicht.Antworten = {Antwort::Nein, Antwort::Ja};
     EXPECT_FALSE(w.austauschen.ausführen(2, neu));
     EXPECT_EQ(w.ansicht.Ablauf.back(), "Lied austauschen: Beim austauschen ist ein Fehler aufgetreten!");

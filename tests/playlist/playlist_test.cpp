@@ -3,13 +3,22 @@
 
 #include <deque>
 
-#include "datenbank/einstellungen.hpp"
-#include "datenbank/m3u.hpp"
+#include "alben/albenraum.hpp"
+#include "datenbank/datenbankraum.hpp"
+#include "kategorien/kategorienbereich.hpp"
+#include "kategorien/kategorienraum.hpp"
+#include "liste/listenbereich.hpp"
 #include "oberflaeche/hand.hpp"
 #include "plattform/linux/dateisystem_linux.hpp"
+#include "plattform/linux/papierkorb_freedesktop.hpp"
+#include "plattform/linux/registrierung_linux.hpp"
+#include "plattform/linux/shell_linux.hpp"
 #include "playlist/playlist.hpp"
+#include "probe/rechner_probe.hpp"
+#include "probe/shell_probe.hpp"
 #include "probe/stumme_ansicht.hpp"
 #include "testordner.hpp"
+#include "wiedergabe/wiedergabe.hpp"
 
 namespace tonkartei {
 namespace {
@@ -43,12 +52,25 @@ const Text Leeren = "Lieder löschen|Wollen sie wirklich alle 2 Lieder aus der P
 struct Playlistbühne : testing::Test {
     Testordner ordner;
     Dateisystem_Linux dateien;
-    Kanäle kanäle{dateien};
+    Registrierung_Linux registrierung{ordner.pfad("reg")};
+    Papierkorb_Freedesktop korb{dateien, ordner.pfad("korb")};
+    Shell_Linux echte_Shell{dateien, korb};
+    Fenstersystem_Probe spieler;
+    Störungen störungen{[] {}};
+    Shell_Probe shell{echte_Shell, spieler, störungen};
+    Rechner_Probe rechner{{2026, 1, 15, 12, 0, 0}, ordner.pfad(), false};
     Ansicht_mit_Antworten ansicht;
-    Modell modell;
-    Einstellungen einstellungen;
-    M3U m3u{modell, kanäle};
-    Playlist playlist{ansicht, modell, einstellungen, dateien, m3u};
+    Haus haus{{dateien, registrierung, spieler, shell, rechner}, ansicht};
+    Modell& modell = haus.modell;
+    Einstellungen& einstellungen = haus.einstellungen;
+    Datenbankraum datenbank{haus};
+    Albenraum alben{datenbank};
+    Kategorienraum kategorien{haus};
+    Fenster haupt{ansicht, "Tonkartei", "Tonkartei"};
+    Kategorienbereich kästen{haupt, modell, einstellungen, kategorien.bearbeiten};
+    Listenbereich liste{haupt, haus, alben, kästen};
+    Wiedergabe wiedergabe{haus};
+    Playlist playlist{haus, datenbank.m3u, liste, wiedergabe.Starter};
     Text o = ordner.pfad();
 
     Playlistbühne() {
@@ -116,17 +138,16 @@ TEST_F(Playlistbühne, aufnehmen_ordnen_löschen) {
 }
 
 TEST_F(Playlistbühne, speichern_starten_öffnen) {
-    Zeilen gestartet;
-    playlist.starte_WinAmp_Liste = [&](const Text& datei) { gestartet.push_back(datei); };
     einstellungen.WinAmp_Verzeichnis = ordner.pfad("fehlt/");
     for (const char* befehl : {"starten", "speichern", "erstelle_Datenbank"}) menü(befehl);
     EXPECT_EQ(gesagt(), Zeilen{});
     playlist.add_Lieder({4, 1});
     menü("starten");
-    EXPECT_EQ(gestartet, Zeilen{});
+    EXPECT_TRUE(spieler.Spielerliste().empty());
     einstellungen.WinAmp_Verzeichnis = ordner.ordner("wa");
+    ordner.datei("wa/WinAmp.Exe");
     menü("starten");
-    EXPECT_EQ(gestartet, Zeilen{ordner.pfad("wa/Tonkartei-Playlist.M3U")});
+    EXPECT_EQ(spieler.Spielerliste().at(0)->Datei, ordner.pfad("wa/Tonkartei-Playlist.M3U"));
     ansicht.datei = ordner.pfad("fehlt/x.m3u");
     menü("speichern");
     EXPECT_FALSE(gespeichert());

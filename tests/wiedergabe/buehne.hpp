@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "datenbank/einstellungen.hpp"
+#include "datenbank/haus.hpp"
 #include "datenbank/modell.hpp"
 #include "grundlagen/fehler.hpp"
 #include "oberflaeche/ansicht.hpp"
@@ -195,10 +195,11 @@ struct Bühne {
     Rechner_Bühne Rechner{Protokoll};
     Registrierung_Linux Registrierung{Ordner.pfad("einstellungen.reg")};
     Dateisystem_Bühne Dateien;
-    Kanäle Kanäle_{Dateien};
-    tonkartei::Modell Modell;
-    tonkartei::Einstellungen Einstellungen;
-    Wiedergabe Spiel{Modell, Einstellungen, Plattform{Dateien, Registrierung, Fenster, Shell, Rechner}, Kanäle_, Ansicht};
+    tonkartei::Haus Haus{{Dateien, Registrierung, Fenster, Shell, Rechner}, Ansicht};
+    Kanäle& Kanäle_ = Haus.kanäle;
+    tonkartei::Modell& Modell = Haus.modell;
+    tonkartei::Einstellungen& Einstellungen = Haus.einstellungen;
+    Wiedergabe Spiel{Haus};
 
     Bühne() {
         Ordner.datei("WinAmp.Exe");

@@ -3,8 +3,10 @@
 
 #include <algorithm>
 
-#include "alben/album.hpp"
+#include "alben/albenraum.hpp"
+#include "datenbank/datenbankraum.hpp"
 #include "kategorien/kategorienbereich.hpp"
+#include "kategorien/kategorienraum.hpp"
 #include "liste/listenbereich.hpp"
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/hand.hpp"
@@ -18,13 +20,14 @@ namespace {
 // The areas of the main window that chance looks at, over a collection in memory.
 struct Zufallsbühne : Bühne {
     tonkartei::Fenster Haupt{Ansicht, "Tonkartei", "Tonkartei"};
-    Albenbestand Alben;
-    Kategorienbereich Kategorien{Haupt, Modell, Einstellungen};
-    Listenbereich Lieder{Haupt, Modell, Einstellungen, Alben, Kategorien};
+    Datenbankraum Datenbank{Haus};
+    Albenraum Album{Datenbank};
+    Albenbestand& Alben = Album.alben.eigene;
+    Kategorienraum Kategoriefenster{Haus};
+    Kategorienbereich Kategorien{Haupt, Modell, Einstellungen, Kategoriefenster.bearbeiten};
+    Listenbereich Lieder{Haupt, Haus, Album, Kategorien};
     Wiedergabebereich Knöpfe{Haupt};
-    Liedautomatik Automatik{Modell,     Einstellungen, Plattform{Dateien, Registrierung, Fenster, Shell, Rechner},
-                            Ansicht,    Spiel,         Lieder,
-                            Kategorien, Knöpfe};
+    Liedautomatik Automatik{Haus, Album.start, Spiel, {Lieder, Kategorien, Knöpfe}};
 
     // A song a count.
     explicit Zufallsbühne(const std::vector<Long>& Anzahlen, int prozent = 25) {
@@ -138,7 +141,6 @@ TEST(Zufall, Im_Album_nur_was_da_ist) {
         album.Lieder[t].in_Datenbank = links[t - 1] > 0;
         album.Lieder[t].Lied_Nr = links[t - 1];
     }
-    b.Lieder.Alben_öffnen = [] { return true; };
     b.Lieder.Datenbank_Modus.wert(1);
     EXPECT_EQ(b.ziehe(0), 0) << "no album is chosen";
     b.Lieder.Liste.wähle(0);

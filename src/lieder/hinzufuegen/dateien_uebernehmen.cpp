@@ -15,6 +15,7 @@ Text Titel_Artist(const Text& titel, const Text& artist) { return "Titel: " + ti
 
 Long Dateien_übernehmen::ausführen(const Übernahme_Auftrag& auftrag) {
     A_ = 0;
+    spieler_.WinAmp_Befehl_Standard(WinAmp_Code_Stop);
     if (auftrag.Lieder.empty()) return 0;
     const Fortschritts_Ende ende(fortschritt_);
 
@@ -89,7 +90,6 @@ bool Dateien_übernehmen::trotz_Doppelter(const Text& pfad, Long KByte, const Do
 
 bool Dateien_übernehmen::bringen(Text von, Text nach, Übernahmeart modus) {
     CSHFileOp vorgang(shell_);
-    vorgang.ParentWnd(Hauptfenster);
     // What lies behind the last song belongs to nobody and is written over without a question.
     vorgang.ConfirmOperation(false);
     vorgang.ClearSourceFiles();

@@ -1,27 +1,27 @@
 // The files of new songs come into the folder of the collection, under the next free numbers.
 #pragma once
 
-#include "datenbank/modell.hpp"
+#include "datenbank/haus.hpp"
 #include "lieder/hinzufuegen/doppelte_lieder.hpp"
 #include "lieder/hinzufuegen/uebernahme_auftrag.hpp"
 #include "mp3/mp3_taghead.hpp"
-#include "oberflaeche/fortschritt.hpp"
-#include "plattform/dateisystem.hpp"
-#include "plattform/shell.hpp"
+#include "wiedergabe/winamp/winamp_steuerung.hpp"
 
 namespace tonkartei {
 
 class Dateien_übernehmen {
 public:
-    Dateien_übernehmen(Modell& modell, Dateisystem& dateien, Shell& shell, MP3_TagHead& mp3,
-                       Fortschritts_Fenster& fortschritt)
-        : modell_(modell), dateien_(dateien), shell_(shell), mp3_(mp3), fortschritt_(fortschritt) {}
+    Dateien_übernehmen(Haus& haus, MP3_TagHead& mp3, Winamp_Steuerung& spieler)
+        : modell_(haus.modell),
+          dateien_(haus.plattform.Dateisystem),
+          shell_(haus.plattform.Shell),
+          fortschritt_(haus.fortschritt),
+          mp3_(mp3),
+          spieler_(spieler) {}
 
-    // Handle of the main window, which owns the shell's windows; 0 where windows have none.
-    Long Hauptfenster = 0;
-
-    // Copies or moves file by file; asks about what may be there already, says what went wrong and goes on. The files stand
-    // on the numbers Anzahl_Lieder + 1 to Anzahl_Lieder + result without a gap. No record but its category is touched.
+    // Stops a foreign player, which may hold a file that is about to be taken. Copies or moves file by file; asks about what
+    // may be there already, says what went wrong and goes on. The files stand on the numbers Anzahl_Lieder + 1 to
+    // Anzahl_Lieder + result without a gap. No record but its category is touched.
     Long ausführen(const Übernahme_Auftrag& auftrag);
     // The result so far, while a box is up; afterwards the last one.
     Long Anzahl() const noexcept { return A_; }
@@ -35,8 +35,9 @@ private:
     Modell& modell_;
     Dateisystem& dateien_;
     Shell& shell_;
-    MP3_TagHead& mp3_;
     Fortschritts_Fenster& fortschritt_;
+    MP3_TagHead& mp3_;
+    Winamp_Steuerung& spieler_;
     Long A_ = 0;
 };
 

@@ -2,27 +2,22 @@
 #pragma once
 
 #include "datenbank/datenbank_oeffnen.hpp"
-#include "datenbank/modell.hpp"
+#include "datenbank/haus.hpp"
 #include "lieder/hinzufuegen/db_add_start_kategorien.hpp"
 #include "lieder/hinzufuegen/dbadd_kategorien.hpp"
 #include "lieder/hinzufuegen/neue_lieder_liste.hpp"
-#include "oberflaeche/fortschritt.hpp"
-#include "plattform/dateisystem.hpp"
-#include "plattform/kanaele.hpp"
-#include "plattform/rechner.hpp"
 
 namespace tonkartei {
 
 class Datenbank_Quelle {
 public:
-    Datenbank_Quelle(const Modell& modell, Dateisystem& dateien, Kanäle& kanäle, Rechner& rechner,
-                     Fortschritts_Fenster& fortschritt, Datenbank_öffnen& öffnen, DB_add_start_Kategorien& start_Kategorien,
+    Datenbank_Quelle(Haus& haus, Datenbank_öffnen& öffnen, DB_add_start_Kategorien& start_Kategorien,
                      DBadd_Kategorien& zuordnung, neue_Lieder_Liste& liste)
-        : modell_(modell),
-          dateien_(dateien),
-          kanäle_(kanäle),
-          rechner_(rechner),
-          fortschritt_(fortschritt),
+        : modell_(haus.modell),
+          dateien_(haus.plattform.Dateisystem),
+          kanäle_(haus.kanäle),
+          rechner_(haus.plattform.Rechner),
+          fortschritt_(haus.fortschritt),
           öffnen_(öffnen),
           start_Kategorien_(start_Kategorien),
           zuordnung_(zuordnung),

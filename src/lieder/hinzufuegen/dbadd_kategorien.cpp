@@ -2,12 +2,13 @@
 
 #include <algorithm>
 
+#include "kategorien/kategorie_bearbeiten.hpp"
 #include "oberflaeche/ansicht.hpp"
 
 namespace tonkartei {
 
-DBadd_Kategorien::DBadd_Kategorien(Ansicht& ansicht, const Modell& modell)
-    : Fenster(ansicht, "DBadd_Kategorien", "Datenbank hinzufügen"), modell_(modell) {
+DBadd_Kategorien::DBadd_Kategorien(Ansicht& ansicht, const Modell& modell, Kategorie_bearbeiten& editor)
+    : Fenster(ansicht, "DBadd_Kategorien", "Datenbank hinzufügen"), modell_(modell), editor_(editor) {
     Liste.tooltip("Welche Kategorie die Lieder in dieser Datenbank bekommen.");
     neue_Kategorie.tooltip("Die neue Kategorie der gewählten Zeile.");
     Kategorie_Edit.tooltip("Die Kategorien dieser Datenbank ändern.");
@@ -15,14 +16,25 @@ DBadd_Kategorien::DBadd_Kategorien(Ansicht& ansicht, const Modell& modell)
     Vorgabeknopf = &Ok;
     Liste.Klick.verbinden([this] { Quelle_gewählt(); });
     neue_Kategorie.Klick.verbinden([this] { Ziel_gewählt(); });
-    Kategorie_Edit.Klick.verbinden([this] {
-        if (!Kategorien_bearbeiten) return;
-        alte_Namen_.clear();
-        for (int k = 1; k <= modell_.Anzahl_Kategorien; ++k) alte_Namen_.push_back(modell_.Kategorien[k]);
-        aktiv(false);
-        Kategorien_bearbeiten();
-    });
+    Kategorie_Edit.Klick.verbinden([this] { bearbeiten(); });
     Ok.Klick.verbinden([this] { entladen(); });
+    editor_.umnummeriert.verbinden([this](const std::function<Byte(Byte)>& neue) { umnummerieren(neue); });
+    editor_.zurück[Kategorie_bearbeiten::von_DBadd_Kategorien] = [this] {
+        nach_dem_Bearbeiten();
+        return true;
+    };
+}
+
+void DBadd_Kategorien::bearbeiten() {
+    alte_Namen_.clear();
+    for (int k = 1; k <= modell_.Anzahl_Kategorien; ++k) alte_Namen_.push_back(modell_.Kategorien[k]);
+    aktiv(false);
+    editor_.öffnen(Kategorie_bearbeiten::von_DBadd_Kategorien);
+}
+
+void DBadd_Kategorien::eigene_als_Quelle() {
+    Quell_Kategorien.clear();
+    for (int k = 1; k <= modell_.Anzahl_Kategorien; ++k) Quell_Kategorien.push_back(modell_.Kategorien[k]);
 }
 
 std::vector<Byte> DBadd_Kategorien::Init(Long A, const std::vector<Lied_Fund>& Lieder) {
@@ -30,7 +42,6 @@ std::vector<Byte> DBadd_Kategorien::Init(Long A, const std::vector<Lied_Fund>& L
     nach_Namen_zuordnen();
     fertig_ = false;
     laden();
-    Kategorie_Edit.aktiv(static_cast<bool>(Kategorien_bearbeiten));
     Ziele_füllen();
     Zeilen_füllen();
     if (Liste.Anzahl() > 0) Liste.wähle(0);

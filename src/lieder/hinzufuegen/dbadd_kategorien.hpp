@@ -12,9 +12,11 @@
 
 namespace tonkartei {
 
+class Kategorie_bearbeiten;
+
 class DBadd_Kategorien : public Fenster {
 public:
-    DBadd_Kategorien(Ansicht& ansicht, const Modell& modell);
+    DBadd_Kategorien(Ansicht& ansicht, const Modell& modell, Kategorie_bearbeiten& editor);
 
     Schriftfeld Liste_Text{*this, "Liste_Text", "&Kategorien der anderen Datenbank:"};
     Listenfeld Liste{*this, "Liste"};
@@ -25,13 +27,8 @@ public:
 
     // Names of the other collection's categories, from 1; at most 20. Set by the source.
     std::vector<Text> Quell_Kategorien;
-
-    // Opens the category editor on behalf of this window; without one its button is disabled. Its closing ends in
-    // nach_dem_Bearbeiten.
-    std::function<void()> Kategorien_bearbeiten;
-    void nach_dem_Bearbeiten();
-    // The editor gave the own categories other numbers (0: gone, then each song is asked for).
-    void umnummerieren(const std::function<Byte(Byte)>& neue);
+    // The open collection is the source.
+    void eigene_als_Quelle();
 
     // Waits until the mapping is done: the category of each of the `A` new songs, 0 where it is to be asked for. New song i
     // takes that of line i of `Lieder`, although a file that was dropped on the way has no new song: all behind it get the
@@ -45,6 +42,10 @@ protected:
     void beim_Entladen() override;
 
 private:
+    void bearbeiten();
+    void nach_dem_Bearbeiten();
+    // The editor gave the own categories other numbers (0: gone, then each song is asked for).
+    void umnummerieren(const std::function<Byte(Byte)>& neue);
     Byte gleichnamige(const Text& name) const;
     void nach_Namen_zuordnen();
     std::vector<Byte> je_Lied(Long A, const std::vector<Lied_Fund>& Lieder) const;
@@ -55,6 +56,7 @@ private:
     void Ziel_gewählt();
 
     const Modell& modell_;
+    Kategorie_bearbeiten& editor_;
     Feld<Byte, Kategorien_maximal> Kategorie_Zuordnung_;  // by number of the source category; 0 asks for each song
     std::vector<Text> alte_Namen_;                        // of the own categories, before the editor was opened
     bool füllt_ = false, fertig_ = true;

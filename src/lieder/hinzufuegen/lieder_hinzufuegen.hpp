@@ -1,23 +1,19 @@
 // The commands of the main window that add songs: each source collects files and hands them to neue_Lieder_Liste.
 #pragma once
 
-#include "datenbank/einstellungen.hpp"
-#include "datenbank/modell.hpp"
+#include "datenbank/haus.hpp"
 #include "lieder/hinzufuegen/neue_lieder_liste.hpp"
 #include "lieder/hinzufuegen/verzeichnis_add.hpp"
-#include "plattform/dateisystem.hpp"
-#include "plattform/kanaele.hpp"
 
 namespace tonkartei {
 
 class Lieder_hinzufügen {
 public:
-    Lieder_hinzufügen(const Modell& modell, Dateisystem& dateien, Kanäle& kanäle, Einstellungen& einstellungen,
-                      Verzeichnis_add& verzeichnis, neue_Lieder_Liste& liste)
-        : modell_(modell),
-          dateien_(dateien),
-          kanäle_(kanäle),
-          einstellungen_(einstellungen),
+    Lieder_hinzufügen(Haus& haus, Verzeichnis_add& verzeichnis, neue_Lieder_Liste& liste)
+        : modell_(haus.modell),
+          dateien_(haus.plattform.Dateisystem),
+          kanäle_(haus.kanäle),
+          einstellungen_(haus.einstellungen),
           verzeichnis_(verzeichnis),
           liste_(liste) {}
 

@@ -5,6 +5,9 @@
 #include <utility>
 
 #include "grundlagen/waehrend.hpp"
+#include "lieder/hinzufuegen/begleiter.hpp"
+#include "lieder/hinzufuegen/dbadd_kategorien.hpp"
+#include "oberflaeche/ansicht.hpp"
 
 namespace tonkartei {
 namespace {
@@ -15,12 +18,11 @@ Text MByte_Text(double KByte) { return Zahltext(static_cast<long long>(std::floo
 
 bool Lieder_Übernahme::ausführen(const Übernahme_Auftrag& auftrag) {
     if (!bestätigt(auftrag)) return false;
-    if (Winamp_anhalten) Winamp_anhalten();
     Lauf lauf{auftrag, modell_.Anzahl_Lieder, {}};
     const Während läuft(lauf_, &lauf);
     const Long A = übernehmen_.ausführen(auftrag);
-    if (auftrag.Album_erstellen && Album_erstellen && !lauf.abgeschlossen) Album_erstellen(A, lauf.begleitung);
-    if (auftrag.Playlist_erstellen && Playlist_erstellen && !lauf.abgeschlossen) Playlist_erstellen(A, lauf.begleitung);
+    if (auftrag.Album_erstellen && !lauf.abgeschlossen) begleiter_.album.erstellen(A, lauf.begleitung);
+    if (auftrag.Playlist_erstellen && !lauf.abgeschlossen) begleiter_.playlist.erstellen(lauf.begleitung);
     if (!lauf.abgeschlossen) eintragen(lauf, A);
     if (lauf.abgeschlossen) return true;
     if (lauf.begleitung.Abschluss) std::exchange(lauf.begleitung.Abschluss, nullptr)();
@@ -29,11 +31,11 @@ bool Lieder_Übernahme::ausführen(const Übernahme_Auftrag& auftrag) {
 }
 
 void Lieder_Übernahme::eintragen(Lauf& lauf, Long A) {
-    if (lauf.auftrag.Quelle != Quelle_Datenbank || !Kategorien_zuordnen) {
+    if (lauf.auftrag.Quelle != Quelle_Datenbank) {
         eintragen_.ausführen(A, lauf.auftrag.Modus, lauf.begleitung);
         return;
     }
-    std::vector<Byte> kategorien = Kategorien_zuordnen(A, lauf.auftrag.Lieder);
+    std::vector<Byte> kategorien = zuordnung_.Init(A, lauf.auftrag.Lieder);
     if (!lauf.abgeschlossen) eintragen_.mit_Kategorien(std::move(kategorien), lauf.begleitung);
 }
 
@@ -43,8 +45,7 @@ void Lieder_Übernahme::abschließen() {
     const Long A = übernehmen_.Anzahl();
     if (modell_.Anzahl_Lieder < lauf_->vorher + A) {
         std::vector<Byte> kategorien(static_cast<std::size_t>(A), 1);
-        if (lauf_->auftrag.Quelle == Quelle_Datenbank && Kategorien_ohne_Rückfrage)
-            kategorien = Kategorien_ohne_Rückfrage(A, lauf_->auftrag.Lieder);
+        if (lauf_->auftrag.Quelle == Quelle_Datenbank) kategorien = zuordnung_.ohne_Rückfrage(A, lauf_->auftrag.Lieder);
         std::replace(kategorien.begin(), kategorien.end(), Byte{0}, Byte{1});
         eintragen_.mit_Kategorien(std::move(kategorien), lauf_->begleitung);
     }

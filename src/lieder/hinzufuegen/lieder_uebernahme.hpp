@@ -2,35 +2,28 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
-#include <vector>
 
-#include "datenbank/modell.hpp"
+#include "datenbank/haus.hpp"
 #include "lieder/hinzufuegen/dateien_uebernehmen.hpp"
 #include "lieder/hinzufuegen/lieder_eintragen.hpp"
 #include "lieder/hinzufuegen/uebernahme_auftrag.hpp"
-#include "oberflaeche/ansicht.hpp"
-#include "plattform/dateisystem.hpp"
 
 namespace tonkartei {
 
+class DBadd_Kategorien;
+struct Begleiter;
+
 class Lieder_Übernahme {
 public:
-    Lieder_Übernahme(Ansicht& ansicht, Modell& modell, Dateisystem& dateien, Dateien_übernehmen& übernehmen,
+    Lieder_Übernahme(Haus& haus, Dateien_übernehmen& übernehmen, Begleiter& begleiter, DBadd_Kategorien& zuordnung,
                      Lieder_eintragen& eintragen)
-        : ansicht_(ansicht), modell_(modell), dateien_(dateien), übernehmen_(übernehmen), eintragen_(eintragen) {}
-
-    // Stops the player, so that it lets go of its file; connected by the composition.
-    std::function<void()> Winamp_anhalten;
-    // Make an album or a list file of the `A` new songs and put what belongs to it into the company; without one nothing is
-    // made.
-    std::function<void(Long A, Begleitung&)> Album_erstellen;
-    std::function<void(Long A, Begleitung&)> Playlist_erstellen;
-
-    // Songs of another collection: the category of each of the `A` new ones, 0 where it is to be asked for.
-    std::function<std::vector<Byte>(Long A, const std::vector<Lied_Fund>&)> Kategorien_zuordnen;
-    // The same at once, with what the user has said so far.
-    std::function<std::vector<Byte>(Long A, const std::vector<Lied_Fund>&)> Kategorien_ohne_Rückfrage;
+        : ansicht_(haus.ansicht),
+          modell_(haus.modell),
+          dateien_(haus.plattform.Dateisystem),
+          übernehmen_(übernehmen),
+          begleiter_(begleiter),
+          zuordnung_(zuordnung),
+          eintragen_(eintragen) {}
 
     // False when the user decided against it before anything happened.
     bool ausführen(const Übernahme_Auftrag& auftrag);
@@ -56,6 +49,8 @@ private:
     Modell& modell_;
     Dateisystem& dateien_;
     Dateien_übernehmen& übernehmen_;
+    Begleiter& begleiter_;
+    DBadd_Kategorien& zuordnung_;
     Lieder_eintragen& eintragen_;
     Lauf* lauf_ = nullptr;
 };

@@ -5,8 +5,10 @@
 #include <charconv>
 
 #include "grundlagen/codepage.hpp"
+#include "lieder/hinzufuegen/mp3_tag_aendern.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fortschritts_ende.hpp"
+#include "wiedergabe/winamp/winamp_starter.hpp"
 
 namespace tonkartei {
 namespace {
@@ -22,13 +24,15 @@ Text MByte_Text(double KByte) { return KByte < 1 ? "---" : Zahltext(gerundet(KBy
 
 }  // namespace
 
-neue_Lieder_Liste::neue_Lieder_Liste(Ansicht& ansicht, Dateisystem& dateien, MP3_TagHead& mp3,
-                                     Fortschritts_Fenster& fortschritt, Lieder_Übernahme& übernahme)
-    : Fenster(ansicht, "neue_Lieder_Liste", "Lieder hinzufügen"),
-      dateien_(dateien),
+neue_Lieder_Liste::neue_Lieder_Liste(Haus& haus, MP3_TagHead& mp3, Lieder_Übernahme& übernahme, MP3_Tag_ändern& tag_ändern,
+                                     WinAmp_Starter& starter)
+    : Fenster(haus.ansicht, "neue_Lieder_Liste", "Lieder hinzufügen"),
+      dateien_(haus.plattform.Dateisystem),
+      fortschritt_(haus.fortschritt),
       mp3_(mp3),
-      fortschritt_(fortschritt),
-      übernahme_(übernahme) {
+      übernahme_(übernahme),
+      tag_ändern_(tag_ändern),
+      starter_(starter) {
     gefundene_Lieder.tooltip("Alle Lieder, die gefunden wurden.");
     Lieder_hinzufügen.tooltip("Die Lieder, die hinzugefügt werden.");
     abspielen_1.tooltip("Das gewählte gefundene Lied mit WinAmp anhören.");
@@ -208,11 +212,11 @@ void neue_Lieder_Liste::Tags_lesen() {
 
 void neue_Lieder_Liste::Tag_des_gewählten_ändern() {
     const int zeile = gefundene_Lieder.gewählt();
-    if (zeile < 0 || !Tag_ändern_Dialog) return;
+    if (zeile < 0) return;
     const Text& pfad = Funde_[zeile + 1].Pfad;
     Text titel, artist;
     mp3_.Lied_Tag_lesen(pfad, titel, artist);
-    if (!Tag_ändern_Dialog(pfad, artist, titel)) return;
+    if (!tag_ändern_.Tag_ändern(pfad, artist, titel)) return;
     const Text neu = artist + " - " + titel;
     MP3_Tags.zeile(zeile, neu);
     MP3_DGröße.zeile(zeile, Dezimaltext(static_cast<double>(std::max<std::int64_t>(0, dateien_.Dateilänge(pfad))) / 1024.0));
@@ -223,7 +227,7 @@ void neue_Lieder_Liste::Tag_des_gewählten_ändern() {
 }
 
 void neue_Lieder_Liste::Lied_abspielen(Long Nr) {
-    if (Nr >= 1 && Datei_abspielen) Datei_abspielen(Funde_[Nr].Pfad);
+    if (Nr >= 1) starter_.starte_WinAmp_Datei(Funde_[Nr].Pfad);
 }
 
 void neue_Lieder_Liste::Summen_zeigen() {

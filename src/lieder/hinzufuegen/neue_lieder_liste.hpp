@@ -4,21 +4,23 @@
 
 #include <functional>
 
+#include "datenbank/haus.hpp"
 #include "grundlagen/feld.hpp"
 #include "lieder/hinzufuegen/lieder_uebernahme.hpp"
 #include "mp3/mp3_taghead.hpp"
 #include "oberflaeche/elemente.hpp"
 #include "oberflaeche/fenster.hpp"
-#include "oberflaeche/fortschritt.hpp"
 #include "oberflaeche/listen.hpp"
-#include "plattform/dateisystem.hpp"
 
 namespace tonkartei {
 
+class MP3_Tag_ändern;
+class WinAmp_Starter;
+
 class neue_Lieder_Liste : public Fenster {
 public:
-    neue_Lieder_Liste(Ansicht& ansicht, Dateisystem& dateien, MP3_TagHead& mp3, Fortschritts_Fenster& fortschritt,
-                      Lieder_Übernahme& übernahme);
+    neue_Lieder_Liste(Haus& haus, MP3_TagHead& mp3, Lieder_Übernahme& übernahme, MP3_Tag_ändern& tag_ändern,
+                      WinAmp_Starter& starter);
 
     Schriftfeld gefundene_Lieder_Text{*this, "gefundene_Lieder_Text", "ge&fundene Lieder:"};
     Listenfeld gefundene_Lieder{*this, "gefundene_Lieder"};
@@ -58,9 +60,6 @@ public:
     // Connected by the composition. The main window is locked while songs are added.
     std::function<void(bool gesperrt)> Hauptfenster_sperren;
     std::function<void()> Liste_fokussieren;
-    std::function<void(const Text& Datei)> Datei_abspielen;
-    // The tag dialog on a file: true when its tag was written, and the texts are the new ones.
-    std::function<bool(const Text& Datei, Text& Artist, Text& Titel)> Tag_ändern_Dialog;
 
     // Loads the window, hidden, with nothing found.
     void Reset();
@@ -71,8 +70,6 @@ public:
     void add_MP3_Größe(double KByte);
     // Shows what was found and returns when the window is closed. `Füllen`: the texts are the file names, sizes unknown.
     void activate(Byte Quelle, bool Füllen);
-
-    Long Anzahl_gefunden() const noexcept { return Anzahl_gefunden_; }
 
 protected:
     Knoten anordnung() override;
@@ -96,9 +93,11 @@ private:
     double KByte_hinzuzufügender() const;
 
     Dateisystem& dateien_;
-    MP3_TagHead& mp3_;
     Fortschritts_Fenster& fortschritt_;
+    MP3_TagHead& mp3_;
     Lieder_Übernahme& übernahme_;
+    MP3_Tag_ändern& tag_ändern_;
+    WinAmp_Starter& starter_;
 
     Byte Quelle_ = Quelle_Dateien;
     Übernahmeart Modus_ = Übernahmeart::kopieren;

@@ -81,7 +81,8 @@ void Wartung::Lieder_ab_Datum() {
         fortschritt_.Text_setzen("Lieder ab Datum " + mittleres_Datum(*datum) + " suchen...");
         for (Long nr = 1; nr <= modell_.Anzahl_Lieder; ++nr) {
             fortschritt_.anzeigen(Prozent(nr, modell_.Anzahl_Lieder));
-            if (nur_gewählte && !zeigt_Kategorie(1) && !zeigt_Kategorie(modell_.Lieder[nr].Kategorie)) continue;
+            if (nur_gewählte && !liste_.zeigt_Kategorie(1) && !liste_.zeigt_Kategorie(modell_.Lieder[nr].Kategorie))
+                continue;
             const auto zeit = dateien_.Änderungszeit(modell_.Lied_Pfad(nr));
             if (zeit && tag(*zeit) >= tag(*datum)) nummern.push_back(nr);
         }

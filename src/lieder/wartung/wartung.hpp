@@ -1,15 +1,11 @@
 // The commands that mend and look through the whole collection: re-reading, twins, songs from a date on, the mean count.
 #pragma once
 
-#include <functional>
-
-#include "datenbank/modell.hpp"
+#include "datenbank/haus.hpp"
 #include "lieder/wartung/datum_eingeben.hpp"
 #include "lieder/wartung/lieder_einlesen.hpp"
 #include "lieder/wartung/zwillinge.hpp"
 #include "liste/listenbereich.hpp"
-#include "oberflaeche/fortschritt.hpp"
-#include "plattform/dateisystem.hpp"
 
 namespace tonkartei {
 
@@ -18,12 +14,13 @@ Text Mittelwert_Text(double wert);
 
 class Wartung {
 public:
-    Wartung(Modell& modell, Dateisystem& dateien, Lieder_einlesen& einlesen, Fortschritts_Fenster& fortschritt,
-            Datum_eingeben& datum, Listenbereich& liste)
-        : modell_(modell), dateien_(dateien), einlesen_(einlesen), fortschritt_(fortschritt), datum_(datum), liste_(liste) {}
-
-    // Whether the box of a category is checked; the first stands for all. Connected by the composition.
-    std::function<bool(int Kategorie)> zeigt_Kategorie = [](int) { return true; };
+    Wartung(Haus& haus, Lieder_einlesen& einlesen, Datum_eingeben& datum, Listenbereich& liste)
+        : modell_(haus.modell),
+          dateien_(haus.plattform.Dateisystem),
+          fortschritt_(haus.fortschritt),
+          einlesen_(einlesen),
+          datum_(datum),
+          liste_(liste) {}
 
     void Lieder_Namen_einlesen();
     void Liste_einlesen();
@@ -37,8 +34,8 @@ private:
 
     Modell& modell_;
     Dateisystem& dateien_;
-    Lieder_einlesen& einlesen_;
     Fortschritts_Fenster& fortschritt_;
+    Lieder_einlesen& einlesen_;
     Datum_eingeben& datum_;
     Listenbereich& liste_;
 };

@@ -1,28 +1,27 @@
 #include "wiedergabe/zufall/liedautomatik.hpp"
 
-#include "datenbank/einstellungen.hpp"
+#include "datenbank/haus.hpp"
 #include "kategorien/kategorienbereich.hpp"
-#include "plattform/plattform.hpp"
 #include "wiedergabe/wiedergabe.hpp"
 #include "wiedergabe/wiedergabebereich.hpp"
 
 namespace tonkartei {
 
-Liedautomatik::Liedautomatik(Modell& modell, Einstellungen& einstellungen, const Plattform& plattform, Ansicht& ansicht,
-                             Wiedergabe& wiedergabe, Listenbereich& lieder, Kategorienbereich& kategorien,
-                             Wiedergabebereich& bereich)
-    : Folge(lieder, ansicht),
-      Zufall(modell, einstellungen, wiedergabe.Zählung, plattform.Rechner, lieder),
-      Start(bereich, lieder, Folge, Zufall, wiedergabe.Zählung),
-      Wechsel(modell, einstellungen, kategorien, plattform.Rechner, ansicht),
-      Autoplay(einstellungen, wiedergabe.Spieler, bereich, lieder, Folge, Wechsel),
-      Zufallsliste(modell, einstellungen, lieder, plattform.Rechner, ansicht),
-      Optionen(modell, einstellungen, ansicht) {
+Liedautomatik::Liedautomatik(Haus& haus, Album_Start& listenstart, Wiedergabe& wiedergabe, const Bereiche& bereiche)
+    : Folge(bereiche.Lieder, haus.ansicht),
+      Zufall(haus.modell, haus.einstellungen, wiedergabe.Zählung, haus.plattform.Rechner, bereiche.Lieder),
+      Start(bereiche.Wiedergabe, bereiche.Lieder, Folge, Zufall, wiedergabe.Zählung),
+      Wechsel(haus.modell, haus.einstellungen, bereiche.Kategorien, haus.plattform.Rechner, haus.ansicht),
+      Autoplay(haus.einstellungen, wiedergabe.Spieler, bereiche.Wiedergabe, bereiche.Lieder, Folge, Wechsel),
+      Zufallsliste(haus, bereiche.Lieder, listenstart),
+      Optionen(haus.modell, haus.einstellungen, haus.ansicht) {
+    Wiedergabebereich& bereich = bereiche.Wiedergabe;
+    Kategorienbereich& kategorien = bereiche.Kategorien;
     wiedergabe.Takt.Autoplay_Schritt.verbinden([this] { Autoplay.Schritt(); });
     bereich.Zufalls_Playlist.Klick.verbinden([this] { Zufallsliste.erstellen(); });
     bereich.auto_Kat_Wechsel_Setup.Klick.verbinden([this] { Optionen.auto_Kat_Wechsel_Setup(); });
 
-    kategorien.Auto_Wechsel_an = [&bereich, &einstellungen] {
+    kategorien.Auto_Wechsel_an = [&bereich, &einstellungen = haus.einstellungen] {
         return bereich.Autoplay.wert() && einstellungen.auto_Kat_Wechsel_Status;
     };
     kategorien.Auto_Wechsel_beenden.verbinden([&bereich] { bereich.auto_Kat_Wechsel.wert(false); });

@@ -1,6 +1,7 @@
 // What decides which song comes next, put together: above the list, unlike the rest of the playing side.
 #pragma once
 
+#include "wiedergabe/bereiche.hpp"
 #include "wiedergabe/liedstart.hpp"
 #include "wiedergabe/zufall/autoplay.hpp"
 #include "wiedergabe/zufall/kategoriewechsel.hpp"
@@ -11,12 +12,12 @@
 
 namespace tonkartei {
 
-struct Plattform;
+class Album_Start;
+struct Haus;
 struct Wiedergabe;
 
 struct Liedautomatik {
-    Liedautomatik(Modell& modell, Einstellungen& einstellungen, const Plattform& plattform, Ansicht& ansicht,
-                  Wiedergabe& wiedergabe, Listenbereich& lieder, Kategorienbereich& kategorien, Wiedergabebereich& bereich);
+    Liedautomatik(Haus& haus, Album_Start& listenstart, Wiedergabe& wiedergabe, const Bereiche& bereiche);
     Liedautomatik(const Liedautomatik&) = delete;
     Liedautomatik& operator=(const Liedautomatik&) = delete;
 

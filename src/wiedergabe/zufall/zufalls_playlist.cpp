@@ -2,11 +2,10 @@
 
 #include <cmath>
 
-#include "datenbank/einstellungen.hpp"
-#include "datenbank/modell.hpp"
+#include "alben/album_start.hpp"
+#include "datenbank/haus.hpp"
 #include "liste/listenbereich.hpp"
 #include "oberflaeche/ansicht.hpp"
-#include "plattform/rechner.hpp"
 #include "wiedergabe/zufall/zufallsliste.hpp"
 
 namespace tonkartei {
@@ -16,9 +15,13 @@ constexpr const char* Titel = "Random-MP3-Playlist";
 
 }  // namespace
 
-Zufalls_Playlist::Zufalls_Playlist(Modell& modell, const Einstellungen& einstellungen, Listenbereich& lieder,
-                                   Rechner& rechner, Ansicht& ansicht)
-    : modell_(modell), einstellungen_(einstellungen), lieder_(lieder), rechner_(rechner), ansicht_(ansicht) {}
+Zufalls_Playlist::Zufalls_Playlist(Haus& haus, Listenbereich& lieder, Album_Start& start)
+    : modell_(haus.modell),
+      einstellungen_(haus.einstellungen),
+      rechner_(haus.plattform.Rechner),
+      ansicht_(haus.ansicht),
+      lieder_(lieder),
+      start_(start) {}
 
 Long Zufalls_Playlist::Menge_erfragen(int vorhanden) {
     const double menge =
@@ -52,7 +55,7 @@ void Zufalls_Playlist::erstellen() {
     if (in_den_Editor)
         in_Playlist(nummern);
     else
-        Liste_starten(nummern);
+        start_.starte_Lieder(nummern);
 }
 
 }  // namespace tonkartei

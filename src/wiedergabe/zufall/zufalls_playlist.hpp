@@ -9,22 +9,21 @@
 
 namespace tonkartei {
 
+class Album_Start;
 class Ansicht;
 class Listenbereich;
 class Rechner;
 struct Einstellungen;
+struct Haus;
 struct Modell;
 
 class Zufalls_Playlist {
 public:
-    Zufalls_Playlist(Modell& modell, const Einstellungen& einstellungen, Listenbereich& lieder, Rechner& rechner,
-                     Ansicht& ansicht);
+    Zufalls_Playlist(Haus& haus, Listenbereich& lieder, Album_Start& start);
 
     // The whole command, with its questions.
     void erstellen();
 
-    // Writes the list file that the player gets and starts it there.
-    std::function<void(const std::vector<Long>&)> Liste_starten;
     // Opens the playlist window and empties it, if the user lets it: what he keeps there stays in front of the new songs.
     std::function<void()> Playlist_leeren;
     std::function<void(const std::vector<Long>&)> in_Playlist;
@@ -35,9 +34,10 @@ private:
 
     Modell& modell_;
     const Einstellungen& einstellungen_;
-    Listenbereich& lieder_;
     Rechner& rechner_;
     Ansicht& ansicht_;
+    Listenbereich& lieder_;
+    Album_Start& start_;
 };
 
 }  // namespace tonkartei

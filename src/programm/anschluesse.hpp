@@ -1,0 +1,30 @@
+// What crosses the rooms: the main window's areas and menu entries on one side, what a subsystem does on the other. One
+// function a subsystem, called once while the program is put together; the parts outlive all that is connected here.
+#pragma once
+
+#include "datenbank/haus.hpp"
+#include "programm/tonkartei.hpp"
+
+namespace tonkartei {
+
+class Kategorie_Wahl;
+class Lied_Befehle;
+class Playlist;
+class Sitzung;
+struct Albenraum;
+struct Datenbankraum;
+struct Hinzufügen;
+struct Liedautomatik;
+struct Liederraum;
+struct Wiedergabe;
+
+// The window's own commands and settings.
+void Fenster_anschließen(Haus& haus, Tonkartei& fenster);
+void Datenbank_anschließen(Datenbankraum& datenbank, Tonkartei& fenster);
+void Alben_anschließen(Albenraum& alben, Wiedergabe& wiedergabe, Tonkartei& fenster);
+void Kategorien_anschließen(Kategorie_Wahl& wahl, const Modell& modell, Wiedergabe& wiedergabe, Tonkartei& fenster);
+void Wiedergabe_anschließen(Wiedergabe& wiedergabe, Liedautomatik& automatik, Haus& haus, Tonkartei& fenster);
+void Playlist_anschließen(Playlist& playlist, Liedautomatik& automatik, Sitzung& sitzung, Hinzufügen& hinzufügen);
+void Lieder_anschließen(Liederraum& lieder, Lied_Befehle& befehle, const Haus& haus, Playlist& playlist, Tonkartei& fenster);
+
+}  // namespace tonkartei
