@@ -6,10 +6,10 @@
 namespace tonkartei {
 namespace {
 
-TEST(Winamp_Steuerung, Status_und_Ort) {
+TEST(WinAmp_Steuerung, Status_und_Ort) {
     Aufzeichnung protokoll;
     Fenster_Bühne fenster(protokoll);
-    Winamp_Steuerung steuerung(fenster);
+    WinAmp_Steuerung steuerung(fenster);
     fenster.Fenster = {{9, Fenster_Bühne::Schreibtisch, "x"}};
     for (const auto& [antwort, status] : {std::pair<std::int32_t, Long>{1, 1}, {3, 2}, {0, 3}, {2, 3}, {-1, 3}}) {
         fenster.suchen(9)->Status = antwort;
