@@ -11,7 +11,7 @@ constexpr const char* Kopie = "anderswo/MP3_Bak.ABR";
 
 TEST(ABR, lesen) {
     Bühne b;
-    b.Ordner.datei(Datei,
+    b.ordner.datei(Datei,
                    "1204: 183\r\n"
                    "1204: VoLL \r\n"
                    "  12: 183\r\n"  // the columns count behind the blanks
@@ -22,9 +22,9 @@ TEST(ABR, lesen) {
                    "abcd: voll\r\n"
                    "1000: 5,  2000: 6\r\n"
                    "3000:\xFC  7 s");
-    const int kanal = b.Kanäle_.öffnen_zum_Lesen(b.Ordner.pfad(Datei));
+    const int kanal = b.haus.kanäle.öffnen_zum_Lesen(b.ordner.pfad(Datei));
     Text gelesen;
-    while (const auto satz = lese_ABR_Satz(b.Kanäle_, kanal))
+    while (const auto satz = lese_ABR_Satz(b.haus.kanäle, kanal))
         gelesen +=
             Zahltext(satz->Nr) + "=" + (satz->voll() ? "voll" : Zahltext(static_cast<long long>(satz->Sekunden()))) + " ";
     EXPECT_EQ(gelesen, "1204=183 1204=voll 12=3 12=0 1000=5 2000=6 3000=7 ");
@@ -47,10 +47,10 @@ TEST(ABR, umnummerieren) {
     };
     for (const auto& fall : fälle) {
         Bühne b;
-        b.Ordner.datei(Datei, fall.vorher);
+        b.ordner.datei(Datei, fall.vorher);
         b.Spiel.ABR.ABR_umnummerieren(fall.alt, fall.neu);
-        EXPECT_EQ(b.Ordner.inhalt(Datei), fall.nachher) << fall.was;
-        EXPECT_FALSE(b.Ordner.da("MP3_Bak.ABR")) << fall.was;
+        EXPECT_EQ(b.ordner.inhalt(Datei), fall.nachher) << fall.was;
+        EXPECT_FALSE(b.ordner.da("MP3_Bak.ABR")) << fall.was;
     }
 }
 
@@ -58,24 +58,22 @@ TEST(ABR, nach_einem_Fehlschlag_steht_noch_eine_ganze_Datei) {
     const Text inhalt = "1204: voll\r\n5000: voll\r\n";
     Bühne b;
     b.Spiel.ABR.ABR_umnummerieren(5000, 7);
-    EXPECT_FALSE(b.Ordner.da(Datei)) << "without a file nothing happens";
+    EXPECT_FALSE(b.ordner.da(Datei)) << "without a file nothing happens";
     // The copy lies in the current folder.
-    b.Dateien.aktuellen_Ordner_setzen(b.Ordner.ordner("anderswo"));
-    b.Ordner.datei(Datei, inhalt);
-    b.Dateien.umbenennen_scheitert = true;
+    b.dateien.aktuellen_Ordner_setzen(b.ordner.ordner("anderswo"));
+    b.ordner.datei(Datei, inhalt);
+    b.störungen.Fehler_bestellen(Vorgang::umbenennen, 1);
     b.Spiel.ABR.ABR_umnummerieren(5000, 7);
-    EXPECT_EQ(b.Ordner.inhalt(Datei), inhalt);
-    b.Dateien.umbenennen_scheitert = false;
-    b.Dateien.schreiben_scheitert = true;
+    EXPECT_EQ(b.ordner.inhalt(Datei), inhalt);
+    b.störungen.Fehler_bestellen(Vorgang::schreiben, 1);
     b.Spiel.ABR.ABR_umnummerieren(5000, 7);
-    EXPECT_EQ(b.Ordner.inhalt(Kopie), inhalt);
-    EXPECT_TRUE(b.Ansicht.Meldungen.empty());
-    EXPECT_FALSE(b.Kanäle_.offen(1) || b.Kanäle_.offen(2));
+    EXPECT_EQ(b.ordner.inhalt(Kopie), inhalt);
+    EXPECT_TRUE(b.ansicht.gefragt().empty());
+    EXPECT_FALSE(b.haus.kanäle.offen(1) || b.haus.kanäle.offen(2));
     // The next call finds that copy in its way, reads it and mends the file.
-    b.Dateien.schreiben_scheitert = false;
     b.Spiel.ABR.ABR_umnummerieren(5000, 7);
-    EXPECT_EQ(b.Ordner.inhalt(Datei), "1204: voll\r\n   7: voll\r\n");
-    EXPECT_FALSE(b.Ordner.da(Kopie));
+    EXPECT_EQ(b.ordner.inhalt(Datei), "1204: voll\r\n   7: voll\r\n");
+    EXPECT_FALSE(b.ordner.da(Kopie));
 }
 
 }  // namespace
