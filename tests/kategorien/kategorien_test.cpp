@@ -109,8 +109,9 @@ TEST_F(Kategorien, Schemas) {
     EXPECT_EQ(b->zeige(Schema(2))["tooltip"], "Tanz & Ska");
     EXPECT_EQ(Traymenü("Tray_Schemas")[1]["text"], "Tanz & Ska");
     EXPECT_EQ(Traymenü("Tray_Schemas")[3]["text"], "---");
-    // The right button stores and asks; what is cancelled leaves the name.
-    hände({"klick " + Kasten(2), "rechtsklick " + Schema(3), "abbrechen"});
+    // The right button stores and asks; what is cancelled leaves the name, and an assignment that was begun is off.
+    hände({"klick Tonkartei.Kat_Schema_zuweisen", "antwort OK", "klick " + Kasten(2), "rechtsklick " + Schema(3),
+           "abbrechen"});
     EXPECT_EQ(b->zeige(Schema(3))["tooltip"], "Schema 3");
     EXPECT_EQ(nach("klick " + Schema(2)), "24:BD");
     EXPECT_EQ(nach("klick Kontextmenüs.Schema(3)"), "4:D");
