@@ -37,8 +37,6 @@ public:
     void aufgeben(int nummer) noexcept;
     bool offen(int nummer) const;
 
-    // True when nothing is left to read.
-    bool am_Ende(int nummer);
     // A whole line, up to CR LF or the end of the file. A CR or LF that stands alone belongs to the line, so all
     // 256 bytes come back in a name.
     Text lese_Zeile(int nummer);
@@ -48,8 +46,6 @@ public:
     // The same with the file's own bytes, for paths, and without a copy: good until the next reading; none at the end. A
     // value of more than `höchstens` bytes comes as an empty one and is not kept in memory.
     std::optional<std::string_view> nächster_Rohwert(int nummer, std::size_t höchstens);
-    // Whole line with the file's own bytes.
-    std::string lese_Rohzeile(int nummer);
     // A value taken as a number, rounded; overflow (6) outside the type, 0 for what is no number.
     Long lese_Long(int nummer);
     Byte lese_Byte(int nummer);
@@ -67,7 +63,6 @@ private:
     struct Kanal;
     Kanal& Kanal_von(int nummer);
     Kanal& mit_Richtung(int nummer, bool schreibend);
-    [[noreturn]] void falsch(int nummer);
     Kanal& zum_Lesen(int nummer);
     Kanal& zum_Schreiben(int nummer);
     int öffnen(const Text& pfad, bool schreibend);
