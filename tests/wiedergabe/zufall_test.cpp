@@ -370,8 +370,7 @@ TEST(Zufalls_Playlist, Jedes_Lied_einmal) {
     for (const auto& f : fälle) {
         Zufallsbühne b({3, 2, 1, 0}, f.Prozent);
         std::vector<Long> gewählt;
-        b.Automatik.Zufalls_Playlist.in_Playlist = [&](const std::vector<Long>& lieder) { gewählt = lieder; };
-        b.Automatik.Zufalls_Playlist.Playlist_leeren = [] {};
+        b.Automatik.Zufalls_Playlist.in_Playlist.verbinden([&](const std::vector<Long>& lieder) { gewählt = lieder; });
         b.ansicht.Eingaben = {f.Antwort};
         b.zufall(f.R);
         b.Automatik.Zufalls_Playlist.erstellen();
