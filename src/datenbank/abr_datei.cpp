@@ -30,7 +30,7 @@ bool ABR_Satz::voll() const { return groß(Rest) == "VOLL"; }
 double ABR_Satz::Sekunden() const { return Zahlwert(Rest); }
 
 std::optional<ABR_Satz> lese_ABR_Satz(Kanäle& kanäle, int kanal) {
-    while (const auto bytes = kanäle.nächster_Rohwert(kanal, längste_Zeile)) {
+    while (const auto bytes = kanäle.nächster_Satz(kanal, längste_Zeile)) {
         const Text wert = aus_1252(*bytes);
         if (Zeichenzahl(wert) < Rest_ab) continue;
         const Long nummer = gerundet(Zahlwert(links(wert, Nummer_Breite)));

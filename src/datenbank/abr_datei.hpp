@@ -24,10 +24,9 @@ struct ABR_Satz {
     double Sekunden() const;
 };
 
-// The next record that counts, from a channel open for reading; none at the end of the file. Records are values, ended by a
-// comma or the line: blanks before them are skipped, and only then are the columns counted. So a line whose number is
-// filled up with blanks loses the front of its seconds ("  12: 183" tells 3), and all of "   7: 0" is too short. That is how
-// the file has always been read.
+// The next record that counts, from a channel open for reading; none at the end of the file. Columns 1 to 4 hold the number,
+// filled up with blanks, 5 and 6 a colon and a blank, the rest begins at column 7; a comma ends a record as the line does. A
+// record that is shorter, or whose number is below 1, does not count. The number may be above 5000.
 std::optional<ABR_Satz> lese_ABR_Satz(Kanäle& kanäle, int kanal);
 
 class ABR_Datei {

@@ -4,7 +4,6 @@
 #include "datenbank/datenbank_oeffnen.hpp"
 #include "datenbank/haus.hpp"
 #include "datenbank/info_datei.hpp"
-#include "datenbank/konvertierung.hpp"
 #include "datenbank/m3u.hpp"
 #include "datenbank/registry.hpp"
 #include "datenbank/sitzung.hpp"
@@ -20,7 +19,6 @@ struct Datenbankraum {
     Haus& haus;
     Registry registry;
     Info_Datei info;
-    Konvertierung konvertierung;
     Zugriffsdatei zugriff;
     Sitzung sitzung;
     Datenbank_öffnen öffnen;

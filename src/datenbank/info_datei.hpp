@@ -3,7 +3,9 @@
 
 #include <functional>
 
+#include "datenbank/konvertierung.hpp"
 #include "datenbank/modell.hpp"
+#include "datenbank/rettung.hpp"
 
 namespace tonkartei {
 
@@ -21,7 +23,9 @@ int Versionsstufe(const Text& version);
 
 class Info_Datei {
 public:
-    Info_Datei(Modell& modell, Kanäle& kanäle, Dateisystem& dateien, Ansicht& ansicht, Fortschritts_Fenster& fortschritt);
+    // The temporary folder takes what is converted but cannot be written beside its source.
+    Info_Datei(Modell& modell, Kanäle& kanäle, Dateisystem& dateien, Fortschritts_Fenster& fortschritt,
+               const Text& Temp_Verzeichnis);
 
     // Opens the file on a channel and tests its two head lines, with the questions about other versions. True: the channel
     // stands just behind the head. False: it is closed and the user was told.
@@ -34,17 +38,16 @@ public:
     // Writes everything that must be written, under the safety copy. False after a failure, which the user was told.
     bool schreibe_Datenbank(bool Fortschritt_zeigen);
 
-    // The conversion steps of older layouts. Each takes and gives back the open file; without them such a file is declined.
-    using Konvertierer = std::function<bool(Text& Datei, int& Dateinummer)>;
-    Konvertierer konvertiere_1_00, konvertiere_1_01;
+    // What a session leaves where it could not save.
+    Rettung Gerettetes;
+    // The last save came as far as the info file itself.
+    bool Info_steht() const noexcept { return info_steht_; }
     // The writers of the albums and of the ignore list, called when those were changed.
     std::function<bool()> Alben_schreiben, Ignorieren_schreiben;
 
 private:
     bool Kopf_prüfen(Text& Datei, int& Dateinummer);
-    void Körper_lesen(int nummer, Bestand& bestand);
-    void Lied_lesen(int nummer, Bestand& bestand, Lied& lied);
-    void Körper_schreiben(int nummer, bool Fortschritt_zeigen);
+    void Kategorie_berichtigen(Bestand& bestand, Lied& lied);
     bool Datei_schreiben(bool Fortschritt_zeigen);
 
     Modell& modell_;
@@ -52,6 +55,8 @@ private:
     Dateisystem& dateien_;
     Ansicht& ansicht_;
     Fortschritts_Fenster& fortschritt_;
+    Konvertierung konvertierung_;
+    bool info_steht_ = false;
 };
 
 }  // namespace tonkartei

@@ -3,8 +3,8 @@
 #include <string_view>
 
 #include "datenbank/info_datei.hpp"
+#include "datenbank/info_koerper.hpp"
 #include "datenbank/version.hpp"
-#include "datenbank/zeitleser.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fortschritt.hpp"
 #include "plattform/kanaele.hpp"
@@ -30,9 +30,15 @@ int Versionsstufe(const Text& version) {
     return 0;
 }
 
-Info_Datei::Info_Datei(Modell& modell, Kanäle& kanäle, Dateisystem& dateien, Ansicht& ansicht,
-                       Fortschritts_Fenster& fortschritt)
-    : modell_(modell), kanäle_(kanäle), dateien_(dateien), ansicht_(ansicht), fortschritt_(fortschritt) {}
+Info_Datei::Info_Datei(Modell& modell, Kanäle& kanäle, Dateisystem& dateien, Fortschritts_Fenster& fortschritt,
+                       const Text& Temp_Verzeichnis)
+    : Gerettetes(modell, kanäle, dateien, fortschritt.ansicht()),
+      modell_(modell),
+      kanäle_(kanäle),
+      dateien_(dateien),
+      ansicht_(fortschritt.ansicht()),
+      fortschritt_(fortschritt),
+      konvertierung_(modell, kanäle, dateien, fortschritt, Temp_Verzeichnis) {}
 
 bool Info_Datei::pruefe_Info_Datei(Text& Datei, int& Dateinummer) {
     modell_.konvertiert_in_Temp = false;
@@ -48,8 +54,8 @@ bool Info_Datei::pruefe_Info_Datei(Text& Datei, int& Dateinummer) {
 }
 
 bool Info_Datei::Kopf_prüfen(Text& Datei, int& Dateinummer) {
-    Text& meldung = modell_.Meldung;
     const Text crcr(CRCR);
+    Text meldung;
     if (kanäle_.lese_Wert(Dateinummer) != Programmtitel) {
         meldung = "Die Informationsdatei " + Text(Info_Datei_Name) + " ist fehlerhaft!" + crcr +
                   "Kontaktieren sie den Autor, um eventuell noch die Daten zu retten." + crcr + Kontaktadresse;
@@ -73,9 +79,8 @@ bool Info_Datei::Kopf_prüfen(Text& Datei, int& Dateinummer) {
         "Version des Programms geöffnet werden." +
         crcr + "Soll die Datenbank geöffnet und konvertiert werden?";
     if (!ansicht_.fragen(Programmtitel, meldung, Antwort::Ja)) return false;
-    const auto Schritt = [&](const Konvertierer& schritt) { return schritt && schritt(Datei, Dateinummer); };
-    if (stufe == 3 && !Schritt(konvertiere_1_00)) return false;
-    return stufe == 1 || Schritt(konvertiere_1_01);
+    if (stufe == 3 && !konvertierung_.konvertiere_1_00(Datei, Dateinummer)) return false;
+    return stufe == 1 || konvertierung_.konvertiere_1_01(Datei, Dateinummer);
 }
 
 bool Info_Datei::lesen(int Dateinummer) {
@@ -83,7 +88,11 @@ bool Info_Datei::lesen(int Dateinummer) {
     Bestand neu;
     fortschritt_.Text_setzen("Datenbank laden...");
     try {
-        Körper_lesen(Dateinummer, neu);
+        Info_Körper_lesen(kanäle_, Dateinummer, neu, [&](Long nr, Long anzahl) {
+            Kategorie_berichtigen(neu, neu.Lieder[nr]);
+            fortschritt_.anzeigen(Prozent(nr, anzahl));
+        });
+        fortschritt_.anzeigen(100);
         kanäle_.schließen(Dateinummer);
     } catch (const Dateifehler&) {
         fortschritt_.anzeigen(100);
@@ -95,41 +104,14 @@ bool Info_Datei::lesen(int Dateinummer) {
     return true;
 }
 
-void Info_Datei::Körper_lesen(int nummer, Bestand& bestand) {
-    bestand.Anzahl_Kategorien = kanäle_.lese_Byte(nummer);
-    for (int k = 1; k <= bestand.Anzahl_Kategorien; ++k) bestand.Kategorien[k] = kanäle_.lese_Zeile(nummer);
-    bestand.Anz_Kat_Schemas = kanäle_.lese_Byte(nummer);
-    for (int s = 1; s <= Schemas_maximal; ++s) {
-        Schema& schema = bestand.Schemas[s];
-        schema.Anzahl = kanäle_.lese_Byte(nummer);
-        schema.Name = kanäle_.lese_Zeile(nummer);
-        for (int i = 1; i <= schema.Anzahl; ++i) schema.Kategorien[i] = kanäle_.lese_Byte(nummer);
-    }
-    bestand.Backup_Warnungs_Grenze = kanäle_.lese_Long(nummer);
-    bestand.Anzahl_Lieder = kanäle_.lese_Long(nummer);
-    if (bestand.Anzahl_Lieder < 1) return;
-    for (Long n = 1; n <= bestand.Anzahl_Lieder; ++n) {
-        Lied_lesen(nummer, bestand, bestand.Lieder[n]);
-        fortschritt_.anzeigen(Prozent(n, bestand.Anzahl_Lieder));
-    }
-    fortschritt_.anzeigen(100);
-}
-
-void Info_Datei::Lied_lesen(int nummer, Bestand& bestand, Lied& lied) {
-    lied.Anzahl = kanäle_.lese_Long(nummer);
-    lied.Artist = kanäle_.lese_Zeile(nummer);
-    lied.Größe = kanäle_.lese_Long(nummer);
-    lied.Kategorie = kanäle_.lese_Byte(nummer);
-    lied.Titel = kanäle_.lese_Zeile(nummer);
-    const auto [stunden, minuten, sekunden] = drei_Zahlen_lesen(kanäle_);
-    lied.Zeit = Zeit_aus(stunden, minuten, sekunden);
-    if (lied.Kategorie >= 1 && lied.Kategorie <= bestand.Anzahl_Kategorien) return;
+void Info_Datei::Kategorie_berichtigen(Bestand& bestand, Lied& lied) {
+    if (Kategorie_bekannt(bestand, lied.Kategorie)) return;
     lied.Kategorie = 1;
-    modell_.Meldung = "Das Lied " + in_Anführungszeichen(lied.Titel) + Text(CR) + "von " +
-                      in_Anführungszeichen(lied.Artist) + Text(CR) + "hat einen Fehler bei der eingestellten Kategorie!" +
-                      Text(CRCR) + "Die Kategorie wurde auf " + in_Anführungszeichen(bestand.Kategorien[1]) + " gesetzt." +
-                      Text(CRCR) + "Bitte überprüfen!";
-    ansicht_.informieren("Datenbank laden", modell_.Meldung);
+    ansicht_.informieren("Datenbank laden", "Das Lied " + in_Anführungszeichen(lied.Titel) + Text(CR) + "von " +
+                                                in_Anführungszeichen(lied.Artist) + Text(CR) +
+                                                "hat einen Fehler bei der eingestellten Kategorie!" + Text(CRCR) +
+                                                "Die Kategorie wurde auf " + in_Anführungszeichen(bestand.Kategorien[1]) +
+                                                " gesetzt." + Text(CRCR) + "Bitte überprüfen!");
 }
 
 }  // namespace tonkartei

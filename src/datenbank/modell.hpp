@@ -12,6 +12,9 @@ inline constexpr int Lieder_maximal = 5000;
 inline constexpr int Kategorien_maximal = 20;
 inline constexpr int Schemas_maximal = 9;
 
+// The category of songs whose own was removed and whose new one is being asked for. It never reaches the disk.
+inline constexpr Byte ohne_Kategorie = 255;
+
 // A song. Its number is its place in `Lieder` and the name of its file; it is not stored in the record.
 struct Lied {
     Long Anzahl = 0;     // times heard; the random choice prefers low values
@@ -46,6 +49,8 @@ struct Modell : Bestand {
     // The arrays may be used; every command that touches the collection tests it.
     bool Datenbank_offen = false;
     bool erste_Datenbank_geladen = false;
+    // Files are being moved and records follow: what is in memory and what is on the disk do not belong together.
+    bool im_Umbau = false;
     // Converted into the temporary folder only: read, never saved back.
     bool konvertiert_in_Temp = false;
     Text Temp_Info_Datei;

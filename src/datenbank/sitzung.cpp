@@ -2,12 +2,12 @@
 
 #include <optional>
 
+#include "datenbank/haus.hpp"
 #include "datenbank/info_datei.hpp"
 #include "datenbank/version.hpp"
 #include "datenbank/zugriffsdatei.hpp"
 #include "grundlagen/waehrend.hpp"
 #include "oberflaeche/ansicht.hpp"
-#include "plattform/plattform.hpp"
 
 namespace tonkartei {
 namespace {
@@ -18,14 +18,13 @@ constexpr const char* Titel_speichern = "Datenbank speichern";
 
 }  // namespace
 
-Sitzung::Sitzung(Modell& modell, Einstellungen& einstellungen, Info_Datei& info, Zugriffsdatei& zugriff,
-                 const Plattform& plattform, Ansicht& ansicht)
-    : modell_(modell),
-      einstellungen_(einstellungen),
+Sitzung::Sitzung(Haus& haus, Info_Datei& info, Zugriffsdatei& zugriff)
+    : modell_(haus.modell),
+      einstellungen_(haus.einstellungen),
       info_(info),
       zugriff_(zugriff),
-      plattform_(plattform),
-      ansicht_(ansicht) {}
+      plattform_(haus.plattform),
+      ansicht_(haus.ansicht) {}
 
 void Sitzung::Verzeichnis_setzen(const Text& Pfad) {
     modell_.Datenbank_Verzeichnis = mit_Trenner(Pfad);
@@ -40,24 +39,25 @@ bool Sitzung::Zugriff_erlaubt() {
     Zeitpunkt zeitpunkt;
     Text computer, benutzer;
     if (!zugriff_.lese_Zugriffsdatei(datei, zeitpunkt, computer, benutzer)) return false;
-    modell_.Meldung = "Die Datenbank " + in_Anführungszeichen(modell_.Datenbank_Verzeichnis) + " ist bereits geöffnet!" +
-                      Text(CRCR) + "Geöffnet am " + mittleres_Datum(zeitpunkt) + " um " + kurze_Uhrzeit(zeitpunkt) +
-                      " Uhr von " + in_Anführungszeichen(benutzer) + " auf dem Computer " + in_Anführungszeichen(computer) +
-                      "." + Text(CRCR) +
-                      "Die Datenbank sollte jetzt nur geöffnet werden, wenn der Rechner "
-                      "vorher abgestürzt ist, anonsten führt das zu Datenverlust!" +
-                      Text(CRCR) + "Wollen sie die Datenbank jetzt trotzdem öffnen?";
-    return ansicht_.fragen(Titel_öffnen, modell_.Meldung);
+    const Text frage = "Die Datenbank " + in_Anführungszeichen(modell_.Datenbank_Verzeichnis) + " ist bereits geöffnet!" +
+                       Text(CRCR) + "Geöffnet am " + mittleres_Datum(zeitpunkt) + " um " + kurze_Uhrzeit(zeitpunkt) +
+                       " Uhr von " + in_Anführungszeichen(benutzer) + " auf dem Computer " + in_Anführungszeichen(computer) +
+                       "." + Text(CRCR) +
+                       "Die Datenbank sollte jetzt nur geöffnet werden, wenn der Rechner "
+                       "vorher abgestürzt ist, anonsten führt das zu Datenverlust!" +
+                       Text(CRCR) + "Wollen sie die Datenbank jetzt trotzdem öffnen?";
+    return ansicht_.fragen(Titel_öffnen, frage);
 }
 
 bool Sitzung::lade_Datenbank() {
     std::optional<Während<bool>> wechsel(std::in_place, wechselt_);
     if (!Zugriff_erlaubt()) return false;
     Text datei = modell_.Pfad(Info_Datei_Name);
+    info_.Gerettetes.anbieten(datei);
     if (!plattform_.Dateisystem.Datei_da(datei)) {
-        modell_.Meldung = "In folgendem Verzeichnis existiert noch keine Datenbank:" + Text(CRCR) +
-                          modell_.Datenbank_Verzeichnis + Text(CRCR) + "Soll dort eine erstellt werden?";
-        if (!ansicht_.fragen(Titel_erstellen, modell_.Meldung)) {
+        if (!ansicht_.fragen(Titel_erstellen, "In folgendem Verzeichnis existiert noch keine Datenbank:" + Text(CRCR) +
+                                                  modell_.Datenbank_Verzeichnis + Text(CRCR) +
+                                                  "Soll dort eine erstellt werden?")) {
             modell_.Datenbank_offen = false;
             return false;
         }
@@ -82,11 +82,16 @@ bool Sitzung::lade_Datenbank() {
 
 bool Sitzung::schreibe_Datenbank(bool Fortschritt_zeigen) { return info_.schreibe_Datenbank(Fortschritt_zeigen); }
 
+void Sitzung::ungespeichert_verlassen() {
+    if (!info_.Info_steht()) info_.Gerettetes.schreiben();
+}
+
 // False when the save failed and the user wants to stay.
 bool Sitzung::gespeichert_oder_verzichtet(const Text& titel, const Text& frage) {
     if (!modell_.Datenbank_offen || schreibe_Datenbank(true)) return true;
-    modell_.Meldung = frage;
-    return ansicht_.fragen(titel, modell_.Meldung);
+    if (!ansicht_.fragen(titel, frage)) return false;
+    ungespeichert_verlassen();
+    return true;
 }
 
 // The albums and the ignore list belong to the collection that is left; they must not end up in the folder of the next one.
@@ -129,9 +134,9 @@ bool Sitzung::Datenbank_erstellen(bool fragen, bool Kategorien_übernehmen) {
     try {
         plattform_.Dateisystem.Ordner_anlegen(pfad);
     } catch (const Dateifehler&) {
-        modell_.Meldung = "Es ist ein Fehler beim anlegen der Datenbank aufgetreten!" + Text(CRCR) +
-                          "Eventuell existiert das Verzeichnis" + Text(CRCR) + pfad + Text(CRCR) + "bereits.";
-        ansicht_.informieren(Programmtitel, modell_.Meldung);
+        ansicht_.informieren(Programmtitel, "Es ist ein Fehler beim anlegen der Datenbank aufgetreten!" + Text(CRCR) +
+                                                "Eventuell existiert das Verzeichnis" + Text(CRCR) + pfad + Text(CRCR) +
+                                                "bereits.");
         return false;
     }
     Verzeichnis_setzen(pfad);
@@ -151,23 +156,20 @@ bool Sitzung::Datenbank_erstellen(bool fragen, bool Kategorien_übernehmen) {
 }
 
 void Sitzung::speichern_von_Hand() {
-    Text& meldung = modell_.Meldung;
     if (!modell_.Datenbank_offen) {
-        meldung = " Die Datenbank kann nicht gespeichert werden. Eventuell ist keine geöffnet?";
-        ansicht_.informieren(Titel_speichern, meldung);
+        ansicht_.informieren(Titel_speichern, " Die Datenbank kann nicht gespeichert werden. Eventuell ist keine geöffnet?");
         return;
     }
-    meldung =
+    const Text erklärung =
         "Dieses Programm speichert die Änderungen an der Datenbank automatisch, "
         "wenn eine neue geöffnet wird, oder wenn das Programm beendet wird." +
         Text(CRCR) + "Aus diesem Grund ist es normalerweise nicht nötig die Änderungen mit diesem Menüpunkt zu speichern.";
-    ansicht_.informieren(Titel_speichern, meldung);
+    ansicht_.informieren(Titel_speichern, erklärung);
     if (schreibe_Datenbank(true)) {
         // The save took the access file away, the session goes on.
         zugriff_.schreibe_Zugriffsdatei();
     } else {
-        meldung = "Es ist ein Fehler beim speichern aufgetreten!";
-        ansicht_.informieren(Titel_speichern, meldung);
+        ansicht_.informieren(Titel_speichern, "Es ist ein Fehler beim speichern aufgetreten!");
     }
 }
 
@@ -177,8 +179,7 @@ void Sitzung::zuletzt_geöffnete_wählen(const Text& Pfad) {
         öffne_Datenbank_Verzeichnis(Pfad);
         return;
     }
-    modell_.Meldung = "Die gewählte Datenbank existiert nicht mehr, oder ist momentan nicht verfügbar.";
-    ansicht_.informieren(Titel_öffnen, modell_.Meldung);
+    ansicht_.informieren(Titel_öffnen, "Die gewählte Datenbank existiert nicht mehr, oder ist momentan nicht verfügbar.");
 }
 
 void Sitzung::Datenbank_Liste_nachführen() {

@@ -13,16 +13,18 @@ class Ansicht;
 class Datenbank_öffnen;
 class Info_Datei;
 class Zugriffsdatei;
+struct Haus;
 struct Plattform;
 
 class Sitzung {
 public:
-    Sitzung(Modell& modell, Einstellungen& einstellungen, Info_Datei& info, Zugriffsdatei& zugriff,
-            const Plattform& plattform, Ansicht& ansicht);
+    Sitzung(Haus& haus, Info_Datei& info, Zugriffsdatei& zugriff);
 
     // Opens the collection in Datenbank_Verzeichnis. False: declined, or a failure was shown.
     bool lade_Datenbank();
     bool schreibe_Datenbank(bool Fortschritt_zeigen);
+    // The collection is left although the save just failed: what is in memory is kept beside the info file.
+    void ungespeichert_verlassen();
     // Saves the open collection and opens the one in `Pfad`; an empty path only saves.
     void öffne_Datenbank_Verzeichnis(const Text& Pfad);
     // Makes a new collection. With `fragen` the user decides whether the categories are taken over, else the second flag.

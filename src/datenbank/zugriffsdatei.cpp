@@ -1,6 +1,7 @@
 #include "datenbank/zugriffsdatei.hpp"
 
 #include "datenbank/info_datei.hpp"
+#include "datenbank/info_koerper.hpp"
 #include "datenbank/version.hpp"
 #include "datenbank/zeitleser.hpp"
 #include "oberflaeche/ansicht.hpp"
@@ -11,6 +12,7 @@ namespace tonkartei {
 namespace {
 
 constexpr const char* Kennung = "Datenbank-Zugriffsdatei";
+constexpr const char* beschädigt = "Die Zugriffsdatei hat einen Fehler!";
 
 }  // namespace
 
@@ -19,18 +21,17 @@ void Zugriffsdatei::schreibe_Zugriffsdatei() {
     try {
         nummer = kanäle_.öffnen_zum_Schreiben(modell_.Pfad(Zugriffsdatei_Name));
         const Zeitpunkt jetzt = rechner_.jetzt();
-        kanäle_.schreibe_Zeile(nummer, Programmtitel);
-        kanäle_.schreibe_Zeile(nummer, modell_.Programmversion);
-        kanäle_.schreibe_Zeile(nummer, Kennung);
+        Familienkopf_schreiben(kanäle_, nummer, modell_.Programmversion, Kennung);
         kanäle_.schreibe_Zeile(nummer, rechner_.GetComputerNameA());
         kanäle_.schreibe_Zeile(nummer, rechner_.GetUserNameA());
         for (const int zahl : {jetzt.Tag, jetzt.Monat, jetzt.Jahr, jetzt.Stunde, jetzt.Minute, jetzt.Sekunde})
             kanäle_.schreibe_reine_Zahl(nummer, zahl);
-        kanäle_.schließen(nummer);
+        // An empty one, after a power failure, would lock the collection.
+        kanäle_.schließen(nummer, true);
     } catch (const Dateifehler&) {
         kanäle_.aufgeben(nummer);
-        modell_.Meldung = "Es ist ein Fehler beim Schreiben der Datenbank-Zugriffsdatei aufgetreten!";
-        ansicht_.informieren("Zugriffsdatei schreiben", modell_.Meldung);
+        ansicht_.informieren("Zugriffsdatei schreiben",
+                             "Es ist ein Fehler beim Schreiben der Datenbank-Zugriffsdatei aufgetreten!");
     }
 }
 
@@ -45,8 +46,7 @@ bool Zugriffsdatei::lese_Zugriffsdatei(const Text& Datei, Zeitpunkt& zeitpunkt, 
     }
     kanäle_.aufgeben(nummer);
     if (fehler.empty()) return true;
-    modell_.Meldung = fehler + Text(CRCR) + "Kontaktieren sie den Autor!";
-    ansicht_.informieren("Zugriffsdatei lesen", modell_.Meldung);
+    ansicht_.informieren("Zugriffsdatei lesen", fehler + Text(CRCR) + "Kontaktieren sie den Autor!");
     return false;
 }
 
@@ -56,12 +56,16 @@ Text Zugriffsdatei::Inhalt_lesen(int nummer, Zeitpunkt& zeitpunkt, Text& Compute
         return "Die Zugriffsdatei ist nicht von diesem Programm erstellt worden!";
     // Whatever version wrote it: the layout never changed.
     kanäle_.lese_Zeile(nummer);
-    if (kanäle_.lese_Zeile(nummer) != Kennung) return "Die Zugriffsdatei hat einen Fehler!";
+    if (kanäle_.lese_Zeile(nummer) != Kennung) return beschädigt;
     Computer = kanäle_.lese_Zeile(nummer);
     Benutzer = kanäle_.lese_Zeile(nummer);
     const auto [tag, monat, jahr] = drei_Zahlen_lesen(kanäle_);
     const auto [stunde, minute, sekunde] = drei_Zahlen_lesen(kanäle_);
-    zeitpunkt = Zeitpunkt_aus(tag, monat, jahr, stunde, minute, sekunde);
+    try {
+        zeitpunkt = Zeitpunkt_aus(tag, monat, jahr, stunde, minute, sekunde);
+    } catch (const Laufzeitfehler&) {
+        return beschädigt;  // beyond any calendar
+    }
     return {};
 }
 

@@ -1,5 +1,6 @@
 #include "lieder/luecken.hpp"
 
+#include "grundlagen/waehrend.hpp"
 #include "lieder/dateibewegung.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fortschritts_ende.hpp"
@@ -33,6 +34,7 @@ bool Lücken::Lücken_füllen() {
 
 // How many records went.
 Long Lücken::füllen() {
+    const Während umbau(modell_.im_Umbau);
     const Fortschritts_Ende ende(fortschritt_);
     fortschritt_.Text_setzen("Lücken suchen/auffüllen...");
     Long anzahl = Ende_kürzen();

@@ -8,6 +8,12 @@
 namespace tonkartei {
 namespace {
 
+// As a name leaves the tag: what was the end of a line closes up.
+Text einzeilig(const Text& text) {
+    if (text.find_first_of("\r\n") == Text::npos) return text;
+    return getrimmt(Zeichen_entfernen(Zeichen_entfernen(text, "\r"), "\n"));
+}
+
 Long in_KByte(double bytes) { return gerundet(bytes / 1024.0); }
 
 }  // namespace
@@ -61,8 +67,9 @@ Lied_Daten MP3_TagHead::Lied_Daten_lesen(const Text& Datei) {
 }
 
 void MP3_TagHead::benennen(bool mit_Tag, Text& Titel, Text& Artist) const {
-    Titel = mit_Tag ? std::string_view(Tag_Titel) : Titel_ohne_Tag;
-    Artist = mit_Tag ? std::string_view(Tag_Artist) : Artist_ohne_Tag;
+    // A song is one line in the info file, so line breaks stay behind.
+    Titel = mit_Tag ? einzeilig(Tag_Titel) : Text(Titel_ohne_Tag);
+    Artist = mit_Tag ? einzeilig(Tag_Artist) : Text(Artist_ohne_Tag);
 }
 
 Zeit MP3_TagHead::Zeit_nach(bool analysiert) const { return analysiert ? Zeit_aus(0, Dauer_Minuten, Dauer_Sekunden) : 0; }

@@ -31,7 +31,7 @@ public:
     Text MP3_Datei;
 
     // The tag, read by Tag_lesen and written by Tag_schreiben. At most 30 characters (the year 4); a longer text is cut in
-    // the file only. Read texts hold no zero, no line break and no blank at their ends.
+    // the file only. Read texts hold no zero and no blank at their ends.
     Text Tag_Titel;
     Text Tag_Artist;
     Text Tag_Album;
@@ -72,7 +72,7 @@ public:
     // Overflow (6): 256 MByte or more, or VBR beyond some 48 million bytes. Division by zero (11): VBR without frames.
     bool MP3_Info_lesen();
 
-    // Title and artist of a file; the words for a song without a tag when it has none.
+    // Title and artist of a file, without line breaks; the words for a song without a tag when it has none.
     void Lied_Tag_lesen(const Text& Datei, Text& Titel, Text& Artist);
     // Minutes and seconds of a file, 0 when the analysis finds nothing. Fails as MP3_Info_lesen does; a time that passes it
     // stays below 9000 minutes.

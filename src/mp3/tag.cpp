@@ -36,13 +36,13 @@ constexpr std::array<Tag_Feld, 5> Felder = {{{&MP3_TagHead::Tag_Titel, 0, 30},
                                              {&MP3_TagHead::Tag_Kommentar, 94, 30}}};
 constexpr std::size_t Genre_Stelle = 124;
 
-// Zeros are holes, not ends: what stands behind them joins up. A song is one line in the info file, so line breaks go too.
+// Zeros are holes, not ends: what stands behind them joins up.
 void aus_Feld(std::string_view bytes, Text& ergebnis) {
     std::array<char, 30> rest;
     std::size_t länge = 0;
     unsigned alle_Bits = 0;
     for (const char zeichen : bytes) {
-        if (zeichen == '\0' || zeichen == '\r' || zeichen == '\n') continue;
+        if (zeichen == '\0') continue;
         rest[länge++] = zeichen;
         alle_Bits |= static_cast<unsigned char>(zeichen);
     }

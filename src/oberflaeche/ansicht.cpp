@@ -1,7 +1,9 @@
 #include "oberflaeche/ansicht.hpp"
 
 #include <algorithm>
+#include <exception>
 #include <new>
+#include <utility>
 
 #include "oberflaeche/fenster.hpp"
 
@@ -57,7 +59,17 @@ void Ansicht::ausführen(const std::function<void()>& handler) {
         an_Laufzeitfehler_enden(fehler);
     } catch (const std::bad_alloc&) {
         an_Laufzeitfehler_enden(Laufzeitfehler(7, "Nicht genügend Speicher"));
+    } catch (const std::exception& fehler) {
+        // Nothing of the standard library may end the process without a word; the classic number of what is our own fault.
+        an_Laufzeitfehler_enden(Laufzeitfehler(51, "Interner Fehler (" + Text(fehler.what()) + ")"));
     }
+}
+
+Text Ansicht::Fehlertext(const Laufzeitfehler& fehler) {
+    // Once: should this fail as well, it is not asked again.
+    const auto retten = std::exchange(vor_dem_Absturz, nullptr);
+    const Text dazu = retten ? retten() : Text{};
+    return fehler.Beschreibung() + (dazu.empty() ? Text{} : Text(CRCR) + dazu);
 }
 
 void Ansicht::beenden() { endet_ = true; }

@@ -98,6 +98,9 @@ public:
     virtual void warten_bis(Fenster& fenster, const std::function<bool()>& bedingung) = 0;
     virtual void Zeitgeber_gestellt(Zeitgeber& zeitgeber) = 0;
     virtual void Zeitgeber_entfernt(Zeitgeber& zeitgeber) = 0;
+    // A run-time error is about to end the program: the last thing that can be done, and what there is to say of it in the
+    // error box. Must not throw.
+    std::function<Text()> vor_dem_Absturz;
     // Shows the error box and ends the process at once with status 1, nothing is saved.
     [[noreturn]] virtual void an_Laufzeitfehler_enden(const Laufzeitfehler& fehler) = 0;
 
@@ -133,6 +136,8 @@ public:
     void modal_laufen_lassen(Fenster& fenster);
 
 protected:
+    // What the error box says; does what is to be done before the end.
+    Text Fehlertext(const Laufzeitfehler& fehler);
     virtual void Fokus_zeigen(Element&) {}
 
 private:

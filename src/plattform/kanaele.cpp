@@ -141,6 +141,11 @@ bool Kanäle::am_Wert(Kanal& kanal) {
 
 std::string_view Kanäle::Wert(Kanal& kanal, std::size_t höchstens) {
     if (!am_Wert(kanal)) throw Dateifehler(62, kanal.pfad);
+    return ohne_Blanks_dahinter(Satz(kanal, höchstens));
+}
+
+// Up to a comma or line end, which is consumed.
+std::string_view Kanäle::Satz(Kanal& kanal, std::size_t höchstens) {
     std::size_t länge = 0;
     bool zu_lang = false;
     const auto am_Wertende = [](char zeichen) { return zeichen == ',' || zeichen == '\r' || zeichen == '\n'; };
@@ -163,7 +168,7 @@ std::string_view Kanäle::Wert(Kanal& kanal, std::size_t höchstens) {
         const char trenner = kanal.puffer[kanal.stelle++];
         if (trenner == '\r' && kanal.stelle < kanal.ende && kanal.puffer[kanal.stelle] == '\n') ++kanal.stelle;
     }
-    return ohne_Blanks_dahinter(wert);
+    return wert;
 }
 
 Text Kanäle::lese_Zeile(int nummer) { return aus_1252(Zeile(zum_Lesen(nummer))); }
@@ -172,6 +177,11 @@ std::optional<std::string_view> Kanäle::nächster_Rohwert(int nummer, std::size
     Kanal& kanal = zum_Lesen(nummer);
     if (!am_Wert(kanal)) return std::nullopt;
     return Wert(kanal, höchstens);
+}
+std::optional<std::string_view> Kanäle::nächster_Satz(int nummer, std::size_t höchstens) {
+    Kanal& kanal = zum_Lesen(nummer);
+    if (kanal.stelle == kanal.ende && !nachfüllen(kanal)) return std::nullopt;
+    return Satz(kanal, höchstens);
 }
 Long Kanäle::lese_Long(int nummer) { return gerundet(Zahlwert(Wert(zum_Lesen(nummer)))); }
 Byte Kanäle::lese_Byte(int nummer) { return gerundet_Byte(Zahlwert(Wert(zum_Lesen(nummer)))); }

@@ -46,6 +46,8 @@ public:
     // The same with the file's own bytes, for paths, and without a copy: good until the next reading; none at the end. A
     // value of more than `höchstens` bytes comes as an empty one and is not kept in memory.
     std::optional<std::string_view> nächster_Rohwert(int nummer, std::size_t höchstens);
+    // The same with the blanks around it, for records that count by columns.
+    std::optional<std::string_view> nächster_Satz(int nummer, std::size_t höchstens);
     // A value taken as a number, rounded; overflow (6) outside the type, 0 for what is no number.
     Long lese_Long(int nummer);
     Byte lese_Byte(int nummer);
@@ -70,6 +72,7 @@ private:
     std::string_view Zeile(Kanal& kanal);
     bool am_Wert(Kanal& kanal);
     std::string_view Wert(Kanal& kanal, std::size_t höchstens = std::string_view::npos);
+    std::string_view Satz(Kanal& kanal, std::size_t höchstens);
     void ausschreiben(Kanal& kanal);
     char* Platz_für_Zeile(Kanal& kanal, std::size_t länge);
     static void Zeile_beenden(Kanal& kanal, char* ende);

@@ -37,7 +37,7 @@ struct Info_Test : testing::Test {
     Stumme_Ansicht ansicht;
     Fortschritts_Fenster fortschritt{ansicht};
     Modell modell;
-    Info_Datei info{modell, kanäle, dateien, ansicht, fortschritt};
+    Info_Datei info{modell, kanäle, dateien, fortschritt, "temp/"};
 
     Info_Test() {
         modell.Programmversion = "V 1.02 16";

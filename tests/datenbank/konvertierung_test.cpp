@@ -48,14 +48,11 @@ struct Konvertierung_Test : testing::Test {
     Antwortende_Ansicht ansicht;
     Fortschritts_Fenster fortschritt{ansicht};
     Modell modell;
-    Info_Datei info{modell, kanäle, dateien, ansicht, fortschritt};
-    Konvertierung konvertierung{modell, kanäle, dateien, ansicht, fortschritt, temp};
+    Info_Datei info{modell, kanäle, dateien, fortschritt, temp};
 
     Konvertierung_Test() {
         modell.Programmversion = "V 1.02 16";
         modell.Datenbank_Verzeichnis = cd;
-        info.konvertiere_1_00 = [this](Text& datei, int& n) { return konvertierung.konvertiere_1_00(datei, n); };
-        info.konvertiere_1_01 = [this](Text& datei, int& n) { return konvertierung.konvertiere_1_01(datei, n); };
     }
     bool laden() {
         Text pfad = modell.Pfad(Info_Datei_Name);

@@ -92,13 +92,16 @@ int betreiben(const Optionen& optionen, const char* programmname, const Bauplan&
     Szenenbefehle_eintragen(tafel, ansicht, *maschine);
     ansicht.Befehl = [&tafel](const Text& zeile) { Zeile_ausführen(tafel, zeile); };
 
-    {
+    try {
         std::unique_ptr<Bedientes> programm;
         ansicht.von_Hand([&] {
             programm = bauplan(maschine->plattform(), ansicht, optionen.parameter);
             programm->starten();
         });
         ansicht.Hauptschleife();
+    } catch (const std::exception& fehler) {
+        // Whoever reads the replies waits for the end.
+        ansicht.an_Laufzeitfehler_enden(Laufzeitfehler(51, fehler.what()));
     }
     ansicht.ausgeben(Json::Objekt().mit("ereignis", "ende").text());
     ansicht.ausgeben(Json::Objekt().mit("bereit", "ende").text());

@@ -20,6 +20,7 @@ bool Lieder_Übernahme::ausführen(const Übernahme_Auftrag& auftrag) {
     if (!bestätigt(auftrag)) return false;
     Lauf lauf{auftrag, modell_.Anzahl_Lieder, {}};
     const Während läuft(lauf_, &lauf);
+    const Während umbau(modell_.im_Umbau);
     const Long A = übernehmen_.ausführen(auftrag);
     if (auftrag.Album_erstellen && !lauf.abgeschlossen) begleiter_.album.erstellen(A, lauf.begleitung);
     if (auftrag.Playlist_erstellen && !lauf.abgeschlossen) begleiter_.playlist.erstellen(lauf.begleitung);
@@ -50,6 +51,7 @@ void Lieder_Übernahme::abschließen() {
         eintragen_.mit_Kategorien(std::move(kategorien), lauf_->begleitung);
     }
     if (lauf_->begleitung.Abschluss) std::exchange(lauf_->begleitung.Abschluss, nullptr)();
+    modell_.im_Umbau = false;
 }
 
 std::uint64_t Lieder_Übernahme::freie_KByte() const {

@@ -1,0 +1,69 @@
+#include "datenbank/rettung.hpp"
+
+#include <utility>
+
+#include "datenbank/info_koerper.hpp"
+#include "grundlagen/versuchen.hpp"
+#include "oberflaeche/ansicht.hpp"
+#include "plattform/dateisystem.hpp"
+#include "plattform/kanaele.hpp"
+
+namespace tonkartei {
+
+bool Rettung::schreiben() noexcept {
+    int nummer = 0;
+    Text pfad;
+    try {
+        if (!modell_.Datenbank_offen || modell_.Datenbank_Verzeichnis.empty() || modell_.im_Umbau ||
+            modell_.konvertiert_in_Temp)
+            return false;
+        pfad = modell_.Pfad(Rettung_Name);
+        if (dateien_.Art_von(pfad) != Pfadart::nichts) return false;
+        nummer = kanäle_.öffnen_zum_Schreiben(pfad);
+        Familienkopf_schreiben(kanäle_, nummer, modell_.Programmversion);
+        Info_Körper_schreiben(kanäle_, nummer, modell_, [](Long, Long) {});
+        kanäle_.schließen(nummer, true);
+        return true;
+    } catch (...) {
+        // A half one would be offered as a whole one.
+        if (nummer == 0) return false;
+        kanäle_.aufgeben(nummer);
+        try {
+            dateien_.löschen(pfad);
+        } catch (...) {
+            // Then it is told as unreadable when it is offered.
+        }
+        return false;
+    }
+}
+
+void Rettung::Kopie_übernehmen(const Text& Kopie) {
+    const Text pfad = modell_.Pfad(Rettung_Name);
+    if (dateien_.Art_von(pfad) == Pfadart::nichts) versuchen([&] { dateien_.umbenennen(Kopie, pfad); });
+}
+
+void Rettung::anbieten(Text& Datei) {
+    gelesen_.clear();
+    const Text pfad = modell_.Pfad(Rettung_Name);
+    if (!dateien_.Datei_da(pfad)) return;
+    if (ansicht_.fragen("Datenbank öffnen",
+                        "Beim letzten Mal konnte die Datenbank nicht gespeichert werden. Ihr Stand "
+                        "wurde in der Datei" +
+                            Text(CRCR) + anzeigbar(pfad) + Text(CRCR) + "gerettet." + Text(CRCR) +
+                            "Soll dieser Stand geladen werden?")) {
+        gelesen_ = Datei = pfad;
+        return;
+    }
+    const Text beiseite = modell_.Pfad(Rettung_abgelehnt_Name);
+    // One declined before makes room: its user has seen the offer and did without.
+    versuchen([&] {
+        if (dateien_.Datei_da(beiseite)) dateien_.löschen(beiseite);
+        dateien_.umbenennen(pfad, beiseite);
+    });
+}
+
+void Rettung::gespeichert() {
+    if (const Text pfad = std::exchange(gelesen_, {}); !pfad.empty()) versuchen([&] { dateien_.löschen(pfad); });
+}
+
+}  // namespace tonkartei
