@@ -7,6 +7,7 @@
 namespace tonkartei {
 
 void Abspieler::starte_Lied(Long Nr) {
+    if (!modell_.Datenbank_offen) return;
     if (starter_.starte_WinAmp_Datei(modell_.Lied_Pfad(Nr))) zählung_.zählen(Nr);
 }
 

@@ -14,7 +14,8 @@ public:
     Abspieler(const Modell& modell, WinAmp_Starter& starter, Spielzählung& zählung)
         : modell_(modell), starter_(starter), zählung_(zählung) {}
 
-    // A song that cannot be started changes nothing.
+    // Nothing without an open collection, whatever list still shows its songs. A song that cannot be started changes
+    // nothing.
     void starte_Lied(Long Nr);
 
 private:

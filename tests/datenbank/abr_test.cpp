@@ -22,13 +22,14 @@ struct ABR_Bühne : Probehaus {
 TEST(ABR, lesen) {
     ABR_Bühne b;
     b.ordner.datei(Datei,
-                   "1204: 183\r\n1204: VoLL \r\n\r\n7: 0\r\n   0: voll\r\nabcd: voll\r\n1000: 5,2000: 6\r\n3000:\xFC  7 s");
+                   "1204: 183\r\n1204: VoLL \r\n  12: 183\r\n   7: voll\r\n\r\n7: 0\r\n   0: voll\r\nabcd: voll\r\n1000: "
+                   "5,2000: 6\r\n3000:\xFC  7 s");
     const int kanal = b.haus.kanäle.öffnen_zum_Lesen(b.ordner.pfad(Datei));
     Text gelesen;
     while (const auto satz = lese_ABR_Satz(b.haus.kanäle, kanal))
         gelesen +=
             Zahltext(satz->Nr) + "=" + (satz->voll() ? "voll" : Zahltext(static_cast<long long>(satz->Sekunden()))) + " ";
-    EXPECT_EQ(gelesen, "1204=183 1204=voll 1000=5 2000=6 3000=7 ");
+    EXPECT_EQ(gelesen, "1204=183 1204=voll 12=183 7=voll 1000=5 2000=6 3000=7 ");
 }
 
 TEST(ABR, umnummerieren) {

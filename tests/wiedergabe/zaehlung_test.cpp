@@ -36,6 +36,9 @@ TEST(Spielzählung, nächster_Start_nimmt_zurück) {
     EXPECT_EQ(b.modell.Lieder[3].Anzahl, 1) << "the same song: taken back once, counted twice";
     b.dateien.löschen(b.modell.Lied_Pfad(2));
     b.Spiel.Abspieler.starte_Lied(2);
+    b.modell.Datenbank_offen = false;
+    b.Spiel.Abspieler.starte_Lied(1);
+    EXPECT_EQ(b.modell.Lieder[1].Anzahl, 0) << "no collection is open";
     EXPECT_EQ(b.modell.Lieder[3].Anzahl, 1) << "a start that fails takes nothing back";
     EXPECT_EQ(b.modell.Lieder[2].Anzahl, 0);
     EXPECT_EQ(b.Spiel.Zählung.Letztes_Lied, 3);
