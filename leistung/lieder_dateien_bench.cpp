@@ -92,7 +92,7 @@ private:
     Haus haus_{{dateien_, registrierung_, fenster_, shell_, rechner_}, ansicht_};
     Modell& modell_ = haus_.modell;
     MP3_TagHead mp3_{dateien_};
-    Winamp_Steuerung spieler_{fenster_};
+    WinAmp_Steuerung spieler_{fenster_};
     Dateien_übernehmen übernehmen_{haus_, mp3_, spieler_};
 };
 

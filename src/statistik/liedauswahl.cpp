@@ -1,7 +1,7 @@
 #include "statistik/liedauswahl.hpp"
 
 #include "playlist/playlist.hpp"
-#include "wiedergabe/spielzaehlung.hpp"
+#include "wiedergabe/abspieler.hpp"
 
 namespace tonkartei {
 
@@ -35,7 +35,7 @@ Long Liedauswahl::gewähltes_Lied() const {
 
 // The lines stay as they are, whatever the start counts.
 void Liedauswahl::starten() {
-    if (const Long nr = gewähltes_Lied(); nr > 0) ziel_.zählung.starte_Lied(nr);
+    if (const Long nr = gewähltes_Lied(); nr > 0) ziel_.spieler.starte_Lied(nr);
 }
 
 void Liedauswahl::in_Playlist() {

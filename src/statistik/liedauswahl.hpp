@@ -10,12 +10,12 @@
 
 namespace tonkartei {
 
+class Abspieler;
 class Playlist;
-class Spielzählung;
 
 // Where a chosen song can go.
 struct Liedziel {
-    Spielzählung& zählung;
+    Abspieler& spieler;
     Playlist& playlist;
 };
 

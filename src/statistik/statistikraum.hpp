@@ -7,7 +7,8 @@
 namespace tonkartei {
 
 struct Statistikraum {
-    Statistikraum(Haus& haus, Wiedergabe& wiedergabe, Playlist& playlist) : fenster(haus, {wiedergabe.Zählung, playlist}) {}
+    Statistikraum(Haus& haus, Wiedergabe& wiedergabe, Playlist& playlist)
+        : fenster(haus, {wiedergabe.Abspieler, playlist}) {}
     Statistikraum(const Statistikraum&) = delete;
     Statistikraum& operator=(const Statistikraum&) = delete;
 
