@@ -17,6 +17,9 @@
 #include "lieder/hinzufuegen/dateien_uebernehmen.hpp"
 #include "lieder/wartung/lieder_einlesen.hpp"
 #include "plattform/linux/dateisystem_linux.hpp"
+#include "plattform/linux/fenstersystem_linux.hpp"
+#include "plattform/linux/rechner_linux.hpp"
+#include "plattform/linux/registrierung_linux.hpp"
 #include "plattform/linux/shell_linux.hpp"
 #include "probe/stumme_ansicht.hpp"
 
@@ -79,14 +82,18 @@ private:
     int ordner_Nr_ = 0;
     std::vector<std::string> quellen_;
     Übernahme_Auftrag auftrag_;
-    Modell modell_;
     Stumme_Ansicht ansicht_;
     Dateisystem_Linux dateien_;
+    Registrierung_Linux registrierung_{ordner_ + "einstellungen.reg"};
+    Fenstersystem_Linux fenster_;
     Kein_Korb korb_;
     Shell_Linux shell_{dateien_, korb_};
+    Rechner_Linux rechner_{ordner_};
+    Haus haus_{{dateien_, registrierung_, fenster_, shell_, rechner_}, ansicht_};
+    Modell& modell_ = haus_.modell;
     MP3_TagHead mp3_{dateien_};
-    Fortschritts_Fenster fortschritt_{ansicht_};
-    Dateien_übernehmen übernehmen_{modell_, dateien_, shell_, mp3_, fortschritt_};
+    Winamp_Steuerung spieler_{fenster_};
+    Dateien_übernehmen übernehmen_{haus_, mp3_, spieler_};
 };
 
 // What a tag needs: the end of the file.

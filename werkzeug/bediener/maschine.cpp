@@ -65,7 +65,10 @@ Shell_Frage Frage_über(Ansicht& ansicht) {
 class Maschine_Probe : public Maschine {
 public:
     explicit Maschine_Probe(const Maschinenwahl& wahl)
-        : störungen_(wahl.abstürzen),
+        : störungen_([this, ende = wahl.abstürzen] {
+              dateien_.Strom_weg();
+              ende();
+          }),
           registrierung_(wahl.wurzel + "einstellungen.reg"),
           papierkorb_(dateien_, wahl.wurzel + "papierkorb"),
           rechner_(wahl.uhr, Temp_anlegen(platte_, wahl.wurzel), wahl.zweite_Instanz) {

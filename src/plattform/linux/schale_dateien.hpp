@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <unordered_map>
 
 #include "plattform/dateisystem.hpp"
 #include "plattform/linux/papierkorb.hpp"
@@ -34,13 +35,13 @@ private:
     void Datei_übertragen(const Text& von, const Text& nach, bool ersetzen);
     void Ordner_übertragen(const Text& von, const Text& nach, int tiefe);
     void Ordner_entfernen(const Text& ordner, int tiefe);
-    void ersetzend_umbenennen(const Text& von, const Text& nach);
     Text freier_Name(const Text& ziel);
 
     Dateisystem& dateien_;
     Papierkorb& papierkorb_;
     const Shell_Frage& frage_;
     const Shell_Vorgang& vorgang_;
+    std::unordered_map<Text, Text> ziele_;  // files written so far: upper case to spelling
     bool übergangen_ = false;
 };
 
