@@ -7,12 +7,12 @@
 #include <string>
 #include <vector>
 
-#include "alben/alben_datei.hpp"
+#include "alben/albenraum.hpp"
 #include "datenbank/abr_datei.hpp"
+#include "datenbank/datenbankraum.hpp"
 #include "leistung/verhaeltnis.hpp"
 #include "lieder/lied_nachruecken.hpp"
 #include "lieder/lieder_entfernen.hpp"
-#include "plattform/kanaele.hpp"
 #include "plattform/linux/dateisystem_linux.hpp"
 #include "plattform/linux/fenstersystem_linux.hpp"
 #include "plattform/linux/papierkorb_freedesktop.hpp"
@@ -21,6 +21,7 @@
 #include "plattform/linux/shell_linux.hpp"
 #include "probe/stumme_ansicht.hpp"
 #include "testordner.hpp"
+#include "wiedergabe/wiedergabe.hpp"
 
 using namespace tonkartei;
 
@@ -28,7 +29,7 @@ namespace {
 
 // A collection of so many small songs, all of which go but the one that moves up each time.
 struct Abgang {
-    Abgang(Long anzahl, bool papierkorb) : anzahl_(anzahl) { einstellungen.Papierkorb = papierkorb; }
+    Abgang(Long anzahl, bool papierkorb) : anzahl_(anzahl) { haus.einstellungen.Papierkorb = papierkorb; }
 
     void bereiten() {
         if (modell.Anzahl_Lieder == anzahl_) return;
@@ -56,16 +57,15 @@ struct Abgang {
     Registrierung_Linux registrierung{ordner.pfad("einstellungen.reg")};
     Fenstersystem_Linux fenster;
     Rechner_Linux rechner{ordner.pfad()};
-    const Plattform plattform{dateien, registrierung, fenster, shell, rechner};
     Ja_Ansicht ansicht;
-    Modell modell;
-    Einstellungen einstellungen;
-    Kanäle kanäle{dateien};
-    Alben alben{rechner, ansicht};
-    Alben_Datei alben_datei{modell, alben, kanäle, dateien, ansicht};
-    ABR_Datei abr{modell, dateien, kanäle};
-    Lied_nachrücken nachrücken{modell, alben_datei, abr};
-    Lieder_entfernen entfernen{modell, einstellungen, plattform, ansicht, nachrücken};
+    Haus haus{{dateien, registrierung, fenster, shell, rechner}, ansicht};
+    Modell& modell = haus.modell;
+    Datenbankraum datenbank{haus};
+    Albenraum alben{datenbank};
+    Wiedergabe wiedergabe{haus};
+    ABR_Datei abr{modell, dateien, haus.kanäle};
+    Lied_nachrücken nachrücken{modell, alben.datei, abr};
+    Lieder_entfernen entfernen{haus, nachrücken, wiedergabe.Spieler};
 
 private:
     Long anzahl_;

@@ -12,7 +12,6 @@ namespace {
 
 constexpr std::size_t Namenslänge = 16;  // what the display has room for; longer names are kept all the same
 constexpr Farbe Hellgelb = RGB(255, 255, 0);
-constexpr Byte ohne_Kategorie = 255;
 constexpr int Ruhestellung = 2;
 
 }  // namespace

@@ -12,10 +12,13 @@ class Lied_Befehle;
 class Playlist;
 class Sitzung;
 struct Albenraum;
+struct Ausgaberaum;
 struct Datenbankraum;
+struct Displayraum;
 struct Hinzufügen;
 struct Liedautomatik;
 struct Liederraum;
+struct Statistikraum;
 struct Wiedergabe;
 
 // The window's own commands and settings.
@@ -26,5 +29,8 @@ void Kategorien_anschließen(Kategorie_Wahl& wahl, const Modell& modell, Wiederg
 void Wiedergabe_anschließen(Wiedergabe& wiedergabe, Liedautomatik& automatik, Haus& haus, Tonkartei& fenster);
 void Playlist_anschließen(Playlist& playlist, Liedautomatik& automatik, Sitzung& sitzung, Hinzufügen& hinzufügen);
 void Lieder_anschließen(Liederraum& lieder, Lied_Befehle& befehle, const Haus& haus, Playlist& playlist, Tonkartei& fenster);
+void Statistik_anschließen(Statistikraum& statistik, Tonkartei& fenster);
+void Ausgabe_anschließen(Ausgaberaum& ausgabe, Tonkartei& fenster);
+void Display_anschließen(Displayraum& display, Tonkartei& fenster);
 
 }  // namespace tonkartei

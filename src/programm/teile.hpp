@@ -2,7 +2,9 @@
 #pragma once
 
 #include "alben/albenraum.hpp"
+#include "ausgabe/ausgaberaum.hpp"
 #include "datenbank/datenbankraum.hpp"
+#include "display/displayraum.hpp"
 #include "kategorien/kategorienraum.hpp"
 #include "lieder/liederraum.hpp"
 #include "playlist/playlist.hpp"
@@ -16,6 +18,7 @@
 #include "programm/splash.hpp"
 #include "programm/startparameter.hpp"
 #include "programm/tonkartei.hpp"
+#include "statistik/statistikraum.hpp"
 #include "wiedergabe/wiedergabe.hpp"
 #include "wiedergabe/zufall/liedautomatik.hpp"
 
@@ -43,6 +46,9 @@ private:
     Liedautomatik automatik_{haus_, alben_.start, wiedergabe_, fenster_.bereiche()};
     Playlist playlist_{haus_, datenbank_.m3u, fenster_.Lieder, wiedergabe_.Starter};
     Liederraum lieder_{datenbank_, alben_, kategorien_, wiedergabe_, fenster_.Lieder};
+    Statistikraum statistik_{haus_, wiedergabe_, playlist_};
+    Ausgaberaum ausgabe_{haus_, fenster_.Lieder};
+    Displayraum display_{haus_};
 
     Splash splash_{datenbank_};
     Infofenster infofenster_{haus_.ansicht, haus_.modell};

@@ -1,7 +1,6 @@
 // The shell's file operation, made of the calls of Dateisystem alone.
 #pragma once
 
-#include <functional>
 #include <unordered_map>
 
 #include "plattform/dateisystem.hpp"
@@ -9,10 +8,6 @@
 #include "plattform/shell.hpp"
 
 namespace tonkartei {
-
-enum class Shell_Antwort { Ja, Nein, Abbrechen };
-// Asks the user, with the three answers as buttons.
-using Shell_Frage = std::function<Shell_Antwort(const Text& Titel, const Text& Frage)>;
 
 // One call of SHFileOperationA. The result is 0, or the system error's Windows number of the first file that failed, with
 // which the work ends. "Nein" passes a file over, "Abbrechen" ends the work; both count as aborted by the user.
