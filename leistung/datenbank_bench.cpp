@@ -48,7 +48,7 @@ int main() {
     Modell modell;
     füllen(modell);
     modell.Datenbank_Verzeichnis = ordner.pfad();
-    Info_Datei info(modell, kanäle, dateien, ansicht, fortschritt);
+    Info_Datei info(modell, kanäle, dateien, fortschritt, ordner.pfad());
     info.schreibe_Datenbank(false);
     const Text pfad = ordner.pfad("MP3_Info.MDB");
     const std::string bytes = ordner.inhalt("MP3_Info.MDB");
