@@ -10,8 +10,11 @@ bediener=${1:-$wurzel/build/release/bin/tonkartei-bediener}
 bilder=$wurzel/build/tour
 arbeit=$(mktemp -d)
 bediener_prozess=
-aufraeumen='[ -z "$bediener_prozess" ] || kill "$bediener_prozess" 2>/dev/null; rm -rf "$arbeit"'
-trap "$aufraeumen" EXIT
+aufraeumen() {
+    [ -z "$bediener_prozess" ] || kill "$bediener_prozess" 2>/dev/null || true
+    rm -rf "$arbeit"
+}
+trap aufraeumen EXIT
 rm -f "$bilder"/*.png
 mkdir -p "$bilder" "$arbeit/wurzel" "$arbeit/sammlungen" "$arbeit/laufzeit"
 chmod 700 "$arbeit/laufzeit"
@@ -174,7 +177,7 @@ ansichten() {
     tu "wähle Tonkartei.Datenbank_Modus 0"
     tu "wähle Tonkartei.Liste 0"
     echo "== The playlist"
-    for runde in 1 2 3 4; do tu "klick Tonkartei.Lieder_add_to_Playlist"; done
+    for _ in 1 2 3 4; do tu "klick Tonkartei.Lieder_add_to_Playlist"; done
     erwarte Playlist.Liste_Anzahl '"text":"24"'
     for zeile in 23 22 21 20; do
         tu "wähle Playlist.Liste $zeile"

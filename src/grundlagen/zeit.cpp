@@ -14,7 +14,7 @@ constexpr long long Tag_Sekunden = 86400;
 long long Sekunde_des_Tages(Zeit zeit) {
     // Nearly all times lie within one day, where nothing need be taken off.
     const double bruch = zeit >= 0 && zeit < 1 ? zeit : std::fabs(std::fmod(zeit, 1.0));
-    return static_cast<long long>(bruch * static_cast<double>(Tag_Sekunden) + 0.5) % Tag_Sekunden;
+    return std::llround(bruch * static_cast<double>(Tag_Sekunden)) % Tag_Sekunden;
 }
 
 Text zwei(int wert) { return Zahl_mit_Nullen(wert, 2); }

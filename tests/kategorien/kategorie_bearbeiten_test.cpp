@@ -4,8 +4,8 @@
 namespace tonkartei {
 namespace {
 
-const std::string Zu_lang = "Hinweis|Mindestens ein Kategoriename ist länger als 16 Zeichen!|i";
-const std::string Verwaist = " Lieder der gelöschten Kategorie!|i";
+const std::string Zu_lang = "Hinweis | Mindestens ein Kategoriename ist länger als 16 Zeichen! | i";
+const std::string Verwaist = " Lieder der gelöschten Kategorie! | i";
 
 class Bearbeiten : public Bühne {
 protected:
@@ -79,7 +79,7 @@ TEST_F(Bearbeiten, hinzufügen_bis_zwanzig) {
     EXPECT_EQ((*b)("fokus").front()["fokus"], E("Kategorie_Name"));
     EXPECT_EQ(geschehen(), Zeilen{});
     hände({"klick " + E("add_Kategorie"), "antwort OK"});
-    EXPECT_EQ(geschehen(), Zeilen{"Kategorie hinzufügen|Es sind maximal 20Kategorien erlaubt!|i"});
+    EXPECT_EQ(geschehen(), Zeilen{"Kategorie hinzufügen | Es sind maximal 20Kategorien erlaubt! | i"});
     hand("klick " + E("Ok"));
     EXPECT_TRUE(b->zeige("Tonkartei.zeige_Kategorie(20)")["sichtbar"].get<bool>());
     hände({"klick Tonkartei.zeige_Kategorie(20)", "klick Tonkartei.MP_Beenden"});
@@ -92,9 +92,9 @@ TEST_F(Bearbeiten, löschen_mit_Liedern) {
     hände({"wähle " + E("Liste") + " 2", "klick " + E("kill_Kategorie"), "antwort Nein"});
     EXPECT_EQ(liste(), s.Kategorien);
     hände({"klick " + E("kill_Kategorie"), "antwort Ja", "antwort OK"});
-    EXPECT_EQ(geschehen(), (Zeilen{"Kategorie löschen|Wollen sie die Kategorie Drei wirklich löschen?|?*Ja/Nein",
-                                   "Kategorie löschen|Wollen sie die Kategorie Drei wirklich löschen?|?*Ja/Nein",
-                                   "gelöschte Kategorie|Bitte wählen sie eine Kategorie für die 2" + Verwaist}));
+    EXPECT_EQ(geschehen(), (Zeilen{"Kategorie löschen | Wollen sie die Kategorie Drei wirklich löschen? | ?*Ja/Nein",
+                                   "Kategorie löschen | Wollen sie die Kategorie Drei wirklich löschen? | ?*Ja/Nein",
+                                   "gelöschte Kategorie | Bitte wählen sie eine Kategorie für die 2" + Verwaist}));
     EXPECT_EQ(b->bereit_name(), "Kategorie_Wahl");
     EXPECT_EQ(b->text("Kategorie_Wahl.Titel"), "neue Kategorie");
     EXPECT_EQ(b->text("Kategorie_Wahl.Artist"), "");
@@ -111,8 +111,8 @@ TEST_F(Bearbeiten, löschen_der_ersten_der_letzten_und_einer_leeren) {
     auf();
     hände({"klick " + E("kill_Kategorie"), "antwort OK", "setze " + E("Kategorie_Name") + " Alle",
            "klick " + E("kill_Kategorie"), "antwort OK"});
-    EXPECT_EQ(geschehen(), (Zeilen{"Kategorie löschen|Die Kategorie Alles (Alle) darf nicht gelöscht werden!|i",
-                                   "Kategorie löschen|Die Kategorie Alle darf nicht gelöscht werden!|i"}));
+    EXPECT_EQ(geschehen(), (Zeilen{"Kategorie löschen | Die Kategorie Alles (Alle) darf nicht gelöscht werden! | i",
+                                   "Kategorie löschen | Die Kategorie Alle darf nicht gelöscht werden! | i"}));
     // No songs, no question for a new category; the last line goes, the new last one is chosen.
     hände({"wähle " + E("Liste") + " 4", "klick " + E("kill_Kategorie"), "antwort Ja"});
     EXPECT_EQ(b->bereit(), "schleife");
@@ -125,7 +125,7 @@ TEST_F(Bearbeiten, löschen_der_ersten_der_letzten_und_einer_leeren) {
 TEST_F(Bearbeiten, verschieben) {
     s.Schemas = 3;
     auf();
-    const std::string nicht = "Fehler|Die Kategorie 1 darf nicht verschoben werden!|i";
+    const std::string nicht = "Fehler | Die Kategorie 1 darf nicht verschoben werden! | i";
     verschieben(2, 3);
     EXPECT_EQ(liste(), (Zeilen{"Alle", "Zwei", "Vier", "Drei", "leer"}));
     EXPECT_EQ(gewählt(), 3);
@@ -172,7 +172,7 @@ TEST_F(Bearbeiten, Tabelle_schrumpft_während_der_Frage) {
     hände({"wähle " + E("Liste") + " 1", "klick " + E("kill_Kategorie"), "antwort Ja", "antwort OK",
            "wähle " + E("Liste") + " 3", "klick " + E("kill_Kategorie"), "antwort Ja"});
     // The songs from before still wait: the same question again, which goes first.
-    EXPECT_EQ(geschehen().back(), "gelöschte Kategorie|Bitte wählen sie eine Kategorie für die 1" + Verwaist);
+    EXPECT_EQ(geschehen().back(), "gelöschte Kategorie | Bitte wählen sie eine Kategorie für die 1" + Verwaist);
     hand("antwort OK");
     EXPECT_EQ(b->zeilen("Kategorie_Wahl.Liste"), (Zeilen{"Alle", "Drei", "Vier"}));
     hand("wähle Kategorie_Wahl.Liste 2");

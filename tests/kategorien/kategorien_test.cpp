@@ -4,7 +4,7 @@
 namespace tonkartei {
 namespace {
 
-const std::string Geladen = "Fortschritt|Datenbank laden...";
+const std::string Geladen = "Fortschritt | Datenbank laden...";
 
 class Kategorien : public Bühne {
 protected:
@@ -61,8 +61,8 @@ TEST_F(Kategorien, Kategorie_des_Liedes) {
     EXPECT_EQ(geschehen(), Zeilen{Geladen});  // no song is shown
     hände({"wähle Tonkartei.Liste 2", "setze Tonkartei.Lied_Kategorie #2", "rechtsklick " + Kasten(4)});
     const std::string frage =
-        "Kategorie wechseln|Wollen sie die Kategorie des Liedes \"3\" von \"C\" wirklich von \"R & B\" auf "
-        "\"Vier\" ändern?|?*Ja/Nein";
+        "Kategorie wechseln | Wollen sie die Kategorie des Liedes \"3\" von \"C\" wirklich von \"R & B\" auf "
+        "\"Vier\" ändern? | ?*Ja/Nein";
     EXPECT_EQ(geschehen(), Zeilen{frage});
     hand("antwort Nein");
     EXPECT_EQ(b->text("Tonkartei.Lied_Kategorie"), "R & B");
@@ -98,13 +98,15 @@ TEST_F(Kategorien, Schemas) {
     öffnen(sammlung("a", s));
     hände({"klick " + Kasten(4), "klick " + Kasten(2), "klick Tonkartei.Kat_Schema_zuweisen", "antwort OK"});
     EXPECT_EQ(geschehen(), (Zeilen{Geladen,
-                                   "Kategorie-Schema zuweisen|Klicken sie auf eine Kategorie-Schema Schaltfläche, um die "
-                                   "aktuell ausgewählten Kategorien dort zu speichern.|i"}));
+                                   "Kategorie-Schema zuweisen | Klicken sie auf eine Kategorie-Schema Schaltfläche, um die "
+                                   "aktuell ausgewählten Kategorien dort zu speichern. | i"}));
     EXPECT_EQ(nach("klick " + Schema(2)), "24:BD");
     hand("klick " + Kasten(1));
     EXPECT_EQ(nach("klick " + Schema(2)), "24:BD") << "the next click chooses again";
     hände({"klick Tonkartei.Kat_Schema_Kurzbeschreibung", "antwort OK", "klick " + Schema(2)});
-    EXPECT_EQ(geschehen().back(), "Eingabe|Geben sie eine neue Kurzbeschreibung für dieses Schema ein:|Schema 2");
+    EXPECT_EQ(geschehen().back(),
+              "Eingabe Kategorie-Schema-Kurzbeschreibung ändern | Geben sie eine neue Kurzbeschreibung für dieses Schema "
+              "ein: | Schema 2");
     hand("eingabe Tanz & Ska");
     EXPECT_EQ(b->zeige(Schema(2))["tooltip"], "Tanz & Ska");
     EXPECT_EQ(Traymenü("Tray_Schemas")[1]["text"], "Tanz & Ska");

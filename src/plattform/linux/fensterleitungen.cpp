@@ -17,7 +17,6 @@ namespace tonkartei {
 using namespace std::chrono_literals;
 using protokoll::Anfrage;
 using protokoll::Antwort;
-using protokoll::Art;
 
 namespace {
 
