@@ -1,76 +1,92 @@
 // The file of aborted listens.
-#include <gtest/gtest.h>
-
 #include "datenbank/abr_datei.hpp"
-#include "probe/probehaus.hpp"
+
+#include "datenbank/buehne.hpp"
 
 namespace tonkartei {
 namespace {
 
-constexpr const char* Datei = "MP3_Info.ABR";
+constexpr const char* Datei = "a/MP3_Info.ABR";
+constexpr const char* Kopie = "b/MP3_Bak.ABR";  // lies in the current folder
 
-struct ABR_Bühne : Probehaus {
-    ABR_Datei ABR{modell, dateien, haus.kanäle};
-
-    Text umnummeriert(const Text& vorher, Long alt, Long neu) {
-        ordner.datei(Datei, vorher);
-        ABR.ABR_umnummerieren(alt, neu);
-        return ordner.inhalt(Datei);
+struct ABR : Datenbankbühne {
+    Kanäle kanäle{störfall.Dateien};
+    Modell modell;
+    ABR_Datei abr{modell, störfall.Dateien, kanäle};
+    ABR() {
+        modell.Datenbank_Verzeichnis = a;
+        störfall.Dateien.aktuellen_Ordner_setzen(b);
     }
 };
 
-TEST(ABR, lesen) {
-    ABR_Bühne b;
-    b.ordner.datei(Datei,
-                   "1204: 183\r\n1204: VoLL \r\n  12: 183\r\n   7: voll\r\n\r\n7: 0\r\n   0: voll\r\nabcd: voll\r\n1000: "
-                   "5,2000: 6\r\n3000:\xFC  7 s");
-    const int kanal = b.haus.kanäle.öffnen_zum_Lesen(b.ordner.pfad(Datei));
-    Text gelesen;
-    while (const auto satz = lese_ABR_Satz(b.haus.kanäle, kanal))
-        gelesen +=
-            Zahltext(satz->Nr) + "=" + (satz->voll() ? "voll" : Zahltext(static_cast<long long>(satz->Sekunden()))) + " ";
-    EXPECT_EQ(gelesen, "1204=183 1204=voll 12=183 7=voll 1000=5 2000=6 3000=7 ");
+TEST_F(ABR, Spalten) {
+    const std::pair<const char*, const char*> fälle[] = {
+        {"1204: 183\r\n1204: VoLL \r\n", "1204=183 1204=voll "},
+        {"  12: 183\r\n   7: voll\r\n   1: 0\r\n", "12=183 7=voll 1=0 "},
+        {"   0: voll\r\nabcd: voll\r\n  -1: voll\r\n", ""},
+        {"1204:\r\n 120:  \r\n\r\n \r\n  ", "120=0 "},        // shorter than seven columns
+        {"1000: 5,  12: 6,,9999: 7", "1000=5 12=6 9999=7 "},  // a comma ends the record, and blanks behind it count
+        {"12: voll\r\n3000:\xFC  7 s", "12=0 3000=7 "},       // an unpadded number shifts what is behind it
+    };
+    for (const auto& [bytes, erwartet] : fälle) {
+        ordner.datei(Datei, bytes);
+        const int kanal = kanäle.öffnen_zum_Lesen(ordner.pfad(Datei));
+        Text gelesen;
+        while (const auto satz = lese_ABR_Satz(kanäle, kanal))
+            gelesen += Zahltext(satz->Nr) + "=" +
+                       (satz->voll() ? "voll" : Zahltext(static_cast<long long>(satz->Sekunden()))) + " ";
+        EXPECT_EQ(gelesen, erwartet) << bytes;
+        kanäle.schließen(kanal);
+    }
 }
 
-TEST(ABR, umnummerieren) {
+TEST_F(ABR, umnummerieren) {
     const struct {
         const char* was;
         Long alt, neu;
         const char *vorher, *nachher;
     } fälle[] = {
-        {"the removed song goes, the last one takes its number", 5000, 7, "0007: voll\r\n5000: voll\r\n", "   7: voll\r\n"},
+        {"the removed song goes, the last one takes its number", 5000, 7, "   7: voll\r\n5000: voll\r\n", "   7: voll\r\n"},
         {"others stay, in any spelling", 5000, 7, "1204: VOLL\r\n0012:  voll\r\n", "1204: voll\r\n  12: voll\r\n"},
         {"seconds are lost, 0 and words without a number are not", 9, 1,
-         "1204: 183\r\n1204: 0\r\n1204: halb\r\n1204: 0.4\r\n", "1204: 0\r\n1204: 0\r\n"},
+         "1204: 183\r\n  12: 180\r\n1204: 0\r\n1204: halb\r\n1204: 0.4\r\n", "1204: 0\r\n1204: 0\r\n"},
         {"0 of the removed song", 9, 1204, "1204: 0\r\n", ""},
-        {"blanks at the end are no record", 9, 1, "1204: voll\r\n \r\n  ", "1204: voll\r\n"},
         {"commas end records", 1300, 1200, "1204: voll,1300: voll,1200: voll", "1204: voll\r\n1200: voll\r\n"},
     };
     for (const auto& fall : fälle) {
-        ABR_Bühne b;
-        EXPECT_EQ(b.umnummeriert(fall.vorher, fall.alt, fall.neu), fall.nachher) << fall.was;
-        EXPECT_FALSE(b.ordner.da("MP3_Bak.ABR")) << fall.was;
+        ordner.datei(Datei, fall.vorher);
+        abr.ABR_umnummerieren(fall.alt, fall.neu);
+        EXPECT_EQ(ordner.inhalt(Datei), fall.nachher) << fall.was;
+        EXPECT_FALSE(ordner.da(Kopie)) << fall.was;
     }
+    std::filesystem::remove(ordner.pfad(Datei));
+    abr.ABR_umnummerieren(5000, 7);
+    EXPECT_FALSE(ordner.da(Datei)) << "without a file nothing happens";
 }
 
-TEST(ABR, nach_einem_Fehlschlag_steht_noch_eine_ganze_Datei) {
-    const Text inhalt = "1204: voll\r\n5000: voll\r\n", Kopie = "anderswo/MP3_Bak.ABR";
-    ABR_Bühne b;
-    b.ABR.ABR_umnummerieren(5000, 7);
-    EXPECT_FALSE(b.ordner.da(Datei)) << "without a file nothing happens";
-    // The copy lies in the current folder.
-    b.dateien.aktuellen_Ordner_setzen(b.ordner.ordner("anderswo"));
-    b.störungen.Fehler_bestellen(Vorgang::umbenennen, 1);
-    EXPECT_EQ(b.umnummeriert(inhalt, 5000, 7), inhalt);
-    b.störungen.Fehler_bestellen(Vorgang::schreiben, 1);
-    b.ABR.ABR_umnummerieren(5000, 7);
-    EXPECT_EQ(b.ordner.inhalt(Kopie), inhalt);
-    EXPECT_TRUE(b.ansicht.gefragt().empty());
-    EXPECT_FALSE(b.haus.kanäle.offen(1) || b.haus.kanäle.offen(2));
-    // The next call finds that copy in its way, reads it and mends the file.
-    b.ABR.ABR_umnummerieren(5000, 7);
-    EXPECT_EQ(b.ordner.inhalt(Datei), "1204: voll\r\n   7: voll\r\n");
-    EXPECT_FALSE(b.ordner.da(Kopie));
+TEST_F(ABR, immer_steht_eine_ganze_Datei) {
+    const std::string vorher = "1204: voll\r\n5000: voll\r\n", nachher = "1204: voll\r\n   7: voll\r\n";
+    for (const Vorgang vorgang :
+         {Vorgang::umbenennen, Vorgang::öffnen, Vorgang::lesen, Vorgang::schreiben, Vorgang::löschen})
+        for (const bool stirbt : {false, true}) {
+            const auto lauf = [&](const auto& arbeiten) {
+                ordner.datei(Datei, vorher);
+                std::filesystem::remove(ordner.pfad(Kopie));
+                arbeiten([&] {
+                    Kanäle eigene(störfall.Dateien);
+                    ABR_Datei(modell, störfall.Dateien, eigene).ABR_umnummerieren(5000, 7);
+                    EXPECT_FALSE(eigene.offen(1) || eigene.offen(2));
+                });
+                const std::string datei = ordner.inhalt(Datei);
+                EXPECT_TRUE(datei == vorher || datei == nachher || ordner.inhalt(Kopie) == vorher);
+                if (!ordner.da(Datei) || !ordner.da(Kopie)) return;
+                // The next call finds that copy in its way, reads it and mends the file.
+                abr.ABR_umnummerieren(5000, 7);
+                EXPECT_EQ(ordner.inhalt(Datei), nachher);
+                EXPECT_FALSE(ordner.da(Kopie));
+            };
+            EXPECT_GT(stirbt ? störfall.vor_jedem_stirbt(vorgang, lauf) : störfall.jeder_scheitert(vorgang, lauf), 0);
+        }
 }
 
 }  // namespace
