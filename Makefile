@@ -6,14 +6,16 @@ export DESTDIR
 
 RELEASE := build/release
 KERNE   := $(shell nproc 2>/dev/null || echo 2)
+QUELLEN := src werkzeug tests leistung
 
-.PHONY: help run test tour bench format install paket bediener bauen
+.PHONY: help run test pruefen tour bench format install paket bediener bauen
 .NOTPARALLEL:
 MAKEFLAGS += --no-print-directory
 
 help:
 	@echo 'make run       install what is missing, build, start Tonkartei (the tour where there is no display)'
 	@echo 'make test      build and run every test, then again under the sanitizers, fuzzers included'
+	@echo 'make pruefen   format, clang-tidy, shellcheck, the rules of the house; a second run looks only at what has changed'
 	@echo 'make tour      play the main job without a screen; pictures of the windows land in build/tour'
 	@echo 'make bench     measure; fails when a ratio is above its limit'
 	@echo 'make bediener  build the operator that works the windows by name; the last line is its path'
@@ -39,11 +41,20 @@ test:
 	@sh skripte/einrichten.sh
 	@cmake --preset release
 	@cmake --build --preset release
-	@ctest --preset release -j $(KERNE)
+	@ctest --preset release -j $(KERNE) -LE fuzz
 	@cmake --preset sanitizer
 	@cmake --build --preset sanitizer
-	@ctest --preset sanitizer -j $(KERNE) -LE fuzz
-	@ctest --preset sanitizer -j $(KERNE) -L fuzz
+	@ctest --preset sanitizer -j $(KERNE)
+	@sh skripte/anteil.sh
+
+pruefen:
+	@sh skripte/einrichten.sh pruefen
+	@find $(QUELLEN) -name '*.[ch]pp' | xargs clang-format --dry-run -Werror
+	@shellcheck .ci/run skripte/*.sh
+	@cmake --preset pruefung
+	@cmake --build --preset pruefung --target test_haus
+	@build/pruefung/bin/test_haus --gtest_brief=1
+	@cmake --build --preset pruefung -- -k 0
 
 tour: bediener
 	@bash skripte/tour.sh
@@ -56,7 +67,7 @@ bench:
 
 format:
 	@sh skripte/einrichten.sh format
-	@git ls-files -co --exclude-standard -- '*.cpp' '*.hpp' | xargs clang-format -i
+	@find $(QUELLEN) -name '*.[ch]pp' | xargs clang-format -i
 
 install: bauen
 	@cmake --install $(RELEASE) --prefix '$(PREFIX)'

@@ -92,7 +92,7 @@ private:
     Haus haus_{{dateien_, registrierung_, fenster_, shell_, rechner_}, ansicht_};
     Modell& modell_ = haus_.modell;
     MP3_TagHead mp3_{dateien_};
-    Winamp_Steuerung spieler_{fenster_};
+    WinAmp_Steuerung spieler_{fenster_};
     Dateien_übernehmen übernehmen_{haus_, mp3_, spieler_};
 };
 
@@ -119,7 +119,7 @@ int main() {
     Verhältnisse beim_Hinzufügen(3);
     beim_Hinzufügen.davor = [&] { zugang.neuer_Ordner(); };
     beim_Hinzufügen.höchstens(
-        "Hinzufügen von 1000 Dateien", 1.2, "Kopieren mit Systemaufrufen", [&] { return zugang.durch_uns(); },
+        "Hinzufügen von 1000 Dateien", 1.25, "Kopieren mit Systemaufrufen", [&] { return zugang.durch_uns(); },
         [&] { return zugang.von_Hand(); });
 
     Modell modell;

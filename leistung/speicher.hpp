@@ -57,6 +57,7 @@ private:
         std::vector<char> daten(wert.begin(), wert.end());
         daten.push_back('\0');
         registrierung.RegSetValueExA(s, "", REG_SZ, daten);
+        registrierung.RegFlushKey(s);
         registrierung.RegCloseKey(s);
     }
 };

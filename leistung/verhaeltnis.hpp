@@ -1,16 +1,36 @@
 // Ratios of two ways to do a thing, measured in one run: what a machine's speed does to one way it does to the other. What
-// counts is the processor time of this process, in the system too, so that a busy neighbour does not.
+// counts is processor time, in the system too, so that a busy neighbour does not.
 #pragma once
 
+#include <sys/resource.h>
+
 #include <algorithm>
+#include <chrono>
+#include <cmath>
 #include <cstddef>
 #include <cstdio>
 #include <ctime>
 #include <functional>
+#include <limits>
 #include <string_view>
 #include <vector>
 
 namespace tonkartei {
+
+// Seconds of processor time that this process took, and that children took for which it has waited.
+inline double Prozessorzeit() { return static_cast<double>(std::clock()) / CLOCKS_PER_SEC; }
+inline double Prozessorzeit_der_Kinder() {
+    rusage verbrauch{};
+    ::getrusage(RUSAGE_CHILDREN, &verbrauch);
+    const auto Sekunden = [](const timeval& zeit) {
+        return static_cast<double>(zeit.tv_sec) + static_cast<double>(zeit.tv_usec) / 1e6;
+    };
+    return Sekunden(verbrauch.ru_utime) + Sekunden(verbrauch.ru_stime);
+}
+// For what waits for the disk.
+inline double verstrichene_Zeit() {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
 
 // Both ways run in turn, once unmeasured and then `Runden` times (an odd number). What is told is the median of the rounds'
 // ratios: a load that comes and goes meets both ways of a round alike. A way is a callable without
@@ -21,19 +41,20 @@ public:
 
     // Brings about what each way starts from; not measured.
     std::function<void()> davor;
+    double (*Uhr)() = Prozessorzeit;
 
     // `unser` takes at most `grenze` times as long as `maß`:
     // "Tags von 5000 Dateien: 1.21 x Systemaufrufe (höchstens 1.5)".
     template <class A, class B>
     void höchstens(std::string_view was, double grenze, std::string_view woran, A unser, B maß) {
         const auto [a, b, mal] = gemessen(unser, maß);
-        zeigen(was, mal, woran, "höchstens", grenze, mal <= grenze, a, b);
+        zeigen(was, mal, woran, grenze, a, b);
     }
-    // `unser` is at least `grenze` times as fast as `maß`.
+    // Without a limit, for whoever is curious.
     template <class A, class B>
-    void mindestens(std::string_view was, double grenze, std::string_view woran, A unser, B maß) {
+    void zum_Vergleich(std::string_view was, std::string_view woran, A unser, B maß) {
         const auto [a, b, mal] = gemessen(unser, maß);
-        zeigen(was, 1 / mal, woran, "mindestens", grenze, 1 / mal >= grenze, a, b);
+        zeigen(was, mal, woran, std::numeric_limits<double>::infinity(), a, b);
     }
     // For a figure measured otherwise (memory, say), in the same form.
     void Wert(std::string_view was, double wert, std::string_view einheit, double grenze) {
@@ -47,7 +68,7 @@ public:
 
 private:
     struct Messung {
-        double a, b;  // seconds of processor time
+        double a, b;  // seconds
         double mal;   // a as a multiple of b
     };
 
@@ -66,9 +87,9 @@ private:
     template <class F>
     double Sekunden(F& weg) {
         if (davor) davor();
-        const std::clock_t anfang = std::clock();
+        const double anfang = Uhr();
         senke_ = static_cast<double>(weg());
-        return static_cast<double>(std::clock() - anfang) / CLOCKS_PER_SEC;
+        return Uhr() - anfang;
     }
     static double Median(std::vector<double>& werte) {
         const auto mitte = werte.begin() + static_cast<std::ptrdiff_t>(werte.size() / 2);
@@ -76,11 +97,16 @@ private:
         return *mitte;
     }
     static int Breite(std::string_view text) { return static_cast<int>(text.size()); }
-    void zeigen(std::string_view was, double wert, std::string_view woran, const char* art, double grenze, bool gut,
-                double a, double b) {
+    void zeigen(std::string_view was, double wert, std::string_view woran, double grenze, double a, double b) {
+        const bool gut = wert <= grenze;
         gut_ = gut_ && gut;
-        std::printf("%s%.*s: %.2f x %.*s (%s %g)   [%.3f ms, %.3f ms]\n", gut ? "" : "VERFEHLT ", Breite(was), was.data(),
-                    wert, Breite(woran), woran.data(), art, grenze, a * 1e3, b * 1e3);
+        std::printf("%s%.*s: %.2f x %.*s ", gut ? "" : "VERFEHLT ", Breite(was), was.data(), wert, Breite(woran),
+                    woran.data());
+        if (std::isinf(grenze))
+            std::printf("(zum Vergleich)");
+        else
+            std::printf("(höchstens %g)", grenze);
+        std::printf("   [%.3f ms, %.3f ms]\n", a * 1e3, b * 1e3);
         std::fflush(stdout);
     }
 

@@ -1,7 +1,7 @@
 #!/bin/sh
 # Installs the Debian packages that building, testing and running need, and nothing when they are all there (one
-# question to dpkg, no apt). Groups by argument: "leistung" adds the benchmarks' packages, "format" the formatter, "paket"
-# what making a Debian package takes.
+# question to dpkg, no apt). Groups by argument: "leistung" adds the benchmarks' packages, "format" the formatter, "pruefen"
+# all that looks at the sources, "paket" what making a Debian package takes.
 set -eu
 
 # Building and running. libgl1 and the xcb libraries come with Qt; sound comes with libmpv.
@@ -17,9 +17,11 @@ for gruppe in "$@"; do
     case $gruppe in
         leistung) pakete="$pakete libtag1-dev" ;;
         format) pakete="$pakete clang-format" ;;
+        # It compiles the benchmarks as well.
+        pruefen) pakete="$pakete clang-format clang-tidy shellcheck libtag1-dev" ;;
         paket) pakete="$pakete dpkg-dev file" ;;
         *)
-            echo "einrichten.sh: unknown group '$gruppe' (known: leistung, format, paket)" >&2
+            echo "einrichten.sh: unknown group '$gruppe' (known: leistung, format, pruefen, paket)" >&2
             exit 2
             ;;
     esac
@@ -37,6 +39,8 @@ if ! command -v dpkg-query >/dev/null 2>&1 || ! command -v apt-get >/dev/null 2>
 fi
 
 # dpkg-query fails for names that it has never heard of, yet prints the others; what is installed counts.
+# Lists of packages are left to be split at their blanks.
+# shellcheck disable=SC2086
 vorhanden=$(dpkg-query -W -f '${db:Status-Status} ${binary:Package}\n' $pakete 2>/dev/null |
     sed -n 's/^installed \([^:]*\).*/\1/p') || true
 fehlend=
@@ -78,11 +82,13 @@ fi
 apt_get() {
     $als_root env DEBIAN_FRONTEND=noninteractive apt-get -q -o DPkg::Lock::Timeout=300 "$@"
 }
+# shellcheck disable=SC2086
 einspielen() {
     apt_get install -y --no-install-recommends $fehlend
 }
 
 # The package lists are fetched only where they are missing or too old to serve.
+# shellcheck disable=SC2086
 if apt_get install -s --no-install-recommends $fehlend >/dev/null 2>&1 && einspielen; then
     exit 0
 fi

@@ -1,16 +1,20 @@
 #!/bin/bash
 # Plays the main job without a screen, with real files, the real player and the real windows drawn off-screen: a new
 # collection, songs added, sorted, searched, cut by categories, played and counted; then the counts, albums, the playlist,
-# the editor of categories and the menus after a new start; then all windows once more at twice the scale. Prints what
-# happens and leaves a picture of every window in build/tour. Fails when something is not as it should.
+# the editor of categories, the menus, the statistics, the text export and the display after a new start; then all windows
+# once more at twice the scale. Prints what happens and leaves a picture of every window in build/tour. Fails when something
+# is not as it should.
 set -eu
 wurzel=$(cd "$(dirname "$0")/.." && pwd)
 bediener=${1:-$wurzel/build/release/bin/tonkartei-bediener}
 bilder=$wurzel/build/tour
 arbeit=$(mktemp -d)
 bediener_prozess=
-aufraeumen='[ -z "$bediener_prozess" ] || kill "$bediener_prozess" 2>/dev/null; rm -rf "$arbeit"'
-trap "$aufraeumen" EXIT
+aufraeumen() {
+    [ -z "$bediener_prozess" ] || kill "$bediener_prozess" 2>/dev/null || true
+    rm -rf "$arbeit"
+}
+trap aufraeumen EXIT
 rm -f "$bilder"/*.png
 mkdir -p "$bilder" "$arbeit/wurzel" "$arbeit/sammlungen" "$arbeit/laufzeit"
 chmod 700 "$arbeit/laufzeit"
@@ -173,7 +177,7 @@ ansichten() {
     tu "wähle Tonkartei.Datenbank_Modus 0"
     tu "wähle Tonkartei.Liste 0"
     echo "== The playlist"
-    for runde in 1 2 3 4; do tu "klick Tonkartei.Lieder_add_to_Playlist"; done
+    for _ in 1 2 3 4; do tu "klick Tonkartei.Lieder_add_to_Playlist"; done
     erwarte Playlist.Liste_Anzahl '"text":"24"'
     for zeile in 23 22 21 20; do
         tu "wähle Playlist.Liste $zeile"
@@ -257,6 +261,43 @@ dialoge() {
     erwarte Tonkartei.Liste_Anzahl '"text":"7"'
 }
 
+# What the seven songs tell about themselves, the list as a text file, and the settings of a display.
+auswertungen() {
+    local anhang=$1 ordner=$arbeit/sammlungen/$2 jahr nr
+    echo "== Statistics"
+    jahr=$(($(date +%Y) - 1))
+    for nr in 1 2 3 4 5; do touch -d "$jahr-$((nr * 2))-1$nr 12:00" "$ordner/0000000$nr.MP3"; done
+    touch -d "$((jahr - 1))-07-01 12:00" "$ordner/00000006.MP3" "$ordner/00000007.MP3"
+    printf '%4d: %s\r\n' 1 4 2 voll 3 9 3 12 5 2 6 17 >"$ordner/MP3_Info.ABR"
+    tu "klick Tonkartei.Statistik_anzeigen"
+    erwarte Statistik.Liste_Anzahl '"text":"7"'
+    tu "wähle Statistik.Liste 0"
+    bild Statistik "statistik_gehoert$anhang"
+    tu "wähle Statistik.Ansicht 1"
+    tu "setze Statistik.Einsortiert_Jahr $jahr"
+    erwarte Statistik.Einsortiert_Anzahl '"text":"5"'
+    tu "maus Statistik.Einsortiert_Grafik 4000 1500"
+    bild Statistik "statistik_einsortiert$anhang"
+    tu "wähle Statistik.Ansicht 2"
+    erwarte "Statistik.Kategorie_Anzahl(1)" '"text":"7"'
+    bild Statistik "statistik_kategorien$anhang"
+    tu "wähle Statistik.Ansicht 3"
+    erwarte Statistik.AListe '"00:02: '
+    bild Statistik "statistik_abgebrochen$anhang"
+    tu "klick Statistik.Ok"
+    echo "== The list as a text file, the display"
+    tu "klick Tonkartei.ASCII_Datei"
+    tu "setze Datei_ausgabe.Dateiname $arbeit/lieder$anhang.txt"
+    tu "setze Datei_ausgabe.Spalte(4) Datum"
+    bild Datei_ausgabe "ausgabe$anhang"
+    tu "klick Datei_ausgabe.Ok"
+    [ "$(grep -c . "$arbeit/lieder$anhang.txt")" = 7 ] || { echo "    the text file has not seven lines"; fehler=1; }
+    tu "klick Tonkartei.Menü_Display_Setup"
+    tu "antwort OK"
+    bild Display_Setup "display$anhang"
+    tu "klick Display_Setup.Abbruch"
+}
+
 # shellcheck source=skripte/tour_austausch.sh
 . "$wurzel/skripte/tour_austausch.sh"
 
@@ -335,6 +376,7 @@ erwarte Tonkartei.Liste_Anzahl '"text":"6"'
 ansichten ""
 erwarte Tonkartei.Anzahl '"text":"1"'
 dialoge "" Tour
+auswertungen "" Tour
 ende
 [ -f "$arbeit/sammlungen/Tour/MP3_Info.MDB" ] || { echo "no info file was saved"; fehler=1; }
 [ ! -e "$arbeit/sammlungen/Tour/MP3_Info.DBG" ] || { echo "the access file stayed behind"; fehler=1; }
@@ -350,6 +392,7 @@ alben_anlegen "$arbeit/sammlungen/Doppelt"
 starten
 ansichten "@2x"
 dialoge "@2x" Doppelt
+auswertungen "@2x" Doppelt
 ende
 austausch "@2x" Doppelt
 

@@ -14,19 +14,21 @@ Alben_Befehle::Alben_Befehle(Modell& modell, Alben_Datei& datei, Album_wählen& 
 bool Alben_Befehle::Ansicht_öffnen() {
     if (Alben_offen()) return false;
     if (modell_.Alben_geladen) return true;
+    Text text;
     if (datei_.Album_Datei_vorhanden()) {
         if (datei_.Alben_lesen()) return true;
-        modell_.Meldung = "Es ist ein Fehler beim lesen der Alben-Verwaltung aufgetreten." + Text(CRCR) +
-                          "Bitte kontaktieren sie den Autor.";
+        text = "Es ist ein Fehler beim lesen der Alben-Verwaltung aufgetreten." + Text(CRCR) +
+               "Bitte kontaktieren sie den Autor.";
     } else {
-        modell_.Meldung = "Für diese Datenbank existiert noch keine Alben-Verwaltung." + Text(CRCR) +
-                          "Gehen sie zum Menüpunkt Bearbeiten/Alben-Verwaltung um eine anzulegen.";
+        text = "Für diese Datenbank existiert noch keine Alben-Verwaltung." + Text(CRCR) +
+               "Gehen sie zum Menüpunkt Bearbeiten/Alben-Verwaltung um eine anzulegen.";
     }
-    ansicht_.informieren("Alben", modell_.Meldung);
+    ansicht_.informieren("Alben", text);
     return false;
 }
 
 void Alben_Befehle::Menü_starte_Album() {
+    if (!modell_.Datenbank_offen) return;
     if (!datei_.Album_Datei_vorhanden()) {
         ansicht_.informieren("Album spielen", "Für diese Datenbank existiert noch keine Alben-Verwaltung!");
         return;

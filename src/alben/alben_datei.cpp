@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <memory>
 
+#include "datenbank/familienkopf.hpp"
 #include "datenbank/info_datei.hpp"
+#include "datenbank/info_koerper.hpp"
 #include "datenbank/version.hpp"
 #include "datenbank/zeitleser.hpp"
 #include "oberflaeche/ansicht.hpp"
@@ -44,50 +46,21 @@ bool Alben_Datei::Alben_lesen(const Text& Datei) {
     return true;
 }
 
-// The file is damaged: told and closed.
-bool Alben_Datei::fehlerhaft(int Dateinummer, const Text& meldung) {
-    modell_.Meldung = meldung;
-    ansicht_.informieren(Programmtitel, modell_.Meldung);
-    kanäle_.aufgeben(Dateinummer);
-    return false;
-}
-
 // Opens the file and tests its three head lines. True: go on reading. False: it is closed and the user has decided or was
 // told.
 bool Alben_Datei::Alben_prüfen(const Text& Datei, int& Dateinummer) {
-    Text& meldung = modell_.Meldung;
-    const Text crcr(CRCR);
-    meldung = "Die Alben-Verwaltung-Datei (" + anzeigbar(Datei) + ") ist fehlerhaft!" + crcr +
-              "Kontaktieren sie den Autor, um eventuell noch die Daten zu retten." + crcr + Kontaktadresse;
-    const Text beschädigt = meldung;
     Dateinummer = kanäle_.öffnen_zum_Lesen(Datei);
-    if (kanäle_.lese_Zeile(Dateinummer) != Programmtitel) return fehlerhaft(Dateinummer, beschädigt);
-    const Text version = kanäle_.lese_Zeile(Dateinummer);
-    if (kanäle_.lese_Zeile(Dateinummer) != Kennung) return fehlerhaft(Dateinummer, beschädigt);
-    if (version == modell_.Programmversion) return true;
-
-    meldung = "Die Alben-Verwaltungsdatei ist von einer anderen Programmversion." + crcr +
-              "aktuelle Programmversion: " + modell_.Programmversion + Text(CR) + "Dateiversion: " + version + crcr;
-    if (Versionsstufe(version) == 1) {
-        meldung +=
-            "Die alte Versionen der Datei kann eingelesen und konvertiert werden. "
-            "Allerdings kann sie dann nicht mehr mit Programmversionen, die kleiner "
-            "Version des Programms geöffnet werden." +
-            crcr + "Soll die Alben-Verwaltungsdatei geöffnet und konvertiert werden?";
-        const bool ja = ansicht_.fragen(Programmtitel, meldung);
-        if (ja)
-            modell_.Alben_geändert = true;
-        else
-            kanäle_.aufgeben(Dateinummer);
-        return ja;
-    }
-    meldung += "Kontaktieren sie den Autor für ein Update oder einen Konverter für die Datei." + crcr + Kontaktadresse +
-               crcr + "Es kann auf eigene Gefahr hin versucht werden die Datei trotzdem zu lesen. Wollen sie dies tun?";
-    const bool ja = ansicht_.fragen(Programmtitel, meldung, Antwort::Nein);
-    if (ja) modell_.Alben_geändert = true;
-    // Closed even after Yes: the reading that follows fails, and albums of an unknown version stay unread.
-    kanäle_.aufgeben(Dateinummer);
-    return ja;
+    const Kopfurteil urteil =
+        Kopf_beurteilen(ansicht_, kanäle_, Dateinummer, modell_.Programmversion,
+                        {.Kennung = Kennung,
+                         .Name_mit_Pfad = "Die Alben-Verwaltung-Datei (" + anzeigbar(Datei) + ")",
+                         .Name = "Die Alben-Verwaltungsdatei",
+                         .Frage = "Soll die Alben-Verwaltungsdatei geöffnet und konvertiert werden?",
+                         .alte_Version = [](const Text& version) { return Versionsstufe(version) == 1; }});
+    if (urteil == Kopfurteil::alt || urteil == Kopfurteil::unlesbar) modell_.Alben_geändert = true;
+    // Closed even where the user wants an unknown version to be tried: the reading that follows fails, and it stays unread.
+    if (urteil == Kopfurteil::abgelehnt || urteil == Kopfurteil::unlesbar) kanäle_.aufgeben(Dateinummer);
+    return urteil != Kopfurteil::abgelehnt;
 }
 
 void Alben_Datei::Körper_lesen(int nummer, Albenbestand& bestand) {
@@ -134,9 +107,7 @@ bool Alben_Datei::Alben_schreiben() {
 
 void Alben_Datei::Körper_schreiben(int nummer) {
     const Albenbestand& bestand = alben_.eigene;
-    kanäle_.schreibe_Zeile(nummer, Programmtitel);
-    kanäle_.schreibe_Zeile(nummer, modell_.Programmversion);
-    kanäle_.schreibe_Zeile(nummer, Kennung);
+    Familienkopf_schreiben(kanäle_, nummer, modell_.Programmversion, Kennung);
     kanäle_.schreibe_Zahl(nummer, bestand.Anzahl);
     for (Long n = 1; n <= bestand.Anzahl; ++n) {
         const Album& album = bestand.Alben[n];

@@ -32,7 +32,6 @@ public:
 
 private:
     bool Alben_prüfen(const Text& Datei, int& Dateinummer);
-    bool fehlerhaft(int Dateinummer, const Text& meldung);
     void Körper_lesen(int nummer, Albenbestand& bestand);
     void Album_lesen(int nummer, Album& album);
     void Körper_schreiben(int nummer);

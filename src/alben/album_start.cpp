@@ -33,8 +33,7 @@ bool Album_Start::Liste_schreiben(const std::vector<Long>& Nummern) {
         m3u_.schreiben(Datei(), Nummern);
         return true;
     } catch (const Dateifehler& fehler) {
-        modell_.Meldung = fehler.mit_Pfad(Datei());
-        ansicht_.informieren(Programmtitel, modell_.Meldung);
+        ansicht_.informieren(Programmtitel, fehler.mit_Pfad(Datei()));
         return false;
     }
 }

@@ -7,7 +7,7 @@
 namespace tonkartei {
 
 Album_wählen::Album_wählen(Ansicht& ansicht, const Alben& alben)
-    : Fenster(ansicht, "Album_wählen", "Album wählen"), alben_(alben) {
+    : Wartedialog(ansicht, "Album_wählen", "Album wählen"), alben_(alben) {
     Vorgabeknopf = &Ok;
     Abbruchknopf = &Abbruch;
     Liste.tooltip("Die Alben der Datenbank");
@@ -43,16 +43,12 @@ void Album_wählen::Liste_füllen() {
 }
 
 void Album_wählen::bestätigen() {
-    if (Liste.gewählt() >= 0) ergebnis_ = nummern_[static_cast<std::size_t>(Liste.gewählt())];
+    if (Liste.gewählt() >= 0) antworten(nummern_[static_cast<std::size_t>(Liste.gewählt())]);
     entladen();
 }
 
 Long Album_wählen::wählen() {
-    ergebnis_ = 0;
-    laden();
-    Liste_füllen();
-    zeigen_modal(&Liste);
-    return ergebnis_;
+    return modal_fragen([this] { Liste_füllen(); }, Liste).value_or(0);
 }
 
 }  // namespace tonkartei

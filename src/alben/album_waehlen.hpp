@@ -5,12 +5,12 @@
 
 #include "alben/alben.hpp"
 #include "oberflaeche/elemente.hpp"
-#include "oberflaeche/fenster.hpp"
 #include "oberflaeche/listen.hpp"
+#include "oberflaeche/wartedialog.hpp"
 
 namespace tonkartei {
 
-class Album_wählen : public Fenster {
+class Album_wählen : public Wartedialog<Long> {
 public:
     Album_wählen(Ansicht& ansicht, const Alben& alben);
 
@@ -32,7 +32,6 @@ private:
 
     const Alben& alben_;
     std::vector<Long> nummern_;  // of the lines
-    Long ergebnis_ = 0;
 };
 
 }  // namespace tonkartei

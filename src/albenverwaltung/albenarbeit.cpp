@@ -9,7 +9,7 @@
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fortschritts_ende.hpp"
 #include "playlist/playlist.hpp"
-#include "wiedergabe/spielzaehlung.hpp"
+#include "wiedergabe/abspieler.hpp"
 
 namespace tonkartei {
 
@@ -57,7 +57,7 @@ void Albenarbeit::zur_Playlist(Long Nr) {
 }
 
 void Albenarbeit::Lied_starten(const Album_Lied& titel) {
-    if (const Long nr = Lied_von(modell_, titel); nr > 0) nachbarn_.Zählung.starte_Lied(nr);
+    if (const Long nr = Lied_von(modell_, titel); nr > 0) nachbarn_.Spieler.starte_Lied(nr);
 }
 
 void Albenarbeit::Verknüpfungen_löschen(Long Nr) {

@@ -8,13 +8,13 @@
 
 namespace tonkartei {
 
+class Abspieler;
 class Album_Start;
 class Ansicht;
 class Element;
 class Fortschritts_Fenster;
 class Listenbereich;
 class Playlist;
-class Spielzählung;
 struct Modell;
 
 class Albenarbeit {
@@ -24,7 +24,7 @@ public:
         Listenbereich& Hauptliste;
         Album_Start& Start;
         Playlist& Liste;
-        Spielzählung& Zählung;
+        Abspieler& Spieler;
     };
     Albenarbeit(Modell& modell, Alben& alben, Fortschritts_Fenster& fortschritt, const Nachbarn& nachbarn);
 

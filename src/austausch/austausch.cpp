@@ -10,7 +10,7 @@ Austausch::Austausch(Datenbankraum& d, Kategorienraum& kategorien, Liederraum& l
                      Listenbereich& liste)
     : quelle(d.haus),
       sicherung(d, lieder, quelle),
-      vergleich(d.haus, sicherung.auszug),
+      vergleich(d.haus, lieder.hinzufügen.auszug),
       abgleich(d, kategorien, lieder, quelle,
                {liste, lieder.austauschen, wiedergabe.Starter, lieder.mp3, d.haus.fortschritt}),
       auflösung(d, quelle, wiedergabe.Starter) {

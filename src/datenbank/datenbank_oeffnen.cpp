@@ -6,7 +6,7 @@
 namespace tonkartei {
 
 Datenbank_öffnen::Datenbank_öffnen(Ansicht& a, const Einstellungen& einstellungen, Dateisystem& dateien)
-    : Fenster(a, "Datenbank_öffnen", "Datenbank wählen"), einstellungen_(einstellungen), dateien_(dateien) {
+    : Wartedialog(a, "Datenbank_öffnen", "Datenbank wählen"), einstellungen_(einstellungen), dateien_(dateien) {
     Vorgabeknopf = &Ok;
     Abbruchknopf = &Abbruch;
     Liste.Klick.verbinden([this] { Pfad.text(Liste.gewählter_Text()); });
@@ -37,23 +37,15 @@ void Datenbank_öffnen::beim_Laden() {
 void Datenbank_öffnen::bestätigen() {
     const Text pfad = Pfad.text();
     if (!pfad.empty()) {
-        if (dateien_.Ordner_da(pfad))
-            ergebnis_ = mit_Trenner(pfad);
-        else
-            ansicht().informieren("Datenbank wählen",
-                                  "Dieses Verzeichnis wurde nicht gefunden, oder es ist zur Zeit kein Zugriff darauf "
-                                  "möglich!");
+        if (dateien_.Ordner_da(pfad)) return antworten(mit_Trenner(pfad));
+        ansicht().informieren("Datenbank wählen",
+                              "Dieses Verzeichnis wurde nicht gefunden, oder es ist zur Zeit kein Zugriff darauf möglich!");
     }
     entladen();
 }
 
 Text Datenbank_öffnen::Dialog() {
-    fertig_ = false;
-    ergebnis_.clear();
-    zeigen();
-    ansicht().fokus(Liste);
-    ansicht().warten_bis(*this, [this] { return fertig_; });
-    return ergebnis_;
+    return fragen([] {}, Liste).value_or(Text{});
 }
 
 }  // namespace tonkartei

@@ -3,14 +3,14 @@
 
 #include "datenbank/einstellungen.hpp"
 #include "oberflaeche/elemente.hpp"
-#include "oberflaeche/fenster.hpp"
 #include "oberflaeche/listen.hpp"
+#include "oberflaeche/wartedialog.hpp"
 
 namespace tonkartei {
 
 class Dateisystem;
 
-class Datenbank_öffnen : public Fenster {
+class Datenbank_öffnen : public Wartedialog<Text> {
 public:
     Datenbank_öffnen(Ansicht& ansicht, const Einstellungen& einstellungen, Dateisystem& dateien);
 
@@ -28,15 +28,12 @@ protected:
     Knoten anordnung() override;
     Größe Startgröße() override { return {7200, 4500}; }
     void beim_Laden() override;
-    void beim_Entladen() override { fertig_ = true; }
 
 private:
     void bestätigen();
 
     const Einstellungen& einstellungen_;
     Dateisystem& dateien_;
-    Text ergebnis_;
-    bool fertig_ = false;
 };
 
 }  // namespace tonkartei

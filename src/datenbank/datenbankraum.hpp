@@ -13,6 +13,7 @@ namespace tonkartei {
 
 struct Datenbankraum {
     explicit Datenbankraum(Haus& haus);
+    ~Datenbankraum() { haus.ansicht.vor_dem_Absturz = nullptr; }
     Datenbankraum(const Datenbankraum&) = delete;
     Datenbankraum& operator=(const Datenbankraum&) = delete;
 

@@ -40,8 +40,8 @@ public:
 
     // What a session leaves where it could not save.
     Rettung Gerettetes;
-    // The last save came as far as the info file itself.
-    bool Info_steht() const noexcept { return info_steht_; }
+    // The last save was not able to write the info file.
+    bool zu_retten() const noexcept { return zu_retten_; }
     // The writers of the albums and of the ignore list, called when those were changed.
     std::function<bool()> Alben_schreiben, Ignorieren_schreiben;
 
@@ -56,7 +56,7 @@ private:
     Ansicht& ansicht_;
     Fortschritts_Fenster& fortschritt_;
     Konvertierung konvertierung_;
-    bool info_steht_ = false;
+    bool zu_retten_ = false;
 };
 
 }  // namespace tonkartei

@@ -3,6 +3,7 @@
 #include "datenbank/info_datei.hpp"
 #include "datenbank/info_koerper.hpp"
 #include "datenbank/version.hpp"
+#include "grundlagen/versuchen.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fortschritt.hpp"
 #include "plattform/dateisystem.hpp"
@@ -11,19 +12,17 @@
 namespace tonkartei {
 
 bool Info_Datei::schreibe_Datenbank(bool Fortschritt_zeigen) {
+    zu_retten_ = false;
     if (modell_.konvertiert_in_Temp) {
         ansicht_.informieren("Datenbank speichern", "Die Datenbank wurde nur in ein Temp-Verzeichnis konvertiert." +
                                                         Text(CRCR) + "Alle Änderungen gehen beim schließen verloren.");
-        try {
-            dateien_.löschen(modell_.Temp_Info_Datei);
-        } catch (const Dateifehler&) {
-            // A temporary file that stays behind harms nobody.
-        }
+        // A temporary file that stays behind harms nobody.
+        versuchen([&] { dateien_.löschen(modell_.Temp_Info_Datei); });
         modell_.konvertiert_in_Temp = false;
         return false;
     }
-    info_steht_ = Datei_schreiben(Fortschritt_zeigen);
-    bool ergebnis = info_steht_;
+    bool ergebnis = Datei_schreiben(Fortschritt_zeigen);
+    zu_retten_ = !ergebnis;
     const auto weitere = [&](bool& geändert, const std::function<bool()>& schreiben) {
         if (!ergebnis || !geändert || !schreiben) return;
         ergebnis = schreiben();
@@ -48,13 +47,11 @@ bool Info_Datei::Datei_schreiben(bool Fortschritt_zeigen) {
         });
         // On the disk before the copy goes: at every instant one whole collection exists.
         kanäle_.schließen(nummer, true);
-        if (dateien_.Datei_da(Info_Kopie_Name)) {
-            if (alte_da)
-                dateien_.löschen(Info_Kopie_Name);
-            else
-                Gerettetes.Kopie_übernehmen(Info_Kopie_Name);
-        }
+        const bool kopie_da = dateien_.Datei_da(Info_Kopie_Name);
+        if (kopie_da && alte_da) dateien_.löschen(Info_Kopie_Name);
         Gerettetes.gespeichert();
+        // Not made by this save: the only trace of another one, which did not come to its end.
+        if (kopie_da && !alte_da) Gerettetes.Kopie_übernehmen(Info_Kopie_Name);
         const Text zugriff = modell_.Pfad(Zugriffsdatei_Name);
         if (dateien_.Datei_da(zugriff)) dateien_.löschen(zugriff);
         return true;

@@ -23,7 +23,8 @@ void Lied_schreiben(Kanäle& kanäle, int nummer, const Lied& lied) {
     kanäle.schreibe_Zahl(nummer, lied.Anzahl);
     kanäle.schreibe_Zeile(nummer, lied.Artist);
     kanäle.schreibe_Zahl(nummer, lied.Größe);
-    kanäle.schreibe_Zahl(nummer, lied.Kategorie);
+    // An end may come while the new category is being asked for: the song then counts to the first one.
+    kanäle.schreibe_Zahl(nummer, lied.Kategorie == ohne_Kategorie ? Byte{1} : lied.Kategorie);
     kanäle.schreibe_Zeile(nummer, lied.Titel);
     const Long sekunden = Sekunden_von(lied.Zeit);
     for (const Long teil : {sekunden / 3600, sekunden / 60 % 60, sekunden % 60}) kanäle.schreibe_reine_Zahl(nummer, teil);

@@ -110,8 +110,9 @@ void Konvertierung::aufräumen(const Weg& weg) {
 void Konvertierung::misslungen() {
     fortschritt_.anzeigen(100);
     // What stays behind of either harms nobody.
-    if (const Text zwischen = std::exchange(zwischen_, {}); !zwischen.empty())
-        versuchen([&] { dateien_.löschen(zwischen); });
+    zwischen_.clear();
+    const Text zwischen = modell_.Pfad(Konvert_Zwischen_Name);
+    if (dateien_.Datei_da(zwischen)) versuchen([&] { dateien_.löschen(zwischen); });
     if (modell_.konvertiert_in_Temp) {
         // No collection came of it. The mark must not stay: it would keep the next one from being saved.
         modell_.konvertiert_in_Temp = false;

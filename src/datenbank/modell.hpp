@@ -12,6 +12,9 @@ inline constexpr int Lieder_maximal = 5000;
 inline constexpr int Kategorien_maximal = 20;
 inline constexpr int Schemas_maximal = 9;
 
+// The category of songs whose own was removed and whose new one is being asked for. It never reaches the disk.
+inline constexpr Byte ohne_Kategorie = 255;
+
 // A song. Its number is its place in `Lieder` and the name of its file; it is not stored in the record.
 struct Lied {
     Long Anzahl = 0;     // times heard; the random choice prefers low values

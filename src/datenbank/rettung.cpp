@@ -37,6 +37,10 @@ bool Rettung::schreiben() noexcept {
     }
 }
 
+void Rettung::zurücknehmen() {
+    versuchen([&] { dateien_.löschen(modell_.Pfad(Rettung_Name)); });
+}
+
 void Rettung::Kopie_übernehmen(const Text& Kopie) {
     const Text pfad = modell_.Pfad(Rettung_Name);
     if (dateien_.Art_von(pfad) == Pfadart::nichts) versuchen([&] { dateien_.umbenennen(Kopie, pfad); });
@@ -63,7 +67,9 @@ void Rettung::anbieten(Text& Datei) {
 }
 
 void Rettung::gespeichert() {
-    if (const Text pfad = std::exchange(gelesen_, {}); !pfad.empty()) versuchen([&] { dateien_.löschen(pfad); });
+    const Text pfad = std::exchange(gelesen_, {});
+    // Another collection may have come since, one that was made and not opened.
+    if (!pfad.empty() && pfad == modell_.Pfad(Rettung_Name)) versuchen([&] { dateien_.löschen(pfad); });
 }
 
 }  // namespace tonkartei

@@ -22,12 +22,14 @@ public:
     // there is nothing to be kept (no collection is open, or songs are being moved and memory does not say what is on the
     // disk) or it could not be written. Throws nothing, for it runs when all else has failed.
     bool schreiben() noexcept;
+    // What `schreiben` just wrote goes again: the session goes on.
+    void zurücknehmen();
     // A safety copy that the present save did not make becomes the rescued file, should there be none yet.
     void Kopie_übernehmen(const Text& Kopie);
 
     // Asks whether a rescued file is to be read in place of `Datei`, which then names it. Declined, it steps aside.
     void anbieten(Text& Datei);
-    // The info file stands: what was read from the rescued file is in it.
+    // The info file stands: a rescued file of this folder that was read is in it, and goes.
     void gespeichert();
 
 private:

@@ -50,7 +50,7 @@ bool Sitzung::Zugriff_erlaubt() {
 }
 
 bool Sitzung::lade_Datenbank() {
-    std::optional<Während<bool>> wechsel(std::in_place, wechselt_);
+    std::optional<Halb_getan> wechsel(std::in_place, wechselt_);
     if (!Zugriff_erlaubt()) return false;
     Text datei = modell_.Pfad(Info_Datei_Name);
     info_.Gerettetes.anbieten(datei);
@@ -82,16 +82,11 @@ bool Sitzung::lade_Datenbank() {
 
 bool Sitzung::schreibe_Datenbank(bool Fortschritt_zeigen) { return info_.schreibe_Datenbank(Fortschritt_zeigen); }
 
-void Sitzung::ungespeichert_verlassen() {
-    if (!info_.Info_steht()) info_.Gerettetes.schreiben();
-}
+bool Sitzung::ungespeichert_verlassen() { return info_.zu_retten() && info_.Gerettetes.schreiben(); }
 
 // False when the save failed and the user wants to stay.
 bool Sitzung::gespeichert_oder_verzichtet(const Text& titel, const Text& frage) {
-    if (!modell_.Datenbank_offen || schreibe_Datenbank(true)) return true;
-    if (!ansicht_.fragen(titel, frage)) return false;
-    ungespeichert_verlassen();
-    return true;
+    return !modell_.Datenbank_offen || schreibe_Datenbank(true) || ansicht_.fragen(titel, frage);
 }
 
 // The albums and the ignore list belong to the collection that is left; they must not end up in the folder of the next one.
@@ -109,6 +104,7 @@ void Sitzung::öffne_Datenbank_Verzeichnis(const Text& Pfad) {
         return;
     if (Pfad.empty()) return;
     vor_Wechsel();
+    const bool gerettet = ungespeichert_verlassen();
     const Text altes_Verzeichnis = modell_.Datenbank_Verzeichnis;
     Verzeichnis_setzen(Pfad);
     if (lade_Datenbank()) {
@@ -116,6 +112,8 @@ void Sitzung::öffne_Datenbank_Verzeichnis(const Text& Pfad) {
         geladen(true);
     } else {
         Verzeichnis_setzen(altes_Verzeichnis);
+        // Refused for its access file: the session goes on with the old one, which was not left after all.
+        if (gerettet && modell_.Datenbank_offen) info_.Gerettetes.zurücknehmen();
     }
 }
 
@@ -139,8 +137,9 @@ bool Sitzung::Datenbank_erstellen(bool fragen, bool Kategorien_übernehmen) {
                                                 "bereits.");
         return false;
     }
+    ungespeichert_verlassen();
     Verzeichnis_setzen(pfad);
-    std::optional<Während<bool>> wechsel(std::in_place, wechselt_);
+    std::optional<Halb_getan> wechsel(std::in_place, wechselt_);
     if (fragen)
         Kategorien_übernehmen = ansicht_.fragen(
             Titel_erstellen, "Wollen sie die Kategorien aus der aktuellen Datenbank in die neue übernehmen?");

@@ -23,8 +23,9 @@ public:
     // Opens the collection in Datenbank_Verzeichnis. False: declined, or a failure was shown.
     bool lade_Datenbank();
     bool schreibe_Datenbank(bool Fortschritt_zeigen);
-    // The collection is left although the save just failed: what is in memory is kept beside the info file.
-    void ungespeichert_verlassen();
+    // The collection is left although the save just failed: what is in memory is kept beside the info file. True when it
+    // was.
+    bool ungespeichert_verlassen();
     // Saves the open collection and opens the one in `Pfad`; an empty path only saves.
     void öffne_Datenbank_Verzeichnis(const Text& Pfad);
     // Makes a new collection. With `fragen` the user decides whether the categories are taken over, else the second flag.
@@ -64,7 +65,7 @@ private:
     Zugriffsdatei& zugriff_;
     const Plattform& plattform_;
     Ansicht& ansicht_;
-    // From the change of folder until memory holds what belongs to it.
+    // From the change of folder until memory holds what belongs to it; for good when a run-time error comes in between.
     bool wechselt_ = false;
 };
 

@@ -1,37 +1,24 @@
 #include "datenbank/vorschau.hpp"
 
 #include "datenbank/info_datei.hpp"
+#include "datenbank/info_koerper.hpp"
 #include "datenbank/version.hpp"
-#include "datenbank/zeitleser.hpp"
 #include "plattform/dateisystem.hpp"
 #include "plattform/kanaele.hpp"
 
 namespace tonkartei {
 namespace {
 
-void Zeilen_überlesen(Kanäle& kanäle, int nummer, int anzahl) {
-    for (int i = 0; i < anzahl; ++i) kanäle.lese_Zeile(nummer);
-}
-
 std::optional<Datenbank_Vorschau> lesen(Kanäle& kanäle, int nummer, const Text& Programmversion) {
     if (kanäle.lese_Wert(nummer) != Programmtitel || kanäle.lese_Wert(nummer) != Programmversion) return std::nullopt;
+    Bestand bestand;
     Datenbank_Vorschau vorschau;
-    vorschau.Kategorien = kanäle.lese_Byte(nummer);
-    Zeilen_überlesen(kanäle, nummer, vorschau.Kategorien);
-    kanäle.lese_Byte(nummer);  // schemes offered
-    for (int s = 1; s <= Schemas_maximal; ++s) {
-        const int anzahl = kanäle.lese_Byte(nummer);
-        Zeilen_überlesen(kanäle, nummer, 1 + anzahl);
-    }
-    kanäle.lese_Long(nummer);  // backup limit
-    vorschau.Lieder = kanäle.lese_Long(nummer);
-    for (long long n = 1; n <= vorschau.Lieder; ++n) {
-        Zeilen_überlesen(kanäle, nummer, 2);  // count, artist
-        vorschau.KByte += kanäle.lese_Long(nummer);
-        Zeilen_überlesen(kanäle, nummer, 2);  // category, title
-        const auto [stunden, minuten, sekunden] = drei_Zahlen_lesen(kanäle);
-        vorschau.Sekunden += Sekunden_von(Zeit_aus(stunden, minuten, sekunden));
-    }
+    Info_Körper_lesen(kanäle, nummer, bestand, [&](Long nr, Long) {
+        vorschau.KByte += bestand.Lieder[nr].Größe;
+        vorschau.Sekunden += Sekunden_von(bestand.Lieder[nr].Zeit);
+    });
+    vorschau.Lieder = bestand.Anzahl_Lieder;
+    vorschau.Kategorien = bestand.Anzahl_Kategorien;
     return vorschau;
 }
 

@@ -77,7 +77,14 @@ std::optional<char32_t> nächstes_Zeichen(std::string_view text, std::size_t& st
     return wert;
 }
 
+bool nur_ASCII(std::string_view text) {
+    unsigned alle = 0;
+    for (const char zeichen : text) alle |= static_cast<unsigned char>(zeichen);
+    return alle < 0x80;
+}
+
 Text aus_1252(std::string_view bytes) {
+    if (nur_ASCII(bytes)) return Text(bytes);
     Text text;
     text.reserve(bytes.size());
     for (const char zeichen : bytes) {
@@ -115,10 +122,6 @@ std::string nach_1252(std::string_view text) {
     return bytes;
 }
 
-Text auf_Seite(std::string_view text) {
-    bool einfach = true;
-    for (const char zeichen : text) einfach = einfach && static_cast<unsigned char>(zeichen) < 0x80;
-    return einfach ? Text(text) : aus_1252(nach_1252(text));
-}
+Text auf_Seite(std::string_view text) { return nur_ASCII(text) ? Text(text) : aus_1252(nach_1252(text)); }
 
 }  // namespace tonkartei

@@ -9,6 +9,9 @@
 
 namespace tonkartei {
 
+// Nothing but characters that the page and UTF-8 write alike, one byte each.
+bool nur_ASCII(std::string_view text);
+
 // Bytes of the page to Text.
 Text aus_1252(std::string_view bytes);
 

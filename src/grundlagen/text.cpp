@@ -14,12 +14,6 @@ std::size_t Bytes_von(std::string_view text, std::size_t anzahl) {
     return stelle;
 }
 
-bool nur_ASCII(std::string_view text) {
-    for (const char zeichen : text)
-        if (static_cast<unsigned char>(zeichen) >= 0x80) return false;
-    return true;
-}
-
 char groß_ASCII(char zeichen) { return zeichen >= 'a' && zeichen <= 'z' ? static_cast<char>(zeichen - 'a' + 'A') : zeichen; }
 
 char32_t groß_Zeichen(char32_t zeichen) {

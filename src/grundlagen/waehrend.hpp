@@ -1,6 +1,7 @@
 // A variable that has a value as long as something goes on, and its old one again however that ends.
 #pragma once
 
+#include <exception>
 #include <utility>
 
 namespace tonkartei {
@@ -16,6 +17,24 @@ public:
 private:
     T& variable_;
     T vorher_;
+};
+
+// A mark that something is half done. An exception that goes through leaves it standing: whoever looks at what is left, up
+// where run-time errors end the program, must know.
+class Halb_getan {
+public:
+    explicit Halb_getan(bool& marke)
+        : marke_(marke), vorher_(std::exchange(marke, true)), ausnahmen_(std::uncaught_exceptions()) {}
+    ~Halb_getan() {
+        if (std::uncaught_exceptions() == ausnahmen_) marke_ = vorher_;
+    }
+    Halb_getan(const Halb_getan&) = delete;
+    Halb_getan& operator=(const Halb_getan&) = delete;
+
+private:
+    bool& marke_;
+    bool vorher_;
+    int ausnahmen_;
 };
 
 }  // namespace tonkartei

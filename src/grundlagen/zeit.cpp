@@ -1,6 +1,7 @@
 #include "grundlagen/zeit.hpp"
 
 #include <array>
+#include <chrono>
 #include <cmath>
 
 #include "grundlagen/fehler.hpp"
@@ -13,28 +14,7 @@ constexpr long long Tag_Sekunden = 86400;
 long long Sekunde_des_Tages(Zeit zeit) {
     // Nearly all times lie within one day, where nothing need be taken off.
     const double bruch = zeit >= 0 && zeit < 1 ? zeit : std::fabs(std::fmod(zeit, 1.0));
-    return static_cast<long long>(bruch * static_cast<double>(Tag_Sekunden) + 0.5) % Tag_Sekunden;
-}
-
-// Days since 1970-01-01 of the Gregorian calendar, and back.
-long long Tage_seit_1970(long long jahr, int monat, long long tag) {
-    jahr -= monat <= 2;
-    const long long ära = (jahr >= 0 ? jahr : jahr - 399) / 400;
-    const long long jahr_der_ära = jahr - ära * 400;
-    const long long tag_des_jahres = (153 * (monat + (monat > 2 ? -3 : 9)) + 2) / 5 + tag - 1;
-    return ära * 146097 + jahr_der_ära * 365 + jahr_der_ära / 4 - jahr_der_ära / 100 + tag_des_jahres - 719468;
-}
-
-void Datum_von(long long tage, Zeitpunkt& zeit) {
-    tage += 719468;
-    const long long ära = (tage >= 0 ? tage : tage - 146096) / 146097;
-    const long long tag_der_ära = tage - ära * 146097;
-    const long long jahr = (tag_der_ära - tag_der_ära / 1460 + tag_der_ära / 36524 - tag_der_ära / 146096) / 365;
-    const long long tag_des_jahres = tag_der_ära - (365 * jahr + jahr / 4 - jahr / 100);
-    const long long monat = (5 * tag_des_jahres + 2) / 153;
-    zeit.Tag = static_cast<int>(tag_des_jahres - (153 * monat + 2) / 5 + 1);
-    zeit.Monat = static_cast<int>(monat < 10 ? monat + 3 : monat - 9);
-    zeit.Jahr = static_cast<int>(jahr + ära * 400 + (zeit.Monat <= 2));
+    return std::llround(bruch * static_cast<double>(Tag_Sekunden)) % Tag_Sekunden;
 }
 
 Text zwei(int wert) { return Zahl_mit_Nullen(wert, 2); }
@@ -43,9 +23,8 @@ constexpr std::array<const char*, 12> Monate = {"Januar", "Februar", "März",   
                                                 "Juli",   "August",  "September", "Oktober", "November", "Dezember"};
 constexpr std::array<const char*, 12> Monate_kurz = {"Jan", "Feb", "Mrz", "Apr", "Mai", "Jun",
                                                      "Jul", "Aug", "Sep", "Okt", "Nov", "Dez"};
-// 1970-01-01 was a Thursday.
-constexpr std::array<const char*, 7> Wochentage = {"Donnerstag", "Freitag",  "Samstag", "Sonntag",
-                                                   "Montag",     "Dienstag", "Mittwoch"};
+constexpr std::array<const char*, 7> Wochentage = {"Sonntag",    "Montag",  "Dienstag", "Mittwoch",
+                                                   "Donnerstag", "Freitag", "Samstag"};
 
 }  // namespace
 
@@ -69,21 +48,24 @@ Text Dauer_Text(double Sekunden) {
 }
 
 Zeitpunkt Zeitpunkt_aus(double Tag, double Monat, double Jahr, double Stunde, double Minute, double Sekunde) {
-    const long long monate = gerundet_Integer(Jahr) * 12LL + gerundet_Integer(Monat) - 1;
-    const long long jahr = monate >= 0 ? monate / 12 : (monate - 11) / 12;
-    long long tage = Tage_seit_1970(jahr, static_cast<int>(monate - jahr * 12) + 1, 1) + gerundet_Integer(Tag) - 1;
-    long long sekunden = gerundet_Integer(Stunde) * 3600LL + gerundet_Integer(Minute) * 60LL + gerundet_Integer(Sekunde);
-    long long über = sekunden / Tag_Sekunden;
-    if (sekunden % Tag_Sekunden < 0) --über;
-    tage += über;
-    sekunden -= über * Tag_Sekunden;
-    Zeitpunkt zeit;
-    Datum_von(tage, zeit);
-    if (zeit.Jahr < 100 || zeit.Jahr > 9999) throw Laufzeitfehler(5, "Ungültiger Prozeduraufruf oder ungültiges Argument");
-    zeit.Stunde = static_cast<int>(sekunden / 3600);
-    zeit.Minute = static_cast<int>(sekunden / 60 % 60);
-    zeit.Sekunde = static_cast<int>(sekunden % 60);
-    return zeit;
+    // A year beyond chrono's 16 bits wraps around, to one that is far from those which are let through.
+    const std::chrono::year_month erster =
+        std::chrono::year(0) / 1 + std::chrono::months(gerundet_Integer(Jahr) * 12 + gerundet_Integer(Monat) - 1);
+    const std::chrono::sys_seconds punkt = std::chrono::sys_days(erster / 1) + std::chrono::days(gerundet_Integer(Tag) - 1) +
+                                           std::chrono::hours(gerundet_Integer(Stunde)) +
+                                           std::chrono::minutes(gerundet_Integer(Minute)) +
+                                           std::chrono::seconds(gerundet_Integer(Sekunde));
+    const auto tag = std::chrono::floor<std::chrono::days>(punkt);
+    const std::chrono::year_month_day datum(tag);
+    const std::chrono::hh_mm_ss uhr(punkt - tag);
+    const int jahr = static_cast<int>(datum.year());
+    if (jahr < 100 || jahr > 9999) throw Laufzeitfehler(5, "Ungültiger Prozeduraufruf oder ungültiges Argument");
+    return {jahr,
+            static_cast<int>(static_cast<unsigned>(datum.month())),
+            static_cast<int>(static_cast<unsigned>(datum.day())),
+            static_cast<int>(uhr.hours().count()),
+            static_cast<int>(uhr.minutes().count()),
+            static_cast<int>(uhr.seconds().count())};
 }
 
 Text mittleres_Datum(const Zeitpunkt& zeit) {
@@ -91,9 +73,8 @@ Text mittleres_Datum(const Zeitpunkt& zeit) {
 }
 
 Text langes_Datum(const Zeitpunkt& zeit) {
-    const long long tage = Tage_seit_1970(zeit.Jahr, zeit.Monat, zeit.Tag);
-    const auto wochentag = static_cast<std::size_t>(((tage % 7) + 7) % 7);
-    return Text(Wochentage[wochentag]) + ", " + Zahltext(zeit.Tag) + ". " +
+    const std::chrono::weekday wochentag(std::chrono::sys_days(std::chrono::year(zeit.Jahr) / zeit.Monat / zeit.Tag));
+    return Text(Wochentage[wochentag.c_encoding()]) + ", " + Zahltext(zeit.Tag) + ". " +
            Monate[static_cast<std::size_t>(zeit.Monat - 1)] + " " + Zahltext(zeit.Jahr);
 }
 

@@ -35,7 +35,8 @@ struct Zeitpunkt {
     Zeit Tageszeit() const { return Zeit_aus(Stunde, Minute, Sekunde); }
 };
 
-// From parts that may run over, as a damaged file may hold them. Run-time error 6 or 13 beyond any calendar.
+// From parts that may run over, as a damaged file may hold them. Run-time error 5 outside the years 100 to 9999, 6 for a
+// part beyond 16 bits.
 Zeitpunkt Zeitpunkt_aus(double Tag, double Monat, double Jahr, double Stunde, double Minute, double Sekunde);
 
 Text mittleres_Datum(const Zeitpunkt& zeit);  // "05. Mrz 2026"

@@ -12,7 +12,6 @@ namespace {
 
 constexpr std::size_t Namenslänge = 16;  // what the display has room for; longer names are kept all the same
 constexpr Farbe Hellgelb = RGB(255, 255, 0);
-constexpr Byte ohne_Kategorie = 255;
 constexpr int Ruhestellung = 2;
 
 }  // namespace
@@ -110,8 +109,8 @@ void Kategorie_bearbeiten::Name_geändert() {
 
 void Kategorie_bearbeiten::hinzufügen() {
     if (modell_.Anzahl_Kategorien >= Kategorien_maximal) {
-        modell_.Meldung = "Es sind maximal " + Zahltext(modell_.Anzahl_Kategorien) + "Kategorien erlaubt!";
-        ansicht().informieren("Kategorie hinzufügen", modell_.Meldung);
+        ansicht().informieren("Kategorie hinzufügen",
+                              "Es sind maximal " + Zahltext(modell_.Anzahl_Kategorien) + "Kategorien erlaubt!");
         return;
     }
     const int k = ++modell_.Anzahl_Kategorien;
@@ -127,12 +126,11 @@ void Kategorie_bearbeiten::löschen() {
     if (k < 1) return;
     const Text& name = modell_.Kategorien[k];
     if (k == 1) {
-        modell_.Meldung = "Die Kategorie " + name + (name == "Alle" ? "" : " (Alle)") + " darf nicht gelöscht werden!";
-        ansicht().informieren("Kategorie löschen", modell_.Meldung);
+        ansicht().informieren("Kategorie löschen",
+                              "Die Kategorie " + name + (name == "Alle" ? "" : " (Alle)") + " darf nicht gelöscht werden!");
         return;
     }
-    modell_.Meldung = "Wollen sie die Kategorie " + name + " wirklich löschen?";
-    if (!ansicht().fragen("Kategorie löschen", modell_.Meldung)) return;
+    if (!ansicht().fragen("Kategorie löschen", "Wollen sie die Kategorie " + name + " wirklich löschen?")) return;
     --modell_.Anzahl_Kategorien;
     for (int i = k; i <= modell_.Anzahl_Kategorien; ++i) modell_.Kategorien[i] = modell_.Kategorien[i + 1];
     Liste.entfernen(k - 1);
@@ -158,8 +156,8 @@ void Kategorie_bearbeiten::Lieder_umsetzen(int gelöschte) {
 void Kategorie_bearbeiten::verwaiste_einordnen() {
     const Long anzahl = Lieder_in_Kategorie(modell_, ohne_Kategorie);
     if (anzahl == 0) return;
-    modell_.Meldung = "Bitte wählen sie eine Kategorie für die " + Zahltext(anzahl) + " Lieder der gelöschten Kategorie!";
-    ansicht().informieren("gelöschte Kategorie", modell_.Meldung);
+    ansicht().informieren("gelöschte Kategorie", "Bitte wählen sie eine Kategorie für die " + Zahltext(anzahl) +
+                                                     " Lieder der gelöschten Kategorie!");
     const Byte neue = wahl_.wählen("neue Kategorie", {}, {});
     for (Long n = 1; n <= modell_.Anzahl_Lieder; ++n)
         if (modell_.Lieder[n].Kategorie == ohne_Kategorie) modell_.Lieder[n].Kategorie = neue;
@@ -173,8 +171,7 @@ void Kategorie_bearbeiten::verschieben() {
     if (k < 1) return;
     const int ziel = k + richtung;
     if (k == 1 || ziel == 1) {
-        modell_.Meldung = "Die Kategorie 1 darf nicht verschoben werden!";
-        ansicht().informieren("Fehler", modell_.Meldung);
+        ansicht().informieren("Fehler", "Die Kategorie 1 darf nicht verschoben werden!");
         return;
     }
     if (ziel > modell_.Anzahl_Kategorien) return;
@@ -201,8 +198,7 @@ void Kategorie_bearbeiten::Tabelle_geändert() {
 bool Kategorie_bearbeiten::beim_Schließen(Schließgrund) {
     for (int k = 1; k <= modell_.Anzahl_Kategorien; ++k) {
         if (Zeichenzahl(modell_.Kategorien[k]) <= Namenslänge) continue;
-        modell_.Meldung = "Mindestens ein Kategoriename ist länger als 16 Zeichen!";
-        ansicht().informieren("Hinweis", modell_.Meldung);
+        ansicht().informieren("Hinweis", "Mindestens ein Kategoriename ist länger als 16 Zeichen!");
         break;
     }
     geschlossen();

@@ -6,12 +6,12 @@
 
 #include "datenbank/modell.hpp"
 #include "oberflaeche/elemente.hpp"
-#include "oberflaeche/fenster.hpp"
 #include "oberflaeche/listen.hpp"
+#include "oberflaeche/wartedialog.hpp"
 
 namespace tonkartei {
 
-class Kategorie_Wahl : public Fenster {
+class Kategorie_Wahl : public Wartedialog<Byte> {
 public:
     Kategorie_Wahl(Ansicht& ansicht, const Modell& modell);
 
@@ -37,16 +37,8 @@ protected:
     bool beim_Schließen(Schließgrund grund) override;
 
 private:
-    struct Frage {
-        const Text& titel;
-        const Text& artist;
-        const Text& datei;
-        int zeile = -1;
-    };
-    void stellen(const Frage& frage);
-
     const Modell& modell_;
-    std::vector<Frage*> fragen_;  // the one that waits for its answer behind
+    Text datei_;  // of the song that is asked for
 };
 
 }  // namespace tonkartei

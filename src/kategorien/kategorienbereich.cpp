@@ -1,8 +1,5 @@
 #include "kategorien/kategorienbereich.hpp"
 
-#include <utility>
-
-#include "grundlagen/codepage.hpp"
 #include "grundlagen/waehrend.hpp"
 #include "kategorien/kategorie_bearbeiten.hpp"
 #include "oberflaeche/ansicht.hpp"
@@ -34,10 +31,7 @@ Kategorienbereich::Kategorienbereich(Fenster& fenster, Modell& modell, Einstellu
         knopf->klein = true;
         knopf->sichtbar(false);
         knopf->Klick.verbinden([this, n] { Schema_klicken(n); });
-        knopf->Rechtsklick.verbinden([this, n](int) {
-            Schema_speichern(n);
-            Schema_beschreiben(n);
-        });
+        knopf->Rechtsklick.verbinden([this, n](int) { Schema_rechtsklicken(n); });
     }
     Kategorie_Edit.tooltip("öffnet das Fenster zum Bearbeiten der Kategorien");
     Editor_anschließen(editor);
@@ -49,7 +43,7 @@ Kategorienbereich::Kategorienbereich(Fenster& fenster, Modell& modell, Einstellu
 // While it is open the main window is locked.
 void Kategorienbereich::Editor_anschließen(Kategorie_bearbeiten& editor) {
     Kategorie_Edit.Klick.verbinden([this, &editor] {
-        if (!modell_.Datenbank_offen) return;
+        if (!änderbar()) return;
         fenster_.aktiv(false);
         editor.öffnen(Kategorie_bearbeiten::vom_Hauptfenster);
     });
@@ -115,93 +109,18 @@ void Kategorienbereich::aktualisiere_Kategorie_List(bool Startkategorien_setzen)
         Auswahl_geändert();
 }
 
-void Kategorienbereich::setzte_Startkategorien() {
-    if (!einstellungen_.Kategorien_merken) return;
-    von_anderswo_gesetzt();
-    {
-        const Während stille(Kategorie_Ereignisse_an_, false);
-        for (int k = 1; k <= modell_.Anzahl_Kategorien; ++k)
-            zeige_Kategorie(k).wert((static_cast<std::uint32_t>(einstellungen_.Kategorien) >> (k - 1) & 1U) != 0);
-    }
-    Auswahl_geändert();
+// Not while the category of a song is asked for whose own one was removed.
+bool Kategorienbereich::hat_Kategorie(const Lied& lied) const {
+    return lied.Kategorie >= 1 && lied.Kategorie <= modell_.Anzahl_Kategorien;
 }
 
-Long Kategorienbereich::Kategorien_Maske() const {
-    Long maske = 0;
-    for (int k = 1; k <= modell_.Anzahl_Kategorien; ++k)
-        if (zeige_Kategorie(k).wert()) maske += Long{1} << (k - 1);
-    return maske;
-}
-
-void Kategorienbereich::Kasten_geändert(int k) {
-    if (k < 1 || k > modell_.Anzahl_Kategorien) return;
-    melden();
-    if (Kategorie_Ereignisse_an_ && !Kategorie_intern && Auto_Wechsel_an()) {
-        Auto_Wechsel_beenden();
-        Pool_zeigen(k);
-    }
-    {
-        const Während stille(Kategorie_Ereignisse_an_, false);
-        if (zeige_Kategorie(k).wert()) {
-            if (k == 1) {
-                for (int anderer = 2; anderer <= Kategorien_maximal; ++anderer) zeige_Kategorie(anderer).wert(false);
-            } else {
-                zeige_Kategorie(1).wert(false);
-            }
-        }
-    }
-    if (!Kategorie_Ereignisse_an_) return;
-    Auswahl_geändert();
-    Suche_fokussieren();
-}
-
-void Kategorienbereich::Pool_übernehmen() {
-    {
-        const Während stille(Kategorie_Ereignisse_an_, false);
-        const Während intern(Kategorie_intern);
-        for (int k = 2; k <= modell_.Anzahl_Kategorien; ++k) {
-            Auto_Wechsel_Kategorie[k] = zeige_Kategorie(1).wert() || zeige_Kategorie(k).wert();
-            zeige_Kategorie(k).wert(false);
-        }
-    }
-    zeige_Kategorie_Farben();
-}
-
-// The boxes as the categories of the automatic change, as if the user had changed box k there.
-void Kategorienbereich::Pool_zeigen(int k) {
-    const Während stille(Kategorie_Ereignisse_an_, false);
-    for (int i = 1; i <= Kategorien_maximal; ++i)
-        if (i != k) zeige_Kategorie(i).wert(Auto_Wechsel_Kategorie[i]);
-    zeige_Kategorie(k).wert(!Auto_Wechsel_Kategorie[k]);
-}
-
-void Kategorienbereich::Rechtsklick_auf_Kasten(int k) {
-    if (k > modell_.Anzahl_Kategorien) return;
-    if (Auto_Wechsel_an() && !Kategorie_intern) {
-        if (k != 1) {
-            Auto_Wechsel_Kategorie[k] = !Auto_Wechsel_Kategorie[k];
-        } else {
-            for (int i = 1; i <= modell_.Anzahl_Kategorien; ++i) Auto_Wechsel_Kategorie[i] = i > 1;
-        }
-        zeige_Kategorie_Farben();
-        return;
-    }
-    if (einstellungen_.Kategorie_Rechtsklick == 1) {
-        nur_oder_alle_anderen(k);
-        Auswahl_geändert();
-        Suche_fokussieren();
-    } else if (einstellungen_.Kategorie_Rechtsklick == 2 && Lied_Kategorie.aktiv()) {
-        Lied_Kategorie.wähle(k - 1);
-    }
-}
-
-// The same right click toggles between this category alone and all but this one (and never box 1 with others).
-void Kategorienbereich::nur_oder_alle_anderen(int k) {
-    const Während stille(Kategorie_Ereignisse_an_, false);
-    const bool war_gewählt = zeige_Kategorie(k).wert();
-    for (int i = 2; i <= modell_.Anzahl_Kategorien; ++i) zeige_Kategorie(i).wert(war_gewählt && i != k);
-    zeige_Kategorie(1).wert(false);
-    zeige_Kategorie(k).wert(!war_gewählt);
+bool Kategorienbereich::Wechsel_bestätigt(const Lied& lied, int neu) {
+    if (!einstellungen_.Kategorie_wechsel_bestätigen) return true;
+    const Text alte = hat_Kategorie(lied) ? modell_.Kategorien[lied.Kategorie] : Text{};
+    return fenster_.ansicht().fragen("Kategorie wechseln",
+                                     "Wollen sie die Kategorie des Liedes " + in_Anführungszeichen(lied.Titel) + " von " +
+                                         in_Anführungszeichen(lied.Artist) + " wirklich von " + in_Anführungszeichen(alte) +
+                                         " auf " + in_Anführungszeichen(modell_.Kategorien[neu]) + " ändern?");
 }
 
 void Kategorienbereich::Kategorie_des_Liedes_geändert() {
@@ -210,17 +129,9 @@ void Kategorienbereich::Kategorie_des_Liedes_geändert() {
     Lied& lied = modell_.Lieder[nr];
     const int neu = Lied_Kategorie.gewählt() + 1;
     if (neu == lied.Kategorie) return;
-    // Not while the category of a song is asked for whose own one was removed.
-    const bool alt = lied.Kategorie >= 1 && lied.Kategorie <= modell_.Anzahl_Kategorien;
-    if (einstellungen_.Kategorie_wechsel_bestätigen) {
-        modell_.Meldung = "Wollen sie die Kategorie des Liedes " + in_Anführungszeichen(lied.Titel) + " von " +
-                          in_Anführungszeichen(lied.Artist) + " wirklich von " +
-                          in_Anführungszeichen(alt ? modell_.Kategorien[lied.Kategorie] : Text{}) + " auf " +
-                          in_Anführungszeichen(modell_.Kategorien[neu]) + " ändern?";
-        if (!fenster_.ansicht().fragen("Kategorie wechseln", modell_.Meldung)) {
-            Lied_Kategorie.wähle(alt ? lied.Kategorie - 1 : -1);
-            return;
-        }
+    if (!änderbar() || !Wechsel_bestätigt(lied, neu)) {
+        Lied_Kategorie.wähle(hat_Kategorie(lied) ? lied.Kategorie - 1 : -1);
+        return;
     }
     lied.Kategorie = als_Byte(neu);
     zeige_Kategorie_Farben();
@@ -247,78 +158,6 @@ void Kategorienbereich::Farbe_ändern(Long Einstellungen::*einstellung) {
         einstellungen_.*einstellung = *farbe;
         zeige_Kategorie_Farben();
     }
-}
-
-void Kategorienbereich::Anz_Kat_Schemas_setzen(int n) {
-    modell_.Anz_Kat_Schemas = als_Byte(n);
-    Schemas_zeigen();
-    schema_modus_ = Schema_Modus::wählen;
-}
-
-void Kategorienbereich::Schemas_zeigen() {
-    for (int n = 1; n <= Schemas_maximal; ++n) {
-        Knopf& knopf = Kategorie_Schema(n);
-        knopf.tooltip(modell_.Schemas[n].Name);
-        knopf.sichtbar(n <= modell_.Anz_Kat_Schemas);
-    }
-    Schema_Rahmen.sichtbar(modell_.Anz_Kat_Schemas > 0);
-    melden();
-}
-
-void Kategorienbereich::Schema_klicken(int n) {
-    switch (std::exchange(schema_modus_, Schema_Modus::wählen)) {
-        case Schema_Modus::wählen: Schema_wählen(n); break;
-        case Schema_Modus::speichern: Schema_speichern(n); break;
-        case Schema_Modus::beschreiben: Schema_beschreiben(n); break;
-    }
-}
-
-void Kategorienbereich::Schema_wählen(int n) {
-    von_anderswo_gesetzt();
-    {
-        const Während stille(Kategorie_Ereignisse_an_, false);
-        for (int k = 1; k <= Kategorien_maximal; ++k) zeige_Kategorie(k).wert(false);
-        const Schema& schema = modell_.Schemas[n];
-        for (int i = 1; i <= schema.Anzahl; ++i) {
-            const Byte k = schema.Kategorien[i];
-            if (k >= 1 && k <= modell_.Anzahl_Kategorien) zeige_Kategorie(k).wert(true);
-        }
-    }
-    Auswahl_geändert();
-    Suche_fokussieren();
-}
-
-void Kategorienbereich::Schema_speichern(int n) {
-    Schema& schema = modell_.Schemas[n];
-    schema.Anzahl = 0;
-    for (int k = 1; k <= modell_.Anzahl_Kategorien; ++k)
-        if (zeige_Kategorie(k).wert()) schema.Kategorien[++schema.Anzahl] = als_Byte(k);
-}
-
-void Kategorienbereich::Schema_beschreiben(int n) {
-    Schema& schema = modell_.Schemas[n];
-    const Text name = auf_Seite(fenster_.ansicht().eingeben("Geben sie eine neue Kurzbeschreibung für dieses Schema ein:",
-                                                            "Kategorie-Schema-Kurzbeschreibung ändern", schema.Name));
-    if (name.empty()) return;
-    schema.Name = name;
-    Kategorie_Schema(n).tooltip(name);
-    melden();
-}
-
-void Kategorienbereich::Schema_zuweisen_beginnen() {
-    modell_.Meldung =
-        "Klicken sie auf eine Kategorie-Schema Schaltfläche, "
-        "um die aktuell ausgewählten Kategorien dort zu speichern.";
-    fenster_.ansicht().informieren("Kategorie-Schema zuweisen", modell_.Meldung);
-    schema_modus_ = Schema_Modus::speichern;
-}
-
-void Kategorienbereich::Schema_beschreiben_beginnen() {
-    modell_.Meldung =
-        "Klicken sie auf eine Kategorie-Schema Schaltfläche, "
-        "um deren Kurzbeschreibung zu ändern.";
-    fenster_.ansicht().informieren("Kategorie-Kurzbeschreibung ändern", modell_.Meldung);
-    schema_modus_ = Schema_Modus::beschreiben;
 }
 
 }  // namespace tonkartei

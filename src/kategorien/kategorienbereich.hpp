@@ -41,7 +41,7 @@ public:
     // All boxes back to the normal colour.
     void Farben_zurücksetzen();
 
-    // How many schemes are offered; the buttons follow.
+    // How many schemes are offered; the buttons follow. Nothing changes without an open collection.
     void Anz_Kat_Schemas_setzen(int n);
     // What a click on scheme button n does.
     void Schema_klicken(int n);
@@ -72,17 +72,23 @@ public:
     Knoten anordnung();
 
 private:
-    void Editor_anschließen(Kategorie_bearbeiten& editor);
     enum class Schema_Modus { wählen, speichern, beschreiben };
 
+    void Editor_anschließen(Kategorie_bearbeiten& editor);
+    // Categories, schemes and songs may be changed: a collection is open. The controls may still show the one before.
+    bool änderbar() const { return modell_.Datenbank_offen; }
     void Kasten_geändert(int k);
     void Pool_zeigen(int k);
     void nur_oder_alle_anderen(int k);
+    bool hat_Kategorie(const Lied& lied) const;
+    bool Wechsel_bestätigt(const Lied& lied, int neu);
     void Kategorie_des_Liedes_geändert();
     void von_anderswo_gesetzt();
+    void Schema_rechtsklicken(int n);
     void Schema_wählen(int n);
     void Schema_speichern(int n);
     void Schema_beschreiben(int n);
+    void beginnen(Schema_Modus modus, const Text& titel, const Text& text);
     void Schemas_zeigen();
     void melden();
 

@@ -31,7 +31,7 @@ bool Lieder_entfernen::Datei_entfernen(Long Nr) {
 }
 
 void Lieder_entfernen::Lied_entfernen(Long Nr) {
-    const Während umbau(modell_.im_Umbau);
+    const Halb_getan umbau(modell_.im_Umbau);
     const Long letzte = modell_.Anzahl_Lieder;
     const Text datei = modell_.Lied_Pfad(Nr);
     if (!Datei_entfernen(Nr) || dateien_.Datei_da(datei)) return;

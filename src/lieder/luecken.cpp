@@ -34,7 +34,7 @@ bool Lücken::Lücken_füllen() {
 
 // How many records went.
 Long Lücken::füllen() {
-    const Während umbau(modell_.im_Umbau);
+    const Halb_getan umbau(modell_.im_Umbau);
     const Fortschritts_Ende ende(fortschritt_);
     fortschritt_.Text_setzen("Lücken suchen/auffüllen...");
     Long anzahl = Ende_kürzen();

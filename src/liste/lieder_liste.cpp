@@ -49,7 +49,11 @@ bool Liederordnung::gilt(const Stand& stand, const Modell& modell, Sortierung so
 Liederordnung::Stand Liederordnung::geordnet(const Modell& modell, Sortierung sortierung) {
     Stand stand;
     Sortier_Liste sortiert;
-    sortiert.vormerken(static_cast<std::size_t>(modell.Anzahl_Lieder), static_cast<std::size_t>(modell.Anzahl_Lieder) * 64);
+    const auto anzahl = static_cast<std::size_t>(modell.Anzahl_Lieder);
+    sortiert.vormerken(anzahl, anzahl * 80);
+    stand.namen.bytes.reserve(anzahl * 80);
+    stand.namen.enden.reserve(anzahl);
+    stand.folge.reserve(anzahl);
     for (Long n = 1; n <= modell.Anzahl_Lieder; ++n) {
         const auto [vorne, hinten] = Felder_von(modell.Lieder[n], sortierung);
         stand.namen.anhängen(vorne, hinten);

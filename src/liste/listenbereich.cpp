@@ -77,7 +77,7 @@ Listenbereich::Listenbereich(Fenster& f, Haus& haus, Albenraum& alben, Kategorie
         });
     const auto für_das_gezeigte = [this](Element& element, Ereignis<Long>& befehl) {
         element.Klick.verbinden([this, &befehl] {
-            if (angezeigtes_Lied_ > 0) befehl(angezeigtes_Lied_);
+            if (const Long nr = brauchbar(angezeigtes_Lied_); nr > 0) befehl(nr);
         });
     };
     für_das_gezeigte(Reset_Anzahl, Anzahl_ändern);
@@ -120,87 +120,12 @@ void Listenbereich::Sicht_zurücksetzen() {
     Schnellsuche.text("");
 }
 
-void Listenbereich::aktualisiere_Liste() {
+void Listenbereich::Zeile_gewählt() {
+    if (Liste.gewählt() < 0) return;
     if (Datenbank_Modus.wert() == 0)
-        erstelle_Lieder_Liste();
-    else
-        erstelle_Alben_Liste();
-}
-
-void Listenbereich::erstelle_Lieder_Liste() {
-    const Long gemerkt = Liste.Anzahl() > 0 && Liste.gewählt() >= 0 ? Lied_Nr(Liste.gewählt()) : 0;
-    const auto nummern =
-        ordnung_.gefilterte_Lieder(modell_, sortierung_, Schnellsuche.text(), [this](int k) { return zeigt_Kategorie(k); });
-    Nr_Liste_setzen(nummern);
-    if (!nummern.empty()) {
-        erstelle_Liste_von_Nr_Liste();
-        const auto fund = gemerkt > 0 ? std::find(nummern.begin(), nummern.end(), gemerkt) : nummern.end();
-        if (fund != nummern.end()) {
-            // The last line first: the song's line then comes to the top of what is visible.
-            Liste.wähle(Liste.Anzahl() - 1);
-            Liste.wähle(static_cast<int>(fund - nummern.begin()));
-        }
-    } else {
-        Liste.leeren();
-        Liste_Anzahl.beschriftung("0");
-        Liste_Größe.beschriftung("0");
-    }
-    Einzelheiten_leeren();
-}
-
-void Listenbereich::Nr_Liste_setzen(const std::vector<long long>& nummern) {
-    std::vector<Text> zeilen;
-    zeilen.reserve(nummern.size());
-    for (const long long nr : nummern) zeilen.push_back(Zahltext(nr));
-    Nr_Liste.setzen(std::move(zeilen));
-}
-
-void Listenbereich::erstelle_Liste_von_Nr_Liste() {
-    Liste.sichtbar(einstellungen_.bei_Listensuche_sichtbar);
-    Listensumme summe;
-    std::vector<Text> zeilen;
-    zeilen.reserve(Nr_Liste.zeilen().size());
-    for (const Text& nr : Nr_Liste.zeilen()) {
-        const Lied& lied = std::as_const(modell_).Lieder[Nummer_von(nr)];
-        zeilen.push_back(Listenzeile(lied, sortierung_));
-        summe.dazu(lied);
-    }
-    Liste.setzen(std::move(zeilen));
-    Summe_zeigen(Liste.Anzahl(), summe);
-    Liste.sichtbar(true);
-}
-
-void Listenbereich::Summe_zeigen(int anzahl, const Listensumme& summe) {
-    Liste_Anzahl.beschriftung(Zahltext(anzahl));
-    Liste_Größe.beschriftung(Zahltext(summe.KByte / 1024));
-    Liste_Dauer.beschriftung(Dauer_Text(static_cast<double>(summe.Sekunden)));
-}
-
-// All albums, whatever the search holds. None of them is chosen, so there are no titles and no totals.
-void Listenbereich::erstelle_Alben_Liste() {
-    Liste2.hinausfahren();
-    Liste2.leeren();
-    const auto nummern = modell_.Alben_geladen ? sortierte_Alben(alben_) : std::vector<long long>{};
-    Nr_Liste_setzen(nummern);
-    std::vector<Text> zeilen;
-    zeilen.reserve(nummern.size());
-    for (const long long nr : nummern) zeilen.push_back(Album_Zeile(alben_.Alben[nr]));
-    Liste.setzen(std::move(zeilen));
-    Liste_Anzahl.beschriftung("---");
-    Liste_Größe.beschriftung("");
-    Liste_Dauer.beschriftung("");
-    // The song whose details stand there may be one of a collection that is no longer open.
-    Einzelheiten_leeren();
-}
-
-void Listenbereich::zeige_Album(Long Nr) {
-    const Album& album = alben_.Alben[Nr];
-    Liste2.setzen(Titelzeilen(album));
-    Listensumme summe;
-    for (int t = 1; t <= album.Titel_Anzahl; ++t)
-        if (const Long lied = Lied_von(modell_, album.Lieder[t]); lied > 0) summe.dazu(modell_.Lieder[lied]);
-    Summe_zeigen(Liste2.Anzahl(), summe);
-    Liste2.hineinfahren();
+        zeige_Lied(Lied_Nr(Liste.gewählt()));
+    else if (const Long nr = Album_Nr(); nr > 0)
+        zeige_Album(nr);
 }
 
 void Listenbereich::Titel_gewählt() {
@@ -212,86 +137,6 @@ void Listenbereich::Titel_gewählt() {
     Einzelheiten_leeren();
     Titel.beschriftung(">>> nicht in Datenbank <<<");
     Lied_Zeit.beschriftung("");
-}
-
-// After a rebuild no details are shown, even where the choice was restored, until the next click. The song's time stays.
-void Listenbereich::Einzelheiten_leeren() {
-    angezeigtes_Lied_ = 0;
-    for (Schriftfeld* feld : {&Titel, &Artist, &Anzahl, &Lied_Größe}) feld->beschriftung("");
-    Reset_Anzahl.aktiv(false);
-    kategorien_.Lied_Kategorie.aktiv(false);
-    kategorien_.Farben_zurücksetzen();
-}
-
-Long Listenbereich::Lied_Nr(int Index) const { return Nummer_von(Nr_Liste.zeile(Index)); }
-
-Long Listenbereich::gewähltes_Lied() const {
-    if (Datenbank_Modus.wert() == 1) return Album_Lied_Nr();
-    return Liste.gewählt() >= 0 ? Lied_Nr(Liste.gewählt()) : 0;
-}
-
-Long Listenbereich::gemeintes_Lied() const {
-    if (!modell_.Datenbank_offen) return 0;
-    const Long gewählt = gewähltes_Lied();
-    const Long nr = gewählt > 0 ? gewählt : angezeigtes_Lied_;
-    // A special list may hold numbers of a collection that is no longer open.
-    return nr <= modell_.Anzahl_Lieder ? nr : 0;
-}
-
-bool Listenbereich::zeigt_Kategorie(int k) const { return kategorien_.zeige_Kategorie(k).wert(); }
-
-std::vector<Long> Listenbereich::Lieder_in_Liste() const {
-    std::vector<Long> nummern;
-    // The numbers of the other tab are those of albums.
-    if (Datenbank_Modus.wert() != 0 || !modell_.Datenbank_offen) return nummern;
-    std::vector<bool> dabei(static_cast<std::size_t>(modell_.Anzahl_Lieder) + 1);
-    for (const Text& zeile : Nr_Liste.zeilen()) {
-        const Long nr = Nummer_von(zeile);
-        if (nr < 1 || nr > modell_.Anzahl_Lieder || dabei[static_cast<std::size_t>(nr)]) continue;
-        dabei[static_cast<std::size_t>(nr)] = true;
-        nummern.push_back(nr);
-    }
-    return nummern;
-}
-
-std::vector<Listenlied> Listenbereich::Lieder_im_Blick() const {
-    std::vector<Listenlied> lieder;
-    if (Datenbank_Modus.wert() == 0) {
-        lieder.reserve(Nr_Liste.zeilen().size());
-        for (const Text& zeile : Nr_Liste.zeilen()) lieder.push_back({static_cast<int>(lieder.size()), Nummer_von(zeile)});
-    } else if (const Long album = Album_Nr(); album > 0) {
-        const Album& a = alben_.Alben[album];
-        for (int t = 1; t <= a.Titel_Anzahl; ++t)
-            if (const Long nr = Lied_von(modell_, a.Lieder[t]); nr > 0) lieder.push_back({t - 1, nr});
-    }
-    return lieder;
-}
-
-void Listenbereich::wähle_Lied(Long Nr) {
-    const auto& zeilen = Nr_Liste.zeilen();
-    int zeile = static_cast<int>(zeilen.size()) - 1;
-    while (zeile > 0 && Nummer_von(zeilen[static_cast<std::size_t>(zeile)]) != Nr) --zeile;
-    if (zeile >= 0) Liste.wähle(zeile);
-}
-
-Long Listenbereich::Album_Nr() const {
-    if (Datenbank_Modus.wert() != 1 || !modell_.Alben_geladen || Liste.gewählt() < 0) return 0;
-    const Long nr = Lied_Nr(Liste.gewählt());
-    // A special list of songs may stand in this tab.
-    return nr <= alben_.Anzahl ? nr : 0;
-}
-
-Long Listenbereich::Album_Lied_Nr() const {
-    const Long nr = Album_Nr();
-    return nr > 0 && Liste2.gewählt() >= 0 ? Lied_von(modell_, alben_.Alben[nr].Lieder[Liste2.gewählt() + 1]) : 0;
-}
-
-void Listenbereich::Zeile_gewählt() {
-    if (Liste.gewählt() < 0) return;
-    if (Datenbank_Modus.wert() == 0)
-        zeige_Lied(Lied_Nr(Liste.gewählt()));
-    else if (const Long nr = Album_Nr(); nr > 0)
-        zeige_Album(nr);
 }
 
 void Listenbereich::zeige_Lied(Long Nr) {

@@ -53,6 +53,9 @@ public:
     void Nr_Liste_setzen(const std::vector<long long>& nummern);
     // Song number of a line of Liste; error 9 outside it.
     Long Lied_Nr(int Index) const;
+    // Every way from the list to a song for a command goes through one of these. They tell none while no collection is open:
+    // the list of the one before may still be on show then, and what is done to its songs would be lost.
+    //
     // Number of the song chosen in the present tab; 0 none.
     Long gewähltes_Lied() const;
     // In the album tab: number of the album chosen in Liste, and of the song of the title chosen in Liste2; 0 none.
@@ -63,12 +66,13 @@ public:
     // What chance may draw from in the present tab: every line of Liste, or those titles of the chosen album that the
     // collection has, with their lines of Liste2.
     std::vector<Listenlied> Lieder_im_Blick() const;
+    // The song that a command means: the chosen one of the present tab, else the one whose details are shown; 0 none.
+    Long gemeintes_Lied() const;
+
     // Chooses the last line of Liste that holds the song; the first line when none does.
     void wähle_Lied(Long Nr);
     // Number of the song whose details are shown; 0 none.
     Long angezeigtes_Lied() const noexcept { return angezeigtes_Lied_; }
-    // The song that a command means: the chosen one of the present tab, else the one whose details are shown; 0 none.
-    Long gemeintes_Lied() const;
     // Whether the box of a category is checked; the first stands for all.
     bool zeigt_Kategorie(int k) const;
     void zeige_Lied(Long Nr);
@@ -93,6 +97,8 @@ public:
     Ereignis<> Start_gewünscht;
 
 private:
+    // 0 for what is no song of an open collection. A special list may hold numbers of one before.
+    Long brauchbar(Long Nr) const;
     void erstelle_Lieder_Liste();
     void erstelle_Alben_Liste();
     void zeige_Album(Long Nr);

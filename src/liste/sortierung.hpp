@@ -26,13 +26,10 @@ public:
 
 private:
     struct Zeile {
-        std::uint64_t teil;  // the eight bytes of the key that are being compared, the first one highest
         std::uint32_t stelle, länge;
         long long nummer;
     };
     void Text_anhängen(std::string_view text);
-    std::uint64_t Teil(const Zeile& zeile, std::size_t tiefe) const;
-    void sortieren(std::size_t von, std::size_t bis, std::size_t tiefe);
 
     std::string schlüssel_;  // the keys one behind the other
     std::vector<Zeile> zeilen_;

@@ -40,17 +40,15 @@ constexpr std::size_t Genre_Stelle = 124;
 void aus_Feld(std::string_view bytes, Text& ergebnis) {
     std::array<char, 30> rest;
     std::size_t länge = 0;
-    unsigned alle_Bits = 0;
     for (const char zeichen : bytes) {
         if (zeichen == '\0') continue;
         rest[länge++] = zeichen;
-        alle_Bits |= static_cast<unsigned char>(zeichen);
     }
     std::string_view text(rest.data(), länge);
     const std::size_t anfang = std::min(text.find_first_not_of(' '), länge);
     text = text.substr(anfang, text.find_last_not_of(' ') - anfang + 1);
-    if (alle_Bits < 0x80)
-        ergebnis.assign(text);  // the page and UTF-8 agree; the memory of the last song serves again
+    if (nur_ASCII(text))
+        ergebnis.assign(text);  // the memory of the last song serves again
     else
         ergebnis = aus_1252(text);
 }

@@ -220,6 +220,7 @@ void Anordnung::setzen(const Knoten& knoten, Bereich platz) const {
         case Knoten::Sorte::Spalte: setzen_Reihe(knoten, platz, false); break;
         case Knoten::Sorte::Gitter: setzen_Gitter(knoten, platz); break;
         case Knoten::Sorte::Gruppe: {
+            if (knoten.element_ == nullptr) break;
             const Bereich rahmen = ansicht_.Rahmenrand(*knoten.element_);
             setzen(knoten.kinder_.front(),
                    {rahmen.links, rahmen.oben, platz.breite - rahmen.breite, platz.höhe - rahmen.höhe});

@@ -113,10 +113,10 @@ public:
     // Raised by hand and code alike where a value changes (see each kind); else by the hand.
     Ereignis<> Klick;
     Ereignis<> Doppelklick;
-    Ereignis<int, int> Gedrückt;     // left button goes down; twips in the control
-    Ereignis<int, int> Losgelassen;  // left button comes up
-    Ereignis<int> Rechtsklick;       // right button comes up; the line under the mouse, -1 none
-    Ereignis<> Mausbewegung;         // the mouse moves over it
+    Ereignis<int, int> Gedrückt;      // left button goes down; twips in the control
+    Ereignis<int, int> Losgelassen;   // left button comes up
+    Ereignis<int> Rechtsklick;        // right button comes up; the line under the mouse, -1 none
+    Ereignis<int, int> Mausbewegung;  // the mouse moves over it; twips in the control
     Ereignis<Taste&> Tastendruck;
 
     // Drag and drop: a drag that starts here carries this mark; empty: nothing can be dragged from here.

@@ -23,9 +23,9 @@ void Kasten::Startwerte_setzen() {
 
 void Optionsfeld::wählen() {
     for (Element* anderes : fenster().elemente()) {
-        if (anderes == this || anderes->art() != Elementart::Option || anderes->Name() != Name()) continue;
+        if (anderes == this || anderes->art() != Elementart::Option) continue;
         auto& feld = static_cast<Optionsfeld&>(*anderes);
-        if (feld.wert_) {
+        if (feld.Gruppe == Gruppe && feld.wert_) {
             feld.wert_ = false;
             feld.melden(Änderung_Wert);
         }
@@ -120,6 +120,17 @@ void Balken::wert(int neu) {
 void Balken::Startwerte_setzen() {
     Element::Startwerte_setzen();
     wert_ = 0;
+}
+
+void Bildfläche::linien(std::vector<Linie> neue) {
+    if (linien_ == neue) return;
+    linien_ = std::move(neue);
+    melden(Änderung_Wert);
+}
+
+void Bildfläche::Startwerte_setzen() {
+    Element::Startwerte_setzen();
+    linien_.clear();
 }
 
 }  // namespace tonkartei

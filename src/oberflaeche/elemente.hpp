@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <vector>
 
 #include "oberflaeche/element.hpp"
 
@@ -49,11 +50,13 @@ private:
     bool wert_ = false, start_ = false;
 };
 
-// Option buttons of the same name in a window are one group.
+// Option buttons of one group in a window exclude each other.
 class Optionsfeld : public Element {
 public:
     Optionsfeld(Fenster& f, Text name, Text beschriftung = {}, int index = ohne_Index)
-        : Element(f, Elementart::Option, std::move(name), std::move(beschriftung), index) {}
+        : Element(f, Elementart::Option, std::move(name), std::move(beschriftung), index), Gruppe(Name()) {}
+    // Those of the same name, unless told otherwise.
+    Text Gruppe;
     bool wert() const noexcept { return wert_; }
     // Chooses it, clears the others of its group, raises Klick even when it was chosen already. There is no unchoosing.
     void wählen();
@@ -143,13 +146,22 @@ public:
         : Element(f, Elementart::Balken, std::move(name), {}, index) {}
     int wert() const noexcept { return wert_; }  // 0 to 100
     void wert(int neu);
+    // A bar of a chart: filled with its colour from end to end, its length tells.
+    bool Diagramm = false;
     void Startwerte_setzen() override;
 
 private:
     int wert_ = 0;
 };
 
-// Picture of the program, by its name.
+// Twips in the control.
+struct Linie {
+    int x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+    Farbe farbe = Farbe_Schwarz;
+    bool operator==(const Linie&) const = default;
+};
+
+// Picture of the program, by its name, or a ground for lines; lines that join are one stroke.
 class Bildfläche : public Element {
 public:
     Bildfläche(Fenster& f, Text name, Text bild, int index = ohne_Index)
@@ -157,6 +169,14 @@ public:
     Text Bild;
     Größe Wunsch{720, 720};
     bool eingerahmt = false;  // on a small panel of its own
+    // A fine grid behind the lines; 0 none.
+    int Rasterspalten = 0, Rasterzeilen = 0;
+    const std::vector<Linie>& linien() const noexcept { return linien_; }
+    void linien(std::vector<Linie> neue);
+    void Startwerte_setzen() override;
+
+private:
+    std::vector<Linie> linien_;
 };
 
 // Tray symbol: Klick is its left button, Rechtsklick its right one. Hidden at first.

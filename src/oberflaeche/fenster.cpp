@@ -67,9 +67,15 @@ void Fenster::verstecken() {
 }
 
 bool Fenster::entladen(Schließgrund grund) {
-    if (!geladen_ || schließt_) return true;
+    if (!geladen_) return true;
+    if (schließt_) {
+        // A closing by hand is asking its own question. Whatever comes of it, an end from outside is not refused.
+        außen_verlangt_ = außen_verlangt_ || grund == Schließgrund::außen;
+        return true;
+    }
     const Während schließt(schließt_);
-    if (!beim_Schließen(grund) && grund != Schließgrund::außen) return false;
+    außen_verlangt_ = grund == Schließgrund::außen;
+    if (!beim_Schließen(grund) && !außen_verlangt_) return false;
     beim_Entladen();
     geladen_ = false;
     sichtbar_ = false;

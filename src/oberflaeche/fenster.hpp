@@ -43,6 +43,8 @@ public:
     void verstecken();
     // Closes it: asks beim_Schließen, then unloads. False when the closing was refused. An unloaded window says true.
     bool entladen(Schließgrund grund = Schließgrund::Programm);
+    // The closing that is under way cannot be refused: the end came from outside, at once or while it was asking.
+    bool Ende_von_außen() const noexcept { return schließt_ && außen_verlangt_; }
     // What the close box does.
     bool schließen(Schließgrund grund) { return entladen(grund); }
     void nach_vorn();
@@ -118,7 +120,7 @@ private:
     std::unique_ptr<Anordnung> anordnung_;
     Bereich lage_{};
     bool geladen_ = false, sichtbar_ = false, modal_ = false, aktiv_ = true, immer_oben_ = false, startwerte_da_ = false;
-    bool ordnet_ = false, schließt_ = false;
+    bool ordnet_ = false, schließt_ = false, außen_verlangt_ = false;
     Fensterzustand zustand_ = Fensterzustand::normal;
 };
 

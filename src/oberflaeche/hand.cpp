@@ -51,6 +51,19 @@ void Knopf_drücken(Element* knopf) {
     if (knopf != nullptr && knopf->bedienbar()) klicken(*knopf);
 }
 
+// The tab whose caption has the access key.
+void Tab_öffnen(Fenster& fenster, const Text& zeichen) {
+    for (Element* e : fenster.elemente()) {
+        if (e->art() != Elementart::Reiter || !e->bedienbar()) continue;
+        auto& reiter = static_cast<Reiter&>(*e);
+        for (std::size_t tab = 0; tab < reiter.tabs().size(); ++tab) {
+            if (zeichen.empty() || Zugriffszeichen(reiter.tabs()[tab]) != groß(zeichen)) continue;
+            wählen(reiter, static_cast<int>(tab));
+            return;
+        }
+    }
+}
+
 void tippen(Element& element, const Taste& taste) {
     switch (element.art()) {
         case Elementart::Eingabe: {
@@ -128,6 +141,8 @@ void Taste_drücken(Element& element, Taste taste) {
                     klicken(*ziel);
                 else
                     fokussieren(*ziel);
+            } else {
+                Tab_öffnen(fenster, taste.zeichen);
             }
             break;
         case Taste::Art::Löschen:
@@ -141,9 +156,9 @@ void Taste_drücken(Element& element, Taste taste) {
     }
 }
 
-void Maus_bewegen(Element& element) {
+void Maus_bewegen(Element& element, int x, int y) {
     if (element.bedienbar())
-        element.Mausbewegung();
+        element.Mausbewegung(x, y);
     else
         element.fenster().Mausbewegung();
 }

@@ -25,7 +25,7 @@ void schieben(Element& element, int wert);
 // default and cancel button, arrows move a choice, Alt+x an access key, characters go into text fields).
 void Taste_drücken(Element& element, Taste taste);
 // The mouse moves over the control; one that is disabled is like the free ground around it.
-void Maus_bewegen(Element& element);
+void Maus_bewegen(Element& element, int x = 0, int y = 0);
 void ablegen(Element& quelle, Element& ziel);
 void Dateien_ablegen(Element& ziel, const std::vector<Text>& pfade);
 // The control that an access key of the window's captions means, or null.

@@ -20,6 +20,7 @@ inline constexpr std::size_t längster_Pfad = 65535;
 
 // The folder with a separator at its end; an empty path stays empty.
 Text mit_Trenner(const Text& pfad);
+Text ohne_Trenner(Text pfad);
 // What follows the last separator, and what stands up to it (separator included).
 Text Dateiname_von(const Text& pfad);
 Text Ordner_von(const Text& pfad);
@@ -74,6 +75,9 @@ public:
 
     // 53 no source, 58 the target exists, 74 the target is on another volume, 75 one of them is open.
     virtual void umbenennen(const Text& von, const Text& nach) = 0;
+    // The same onto a file that exists: at every instant its name stands for the one or for the other. 75 also when both
+    // are one file, or a folder.
+    virtual void ersetzen(const Text& von, const Text& nach) = 0;
     // A file. 53 not found, 70 open or refused.
     virtual void löschen(const Text& pfad) = 0;
     // 75 when it exists already or cannot be made, 76 when the parent is missing.

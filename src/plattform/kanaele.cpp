@@ -8,6 +8,7 @@
 
 #include "grundlagen/codepage.hpp"
 #include "grundlagen/fehler.hpp"
+#include "plattform/offene_datei.hpp"
 
 namespace tonkartei {
 namespace {
@@ -15,20 +16,6 @@ namespace {
 constexpr std::size_t Puffergröße = 65536;
 constexpr std::size_t höchste_Nummer = 255;
 constexpr std::size_t längste_Zahl = 20;  // digits and sign of 64 bits
-
-bool nur_ASCII(std::string_view bytes) {
-    std::size_t i = 0;
-    for (; i + 8 <= bytes.size(); i += 8) {
-        std::uint64_t acht;
-        std::memcpy(&acht, bytes.data() + i, 8);
-        if (acht & 0x8080808080808080U) return false;
-    }
-    for (; i < bytes.size(); ++i)
-        if (static_cast<unsigned char>(bytes[i]) >= 0x80) return false;
-    return true;
-}
-
-Text als_Text(std::string_view bytes) { return nur_ASCII(bytes) ? Text(bytes) : aus_1252(bytes); }
 
 std::string_view ohne_Blanks_dahinter(std::string_view bytes) {
     while (!bytes.empty() && bytes.back() == ' ') bytes.remove_suffix(1);
@@ -40,10 +27,15 @@ std::string_view ohne_Blanks_dahinter(std::string_view bytes) {
 // Reading: `puffer[stelle, ende)` is what has been read ahead, and the file goes on at byte `position`. Writing: what stands
 // before `ende` waits to be written to byte `position`.
 struct Kanäle::Kanal {
-    Dateisystem::Griff griff = 0;
-    bool schreibend = false;
+    Kanal(Dateisystem& dateien, const Text& pfad_, bool schreibend_)
+        : datei(dateien, pfad_, schreibend_ ? Dateimodus::schreiben : Dateimodus::lesen),
+          schreibend(schreibend_),
+          pfad(pfad_) {}
+
+    Offene_Datei datei;
+    const bool schreibend;
+    const Text pfad;
     bool ausgelesen = false;
-    Text pfad;
     std::string puffer;
     std::size_t stelle = 0;
     std::size_t ende = 0;
@@ -51,20 +43,14 @@ struct Kanäle::Kanal {
 };
 
 Kanäle::Kanäle(Dateisystem& dateien) : dateien_(dateien) {}
-
-Kanäle::~Kanäle() {
-    for (std::size_t i = 0; i < kanäle_.size(); ++i) aufgeben(static_cast<int>(i) + 1);
-}
+Kanäle::~Kanäle() = default;
 
 int Kanäle::öffnen(const Text& pfad, bool schreibend) {
     const auto frei = std::find(kanäle_.begin(), kanäle_.end(), nullptr);
     const auto platz = static_cast<std::size_t>(frei - kanäle_.begin());
     if (platz == höchste_Nummer) throw Dateifehler(67, pfad);
-    auto kanal = std::make_unique<Kanal>();
-    kanal->schreibend = schreibend;
-    kanal->pfad = pfad;
-    if (frei == kanäle_.end()) kanäle_.emplace_back();
-    kanal->griff = dateien_.öffnen(pfad, schreibend ? Dateimodus::schreiben : Dateimodus::lesen);
+    auto kanal = std::make_unique<Kanal>(dateien_, pfad, schreibend);
+    if (platz == kanäle_.size()) kanäle_.emplace_back();
     kanäle_[platz] = std::move(kanal);
     return static_cast<int>(platz) + 1;
 }
@@ -82,15 +68,11 @@ Kanäle::Kanal& Kanäle::Kanal_von(int nummer) {
     return *kanäle_[static_cast<std::size_t>(nummer) - 1];
 }
 
-// Called once a line: the failure is kept apart, so that the way without one is a few instructions.
 Kanäle::Kanal& Kanäle::mit_Richtung(int nummer, bool schreibend) {
-    const auto platz = static_cast<std::size_t>(nummer) - 1;
-    if (platz < kanäle_.size() && kanäle_[platz] && kanäle_[platz]->schreibend == schreibend) [[likely]]
-        return *kanäle_[platz];
-    falsch(nummer);
+    Kanal& kanal = Kanal_von(nummer);
+    if (kanal.schreibend != schreibend) throw Dateifehler(54, kanal.pfad);
+    return kanal;
 }
-
-void Kanäle::falsch(int nummer) { throw Dateifehler(54, Kanal_von(nummer).pfad); }
 
 Kanäle::Kanal& Kanäle::zum_Lesen(int nummer) { return mit_Richtung(nummer, false); }
 Kanäle::Kanal& Kanäle::zum_Schreiben(int nummer) { return mit_Richtung(nummer, true); }
@@ -99,19 +81,14 @@ void Kanäle::schließen(int nummer, bool sichern) {
     Kanal& kanal = Kanal_von(nummer);
     if (kanal.schreibend) {
         ausschreiben(kanal);
-        if (sichern) dateien_.sichern(kanal.griff);
+        if (sichern) kanal.datei.sichern();
     }
     const auto abgelöst = std::exchange(kanäle_[static_cast<std::size_t>(nummer) - 1], nullptr);
-    dateien_.schließen(abgelöst->griff);
+    abgelöst->datei.schließen();
 }
 
 void Kanäle::aufgeben(int nummer) noexcept {
-    if (!offen(nummer)) return;
-    const auto abgelöst = std::exchange(kanäle_[static_cast<std::size_t>(nummer) - 1], nullptr);
-    try {
-        dateien_.schließen(abgelöst->griff);
-    } catch (const Dateifehler&) {  // the contents are given up anyway
-    }
+    if (offen(nummer)) kanäle_[static_cast<std::size_t>(nummer) - 1].reset();
 }
 
 // More bytes behind those not yet consumed, which move to the front; false at the end of the file.
@@ -123,17 +100,11 @@ bool Kanäle::nachfüllen(Kanal& kanal) {
     kanal.ende = rest;
     // A line longer than the buffer doubles it, so that its bytes are not copied again and again.
     if (kanal.puffer.size() - rest < Puffergröße / 2) kanal.puffer.resize(std::max(Puffergröße, 2 * kanal.puffer.size()));
-    const std::size_t gelesen =
-        dateien_.lesen(kanal.griff, kanal.position, std::span<char>(kanal.puffer).subspan(kanal.ende));
+    const std::size_t gelesen = kanal.datei.lesen(kanal.position, std::span<char>(kanal.puffer).subspan(kanal.ende));
     kanal.position += gelesen;
     kanal.ende += gelesen;
     kanal.ausgelesen = gelesen == 0;
     return gelesen > 0;
-}
-
-bool Kanäle::am_Ende(int nummer) {
-    Kanal& kanal = zum_Lesen(nummer);
-    return kanal.stelle == kanal.ende && !nachfüllen(kanal);
 }
 
 // The view is good until the next reading from the channel.
@@ -200,8 +171,8 @@ std::string_view Kanäle::Satz(Kanal& kanal, std::size_t höchstens) {
     return wert;
 }
 
-Text Kanäle::lese_Zeile(int nummer) { return als_Text(Zeile(zum_Lesen(nummer))); }
-Text Kanäle::lese_Wert(int nummer) { return als_Text(Wert(zum_Lesen(nummer))); }
+Text Kanäle::lese_Zeile(int nummer) { return aus_1252(Zeile(zum_Lesen(nummer))); }
+Text Kanäle::lese_Wert(int nummer) { return aus_1252(Wert(zum_Lesen(nummer))); }
 std::optional<std::string_view> Kanäle::nächster_Rohwert(int nummer, std::size_t höchstens) {
     Kanal& kanal = zum_Lesen(nummer);
     if (!am_Wert(kanal)) return std::nullopt;
@@ -217,7 +188,7 @@ Byte Kanäle::lese_Byte(int nummer) { return gerundet_Byte(Zahlwert(Wert(zum_Les
 
 void Kanäle::ausschreiben(Kanal& kanal) {
     if (kanal.ende == 0) return;
-    dateien_.schreiben(kanal.griff, kanal.position, std::span<const char>(kanal.puffer.data(), kanal.ende));
+    kanal.datei.schreiben(kanal.position, std::span<const char>(kanal.puffer.data(), kanal.ende));
     kanal.position += kanal.ende;
     kanal.ende = 0;
 }
@@ -267,7 +238,7 @@ void Kanäle::schreibe_Bytes(int nummer, std::string_view bytes) {
     Kanal& kanal = zum_Schreiben(nummer);
     ausschreiben(kanal);
     if (bytes.empty()) return;
-    dateien_.schreiben(kanal.griff, kanal.position, std::span<const char>(bytes.data(), bytes.size()));
+    kanal.datei.schreiben(kanal.position, std::span<const char>(bytes.data(), bytes.size()));
     kanal.position += bytes.size();
 }
 

@@ -37,8 +37,6 @@ public:
     void aufgeben(int nummer) noexcept;
     bool offen(int nummer) const;
 
-    // True when nothing is left to read.
-    bool am_Ende(int nummer);
     // A whole line, up to CR LF or the end of the file. A CR or LF that stands alone belongs to the line, so all
     // 256 bytes come back in a name.
     Text lese_Zeile(int nummer);
@@ -67,7 +65,6 @@ private:
     struct Kanal;
     Kanal& Kanal_von(int nummer);
     Kanal& mit_Richtung(int nummer, bool schreibend);
-    [[noreturn]] void falsch(int nummer);
     Kanal& zum_Lesen(int nummer);
     Kanal& zum_Schreiben(int nummer);
     int öffnen(const Text& pfad, bool schreibend);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 #include "grundlagen/text.hpp"
@@ -34,6 +35,10 @@ struct Shell_Ergebnis {
     int Rückgabe = 0;          // 0 success
     bool abgebrochen = false;  // by the user
 };
+
+enum class Shell_Antwort { Ja, Nein, Abbrechen };
+// Asks the user, with the three answers as buttons.
+using Shell_Frage = std::function<Shell_Antwort(const Text& Titel, const Text& Frage)>;
 
 class Shell {
 public:

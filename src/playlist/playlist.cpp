@@ -48,9 +48,7 @@ Playlist::Playlist(Haus& haus, const M3U& m3u, Listenbereich& liste, WinAmp_Star
 // A line of the albums carries no song.
 Long Playlist::gezogenes_Lied(const Element& quelle) const {
     const auto& liste = datenbankliste_;
-    if (&quelle != &liste.Liste || liste.Datenbank_Modus.wert() != 0 || !modell_.Datenbank_offen) return 0;
-    const Long nr = liste.gewähltes_Lied();
-    return nr <= modell_.Anzahl_Lieder ? nr : 0;
+    return &quelle == &liste.Liste && liste.Datenbank_Modus.wert() == 0 ? liste.gewähltes_Lied() : 0;
 }
 
 std::vector<Menüzeile> Playlist::Tabelle() {
@@ -142,9 +140,9 @@ void Playlist::beim_Laden() {
 
 bool Playlist::beim_Schließen(Schließgrund grund) {
     if (grund == Schließgrund::Hand && !Playlist_gespeichert_) {
-        modell_.Meldung = "Die aktuelle Playlist ist noch nicht gespeichert!" + Text(CRCR) +
-                          "Wollen sie diese noch vor dem beenden speichern?";
-        const Antwort antwort = ansicht().fragen_oder_abbrechen("Playlist beenden", modell_.Meldung);
+        const Antwort antwort = ansicht().fragen_oder_abbrechen(
+            "Playlist beenden", "Die aktuelle Playlist ist noch nicht gespeichert!" + Text(CRCR) +
+                                    "Wollen sie diese noch vor dem beenden speichern?");
         if (antwort == Antwort::Abbrechen) return false;
         // On Yes the window closes even where nothing was saved in the end.
         if (antwort == Antwort::Ja) speichern();

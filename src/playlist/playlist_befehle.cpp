@@ -93,8 +93,9 @@ void Playlist::aktuelles_löschen() {
 void Playlist::alles_löschen() {
     if (Liste.Anzahl() == 0) return;
     if (Liste.Anzahl() > 1) {
-        modell_.Meldung = "Wollen sie wirklich alle " + Zahltext(Liste.Anzahl()) + " Lieder aus der Playliste löschen?";
-        if (!ansicht().fragen("Lieder löschen", modell_.Meldung)) return;
+        if (!ansicht().fragen("Lieder löschen",
+                              "Wollen sie wirklich alle " + Zahltext(Liste.Anzahl()) + " Lieder aus der Playliste löschen?"))
+            return;
     }
     setzen({});
     Playlist_gespeichert_ = false;
@@ -139,12 +140,11 @@ void Playlist::Dateigröße() {
     for (const Long nr : Nummern())
         if (vorhanden(nr)) KByte += modell_.Lieder[nr].Größe;
     const auto MByte = static_cast<long long>(std::nearbyint(static_cast<double>(KByte) / 1024.0));
-    modell_.Meldung =
-        "Die Lieder in der Liste benötigen " + Zahl_mit_Punkten(KByte) + " kB (" + Zahltext(MByte) + " MB) Speicherplatz.";
     // The box would lie behind a window that is always in front.
     const bool oben = immer_oben();
     immer_oben(false);
-    ansicht().informieren("Dateigröße der Playlist", modell_.Meldung);
+    ansicht().informieren("Dateigröße der Playlist", "Die Lieder in der Liste benötigen " + Zahl_mit_Punkten(KByte) +
+                                                         " kB (" + Zahltext(MByte) + " MB) Speicherplatz.");
     immer_oben(oben);
 }
 
@@ -175,16 +175,15 @@ void Playlist::öffnen() {
     try {
         inhalt = m3u_.lesen(datei);
     } catch (const Dateifehler& fehler) {
-        modell_.Meldung = fehler.mit_Pfad(datei);
-        ansicht().informieren(Programmtitel, modell_.Meldung);
+        ansicht().informieren(Programmtitel, fehler.mit_Pfad(datei));
         return;
     }
     if (!inhalt.Nummern.empty()) setzen(inhalt.Nummern);
     const int anzahl = Liste.Anzahl();
     // A list without a song of the collection leaves the lines as they were, and their number is told all the same.
-    modell_.Meldung = (anzahl == 1 ? Text("Es wurde 1 Lied") : "Es wurden " + Zahltext(anzahl) + " Lieder") +
-                      " aus dieser Datenbank in der Playlist gefunden.";
-    ansicht().informieren("Playlist öffnen", modell_.Meldung);
+    ansicht().informieren("Playlist öffnen",
+                          (anzahl == 1 ? Text("Es wurde 1 Lied") : "Es wurden " + Zahltext(anzahl) + " Lieder") +
+                              " aus dieser Datenbank in der Playlist gefunden.");
     Playlist_gespeichert_ = anzahl == inhalt.Zeilen;
 }
 

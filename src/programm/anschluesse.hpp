@@ -13,11 +13,14 @@ class Lied_Befehle;
 class Playlist;
 class Sitzung;
 struct Albenraum;
+struct Ausgaberaum;
 struct Austausch;
 struct Datenbankraum;
+struct Displayraum;
 struct Hinzufügen;
 struct Liedautomatik;
 struct Liederraum;
+struct Statistikraum;
 struct Wiedergabe;
 
 // The window's own commands and settings.
@@ -30,5 +33,8 @@ void Playlist_anschließen(Playlist& playlist, Liedautomatik& automatik, Sitzung
 void Albenverwaltung_anschließen(Albenverwaltung& verwaltung, Liederraum& lieder, Tonkartei& fenster);
 void Austausch_anschließen(Austausch& austausch, Playlist& playlist, Tonkartei& fenster);
 void Lieder_anschließen(Liederraum& lieder, Lied_Befehle& befehle, const Haus& haus, Playlist& playlist, Tonkartei& fenster);
+void Statistik_anschließen(Statistikraum& statistik, Tonkartei& fenster);
+void Ausgabe_anschließen(Ausgaberaum& ausgabe, Tonkartei& fenster);
+void Display_anschließen(Displayraum& display, Tonkartei& fenster);
 
 }  // namespace tonkartei

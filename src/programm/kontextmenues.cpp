@@ -50,6 +50,7 @@ std::vector<Menüzeile> Kontextmenüs::Tabelle() {
     for (const auto& eintrag : haupt_.Menüleiste.Leiste()("UMP_aktuelles").einträge())
         lied.push_back(eintrag->ist_Strich() ? Menüzeile{eintrag->Name(), "-", ohne_Index, nullptr, {}}
                                              : wie(eintrag->Name()));
+    lied.push_back(wie("ASCII_Datei", "Liedernamen in Datei ausgeben"));
 
     std::vector<Menüzeile> schemas;
     for (int n = 1; n <= Schemas_maximal; ++n)

@@ -4,6 +4,7 @@
 #include "oberflaeche/qt/ansicht_qt.hpp"
 #include "oberflaeche/qt/qt_umgebung.hpp"
 #include "plattform/linux/dateisystem_linux.hpp"
+#include "plattform/linux/endesignale.hpp"
 #include "plattform/linux/fenstersystem_linux.hpp"
 #include "plattform/linux/papierkorb_freedesktop.hpp"
 #include "plattform/linux/rechner_linux.hpp"
@@ -12,36 +13,29 @@
 #include "plattform/linux/spielerort.hpp"
 #include "plattform/linux/xdg.hpp"
 #include "programm/programm.hpp"
-
-namespace {
+#include "programm/shellfrage.hpp"
 
 using namespace tonkartei;
-
-// The shell asks with the program's own boxes.
-Shell_Antwort fragen(Ansicht& ansicht, const Text& titel, const Text& text) {
-    switch (ansicht.fragen_oder_abbrechen(titel, text, "shell")) {
-        case Antwort::Ja: return Shell_Antwort::Ja;
-        case Antwort::Nein: return Shell_Antwort::Nein;
-        default: return Shell_Antwort::Abbrechen;
-    }
-}
-
-}  // namespace
 
 int main(int argc, char** argv) {
     if (!Qt_Umgebung::Bildschirm_da()) {
         std::fputs("Tonkartei: kein Bildschirm da (weder DISPLAY noch WAYLAND_DISPLAY ist gesetzt).\n", stderr);
         return 1;
     }
+    // Before anything starts a thread, which would die of a signal in our place.
+    const Endesignale signale;
     const Qt_Umgebung qt(argc, argv);
     Ansicht_Qt ansicht;
+    ansicht.bei_Lesbarkeit(signale.Deskriptor(), [&] {
+        signale.abholen();
+        ansicht.Sitzung_beenden();
+    });
 
     Dateisystem_Linux dateien;
     Registrierung_Linux registrierung(Einstellungsordner() + "einstellungen.reg");
     Fenstersystem_Linux fenster;
     Papierkorb_Freedesktop papierkorb(dateien);
-    Shell_Linux shell(dateien, papierkorb,
-                      [&ansicht](const Text& titel, const Text& text) { return fragen(ansicht, titel, text); });
+    Shell_Linux shell(dateien, papierkorb, Frage_über(ansicht));
     Rechner_Linux rechner;
     if (const Text spieler = Spieler_Pfad(); !spieler.empty()) WinAmp_Verknüpfung_anlegen(rechner.WinAmp_Vorgabe(), spieler);
 

@@ -35,7 +35,7 @@ void Mausmarkierung::anschließen() {
             if (++nummer == Fernsteuerung::erste_Mausnummer) nummer = Fernsteuerung::letzte_Mausnummer + 1;
             element->Mausnummer = nummer;
         }
-        element->Mausbewegung.verbinden([this, element] { Mousemove_Effekt(element->Mausnummer); });
+        element->Mausbewegung.verbinden([this, element](int, int) { Mousemove_Effekt(element->Mausnummer); });
     }
     fenster_.Mausbewegung.verbinden([this] { Mousemove_Effekt(0); });
 }

@@ -56,8 +56,7 @@ void Playlist_Anschluss::folgen() {
 }
 
 void Playlist_Anschluss::add_to_Playlist(Long Nr) {
-    // A special list may hold numbers of a collection that is no longer open.
-    if (!haus_.modell.Datenbank_offen || Nr < 1 || Nr > haus_.modell.Anzahl_Lieder) return;
+    if (Nr < 1) return;
     playlist_.zeigen_falls_nötig();
     playlist_.add_Lied(Nr, true);
 }
@@ -77,30 +76,19 @@ void Playlist_Anschluss::zeige_Playlist() {
 
 void Playlist_anschließen(Playlist& playlist, Liedautomatik& automatik, Sitzung& sitzung, Hinzufügen& hinzufügen) {
     sitzung.geladen.verbinden([&playlist](bool) { playlist.aktualisieren(); });
-    automatik.Zufallsliste.Playlist_leeren = [&playlist] {
+    automatik.Zufalls_Playlist.Playlist_leeren.verbinden([&playlist] {
         playlist.zeigen_falls_nötig();
         playlist.Neu();
-    };
-    automatik.Zufallsliste.in_Playlist = [&playlist](const std::vector<Long>& lieder) {
+    });
+    automatik.Zufalls_Playlist.in_Playlist.verbinden([&playlist](const std::vector<Long>& lieder) {
         playlist.add_Lieder(lieder);
         playlist.malen();
-    };
-    // The songs come from the collection that is open now, as if it were another one: its categories are the source's.
+    });
     playlist.Datenbank_vorbereiten = [&hinzufügen](const std::vector<Playlist::Auszug>& lieder) {
-        hinzufügen.zuordnung.eigene_als_Quelle();
-        hinzufügen.liste.Reset();
-        for (const auto& lied : lieder) {
-            hinzufügen.liste.add_MP3_Tag(lied.Name);
-            hinzufügen.liste.add_Lied(lied.Pfad, lied.Kategorie);
-            hinzufügen.liste.add_MP3_Größe(lied.Größe);
-        }
+        hinzufügen.auszug.beginnen();
+        for (const auto& lied : lieder) hinzufügen.auszug.aufnehmen(lied.Name, lied.Pfad, lied.Kategorie, lied.Größe);
     };
-    playlist.Datenbank_anlegen = [&sitzung, &hinzufügen] {
-        if (sitzung.Datenbank_erstellen(false, true))
-            hinzufügen.liste.activate(Quelle_Datenbank, false);
-        else
-            hinzufügen.liste.entladen();
-    };
+    playlist.Datenbank_anlegen = [&hinzufügen] { hinzufügen.auszug.anlegen(); };
 }
 
 }  // namespace tonkartei

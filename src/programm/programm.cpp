@@ -37,6 +37,9 @@ void Programm::Teile::anschließen() {
     Lieder_anschließen(lieder_, lied_befehle_, haus_, playlist_, fenster_);
     Albenverwaltung_anschließen(albenverwaltung_, lieder_, fenster_);
     Austausch_anschließen(austausch_, playlist_, fenster_);
+    Statistik_anschließen(statistik_, fenster_);
+    Ausgabe_anschließen(ausgabe_, fenster_);
+    Display_anschließen(display_, fenster_);
 }
 
 void Programm::Teile::starten() {
@@ -87,7 +90,7 @@ bool Programm::Teile::darf_schließen(Schließgrund grund) {
     const bool beenden = haus_.ansicht.fragen(
         "Programm beenden",
         "Wollen sie das Prorgamm wirklich beenden, ohne das die alten Informationen gespeichert wurden?");
-    if (beenden || von_außen) datenbank_.sitzung.ungespeichert_verlassen();
+    if (beenden || fenster_.Ende_von_außen()) datenbank_.sitzung.ungespeichert_verlassen();
     return beenden;
 }
 
@@ -105,6 +108,9 @@ void Programm::Teile::wird_geschlossen() {
     haus_.einstellungen.Kategorien = fenster_.Kategorien.Kategorien_Maske();
     playlist_.Hauptfenster_schließt();
     einstellungen_.schreiben();
+    statistik_.fenster.entladen();
+    ausgabe_.dialog.entladen();
+    display_.setup.entladen();
     splash_.entladen();
     infofenster_.entladen();
     kategorien_.wahl.entladen();

@@ -3,8 +3,10 @@
 
 #include "alben/albenraum.hpp"
 #include "albenverwaltung/albenverwaltung.hpp"
+#include "ausgabe/ausgaberaum.hpp"
 #include "austausch/austausch.hpp"
 #include "datenbank/datenbankraum.hpp"
+#include "display/displayraum.hpp"
 #include "kategorien/kategorienraum.hpp"
 #include "lieder/liederraum.hpp"
 #include "playlist/playlist.hpp"
@@ -18,6 +20,7 @@
 #include "programm/splash.hpp"
 #include "programm/startparameter.hpp"
 #include "programm/tonkartei.hpp"
+#include "statistik/statistikraum.hpp"
 #include "wiedergabe/wiedergabe.hpp"
 #include "wiedergabe/zufall/liedautomatik.hpp"
 
@@ -45,8 +48,11 @@ private:
     Liedautomatik automatik_{haus_, alben_.start, wiedergabe_, fenster_.bereiche()};
     Playlist playlist_{haus_, datenbank_.m3u, fenster_.Lieder, wiedergabe_.Starter};
     Liederraum lieder_{datenbank_, alben_, kategorien_, wiedergabe_, fenster_.Lieder};
-    Albenverwaltung albenverwaltung_{datenbank_, alben_, {fenster_.Lieder, alben_.start, playlist_, wiedergabe_.Zählung}};
+    Albenverwaltung albenverwaltung_{datenbank_, alben_, {fenster_.Lieder, alben_.start, playlist_, wiedergabe_.Abspieler}};
     Austausch austausch_{datenbank_, kategorien_, lieder_, wiedergabe_, fenster_.Lieder};
+    Statistikraum statistik_{haus_, wiedergabe_, playlist_};
+    Ausgaberaum ausgabe_{haus_, fenster_.Lieder};
+    Displayraum display_{haus_};
 
     Splash splash_{datenbank_};
     Infofenster infofenster_{haus_.ansicht, haus_.modell};

@@ -29,11 +29,7 @@ Tonkartei::Tonkartei(Haus& haus, Albenraum& alben, Kategorienraum& kategorien, W
     Kategorien.angezeigtes_Lied = [this] { return Lieder.angezeigtes_Lied(); };
     Kategorien.Auswahl_geändert.verbinden([this] { Lieder.aktualisiere_Liste(); });
     Kategorien.Suche_fokussieren.verbinden([this] { Lieder.Schnellsuche_fokussieren(); });
-    Fernsteuerung.Zufallslied_gewünscht.verbinden([this] {
-        if (Wiedergabe.Zufallslied_starten.aktiv()) Wiedergabe.Zufallslied_starten.Klick();
-    });
     Fernsteuerung.Fokus_frei.verbinden([this] { Lieder.Schnellsuche_fokussieren(); });
-    Lieder.Start_gewünscht.verbinden([this] { Wiedergabe.Lied_starten.Klick(); });
 }
 
 Knoten Tonkartei::anordnung() {

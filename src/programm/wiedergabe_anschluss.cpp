@@ -45,14 +45,16 @@ void Wiedergabe_anschließen(Wiedergabe& wiedergabe, Liedautomatik& automatik, H
         else
             spieler.Hauptfenster_normal();
     });
-    fenster.Lieder.Lied_starten.verbinden([&zählung = wiedergabe.Zählung](Long nr) { zählung.starte_Lied(nr); });
+    fenster.Lieder.Lied_starten.verbinden([&spieler = wiedergabe.Abspieler](Long nr) { spieler.starte_Lied(nr); });
     wiedergabe.Zählung.gezählt.verbinden([&fenster](Long nr) { fenster.Lieder.Anzahl_auffrischen(nr); });
     wiedergabe.Starter.Liste_gestartet.verbinden([&fenster] {
         if (fenster.aktiv() && !fenster.Wiedergabe.Autoplay.wert()) fenster.Lieder.Schnellsuche_fokussieren();
     });
     wiedergabe.Takt.Anzeige_Schritt.verbinden([&fenster] { fenster.Fernsteuerung.anzeigen(); });
-    // Whatever box comes up while a player is being started counts as that start's failure.
-    haus.ansicht.Kasten.verbinden([&haus](const Text& text) { haus.modell.Meldung = text; });
+    fenster.Lieder.Start_gewünscht.verbinden([&start = automatik.Start] { start.Lied_starten(); });
+    fenster.Fernsteuerung.Zufallslied_gewünscht.verbinden([&fenster, &start = automatik.Start] {
+        if (fenster.Wiedergabe.Zufallslied_starten.aktiv()) start.Zufallslied_starten();
+    });
 
     Menü_anschließen(wiedergabe.Optionen, automatik.Optionen, haus.einstellungen, fenster);
     fenster.Menüleiste.Befehl("zeige_Random_Liste",

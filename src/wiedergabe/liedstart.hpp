@@ -5,30 +5,32 @@
 
 namespace tonkartei {
 
+class Abspieler;
 class Listenbereich;
 class Listenfolge;
-class Spielzählung;
 class Wiedergabebereich;
 class Zufallslied;
 
 class Liedstart {
 public:
     Liedstart(Wiedergabebereich& bereich, Listenbereich& lieder, Listenfolge& folge, Zufallslied& zufall,
-              Spielzählung& zählung);
+              Abspieler& spieler);
 
     void Lied_starten();
     // While autoplay goes in order, the button of chance means next.
     void Zufallslied_starten();
+    // On to the next song in the order of the list, around its end. False when there is nothing to go on to.
+    bool nächstes_starten();
 
 private:
-    // 0 when the choice moved but nothing is to be played.
+    // The button's next song; 0 when the choice moved but nothing is to be played.
     Long nächstes_Lied();
 
     Wiedergabebereich& bereich_;
     Listenbereich& lieder_;
     Listenfolge& folge_;
     Zufallslied& zufall_;
-    Spielzählung& zählung_;
+    Abspieler& spieler_;
 };
 
 }  // namespace tonkartei

@@ -3,12 +3,11 @@
 #include "datenbank/einstellungen.hpp"
 #include "datenbank/modell.hpp"
 #include "plattform/rechner.hpp"
-#include "wiedergabe/winamp/winamp_starter.hpp"
 
 namespace tonkartei {
 
-Spielzählung::Spielzählung(Modell& modell, const Einstellungen& einstellungen, WinAmp_Starter& starter, Rechner& rechner)
-    : modell_(modell), einstellungen_(einstellungen), starter_(starter), rechner_(rechner) {}
+Spielzählung::Spielzählung(Modell& modell, const Einstellungen& einstellungen, Rechner& rechner)
+    : modell_(modell), einstellungen_(einstellungen), rechner_(rechner) {}
 
 long long Spielzählung::Sekunde_des_Tages() const {
     const Zeitpunkt jetzt = rechner_.jetzt();
@@ -20,11 +19,10 @@ void Spielzählung::Startwerte_setzen() {
     Letzte_Startzeit = Sekunde_des_Tages() - (einstellungen_.Anzahl_Zeit + 1LL);
 }
 
-void Spielzählung::starte_Lied(Long Nr) {
-    if (!starter_.starte_WinAmp_Datei(modell_.Lied_Pfad(Nr))) return;
+void Spielzählung::zählen(Long Nr) {
     if (Letztes_Lied > 0) {
-        // The clock is read only now: the second that the start took belongs to the song before. Just after midnight the
-        // limit lies below zero and does not wrap.
+        // The clock is read only now, after the start: the second that it took belongs to the song before. Just after
+        // midnight the limit lies below zero and does not wrap.
         const long long Grenze = Sekunde_des_Tages() - einstellungen_.Anzahl_Zeit;
         Long& anzahl = modell_.Lieder[Letztes_Lied].Anzahl;
         if (Letzte_Startzeit > Grenze) anzahl = als_Long(anzahl - 1LL);

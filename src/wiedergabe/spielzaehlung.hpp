@@ -8,7 +8,6 @@
 namespace tonkartei {
 
 class Rechner;
-class WinAmp_Starter;
 struct Einstellungen;
 struct Modell;
 
@@ -17,7 +16,7 @@ inline constexpr int Gespielt_maximal = 100;
 // All of it lives as long as the program; another collection leaves it as it is, its numbers then mean other songs.
 class Spielzählung {
 public:
-    Spielzählung(Modell& modell, const Einstellungen& einstellungen, WinAmp_Starter& starter, Rechner& rechner);
+    Spielzählung(Modell& modell, const Einstellungen& einstellungen, Rechner& rechner);
 
     // Number of the song that was started last, 0 none in this run.
     Long Letztes_Lied = 0;
@@ -29,8 +28,8 @@ public:
 
     // As if the last song had been long enough ago; to be called once the settings are read.
     void Startwerte_setzen();
-    // The one way to play a song and count it. A song that cannot be started changes nothing.
-    void starte_Lied(Long Nr);
+    // The song has been started: it counts, and the one before it no more if that is less than `Anzahl_Zeit` ago.
+    void zählen(Long Nr);
 
     // A song's count has risen: its number, for whoever shows the count.
     Ereignis<Long> gezählt;
@@ -41,7 +40,6 @@ private:
 
     Modell& modell_;
     const Einstellungen& einstellungen_;
-    WinAmp_Starter& starter_;
     Rechner& rechner_;
 };
 

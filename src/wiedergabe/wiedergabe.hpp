@@ -2,6 +2,7 @@
 #pragma once
 
 #include "datenbank/abr_datei.hpp"
+#include "wiedergabe/abspieler.hpp"
 #include "wiedergabe/spielzaehlung.hpp"
 #include "wiedergabe/takt.hpp"
 #include "wiedergabe/winamp/fenstersuche.hpp"
@@ -20,13 +21,14 @@ struct Wiedergabe {
     Wiedergabe(const Wiedergabe&) = delete;
     Wiedergabe& operator=(const Wiedergabe&) = delete;
 
-    Winamp_Steuerung Steuerung;
+    WinAmp_Steuerung Steuerung;
     Fenstersuche Suche;
     WinAmp Spieler;
     WinAmp_Programm Programm;
     WinAmp_Starter Starter;
     tonkartei::Takt Takt;  // ticks when told to start; a start of the player runs it, too
     Spielzählung Zählung;
+    tonkartei::Abspieler Abspieler;
     ABR_Datei ABR;
     WinAmp_Optionen Optionen;
 };

@@ -9,10 +9,9 @@
 #include "datenbank/m3u.hpp"
 #include "datenbank/modell.hpp"
 #include "plattform/kanaele.hpp"
-#include "plattform/linux/dateisystem_linux.hpp"
-#include "probe/dateisystem_probe.hpp"
 #include "probe/rechner_probe.hpp"
 #include "probe/stumme_ansicht.hpp"
+#include "stoerfall.hpp"
 #include "testordner.hpp"
 
 namespace tonkartei {
@@ -30,9 +29,9 @@ struct Ansicht_Antwortend : Stumme_Ansicht {
 
 struct Albenbühne : testing::Test {
     Testordner ordner;
-    Dateisystem_Linux platte;
-    Störungen störungen{[] {}};
-    Dateisystem_Probe dateien{platte, störungen};
+    Störfall störfall;
+    Störungen& störungen = störfall.Störungen_;
+    Dateisystem& dateien = störfall.Dateien;
     Kanäle kanäle{dateien};
     Ansicht_Antwortend ansicht;
     Rechner_Probe rechner{{2026, 1, 15, 12, 0, 0}, ordner.pfad(), false};

@@ -1,4 +1,5 @@
-// The whole program in real time with the real player, which plays into nothing.
+// The whole program in real time with the real player, which plays into nothing. What takes time takes it at once: the
+// scenes run beside each other, each with a program and a player of its own.
 #include <signal.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -6,6 +7,7 @@
 #include <unistd.h>
 
 #include <cstring>
+#include <thread>
 
 #include "programm/buehne.hpp"
 #include "ton.hpp"
@@ -34,9 +36,8 @@ protected:
                  .umgebung = {"XDG_RUNTIME_DIR=" + ordner.pfad("lauf"), "XDG_STATE_HOME=" + ordner.pfad("zustand"),
                               "XDG_DATA_HOME=" + ordner.pfad("daten"), "TONKARTEI_TON=null"}});
     }
-    void TearDown() override {
+    ~Abspielen() override {
         if (b && b->bereit() != "ende") hand("klick Tonkartei.MP_Beenden");
-        b.reset();
     }
     // The own player as it shows itself; null when there is none.
     nlohmann::json spieler() {
@@ -57,12 +58,12 @@ protected:
         const auto s = spieler();
         return !s.is_null() && s["status"] == 1;
     }
-    // How often the songs were heard, "1 0 2".
+    // How often the songs were heard, "1 0 2 ".
     std::string Anzahlen() {
         std::string text;
-        for (int i = 0; i < static_cast<int>(b->zeilen("Tonkartei.Liste").size()); ++i) {
-            hand("wähle Tonkartei.Liste " + std::to_string(i));
-            text += (i > 0 ? " " : "") + b->text("Tonkartei.Anzahl");
+        for (const int nr : {1, 2, 3}) {
+            wähle(nr);
+            text += b->text("Tonkartei.Anzahl") + " ";
         }
         return text;
     }
@@ -86,92 +87,89 @@ protected:
     }
 };
 
-TEST_F(Abspielen, Autoplay_durch_drei_Lieder_und_zwei_tote_Spieler) {
-    lege(3, 2.5);
-    starte({"Random-Autoplay=False", "Anzahl-Zeit=1"});
-    hand("klick Tonkartei.Autoplay");
-    const auto gewählt = [&] { return b->zeige("Tonkartei.Liste")["gewählt"].get<int>(); };
-    for (const int zeile : {0, 1, 2}) EXPECT_TRUE(bald([&] { return gewählt() == zeile && spielt(); })) << zeile;
-    // A player that dies is none, not a stopped one: nothing follows, and after four ticks autoplay ends.
-    töten();
-    EXPECT_TRUE(bald([&] { return !b->zeige("Tonkartei.Autoplay")["wert"].get<bool>(); }, 4));
-    EXPECT_EQ(gewählt(), 2);
-    EXPECT_TRUE(spieler().is_null());
-    EXPECT_EQ(Anzahlen(), "1 1 1");
-    // A start brings a new one up; and once more.
-    for (int i = 0; i < 2; ++i) {
-        hände({"wähle Tonkartei.Liste 0", "klick Tonkartei.Lied_starten"});
-        EXPECT_TRUE(spielt()) << "right after the start";
+// Three songs one after the other, and players that die.
+struct Autoplay : Abspielen {
+    void TestBody() override {
+        lege(3, 2.5);
+        starte({"Random-Autoplay=False", "Anzahl-Zeit=1"});
+        hand("klick Tonkartei.Autoplay");
+        const auto gewählt = [&] { return b->zeige("Tonkartei.Liste")["gewählt"].get<int>(); };
+        for (const int zeile : {0, 1, 2}) EXPECT_TRUE(bald([&] { return gewählt() == zeile && spielt(); })) << zeile;
+        // A player that dies is none, not a stopped one: nothing follows, and after four ticks autoplay ends.
         töten();
-        EXPECT_TRUE(bald([&] { return spieler().is_null(); }, 1));
+        EXPECT_TRUE(bald([&] { return !b->zeige("Tonkartei.Autoplay")["wert"].get<bool>(); }));
+        EXPECT_EQ(gewählt(), 2);
+        EXPECT_TRUE(spieler().is_null());
+        EXPECT_EQ(Anzahlen(), "1 1 1 ");
+        // A start brings a new one up.
+        hände({"wähle Tonkartei.Liste 0", "klick Tonkartei.Lied_starten"});
+        EXPECT_TRUE(bald([&] { return spielt(); }));
     }
-    hand("klick Tonkartei.MP_Beenden");
-    EXPECT_EQ(b->bereit(), "ende");
-}
+};
 
 // A list of its own: the player goes through it, the program sees it play, and none of it counts.
-TEST_F(Abspielen, Listendatei) {
-    lege(3, 2.5);
-    // In a folder of any name.
-    const std::string winamp = ordner.ordner("mein Spieler");
-    std::filesystem::create_symlink(std::filesystem::canonical("/proc/self/exe").replace_filename("WinAmp.Exe"),
-                                    winamp + "WinAmp.Exe");
-    starte({"Random-Einstellung=1", "WinAmp=" + winamp});
-    hände({"klick Tonkartei.Zufalls_Playlist", "eingabe 3", "antwort Nein"});
-    for (const char* lied : {"00000001.MP3", "00000002.MP3", "00000003.MP3"})
-        EXPECT_TRUE(bald([&] {
+struct Listendatei : Abspielen {
+    void TestBody() override {
+        lege(3, 2.5);
+        // In a folder of any name.
+        const std::string winamp = ordner.ordner("mein Spieler");
+        std::filesystem::create_symlink(std::filesystem::canonical("/proc/self/exe").replace_filename("WinAmp.Exe"),
+                                        winamp + "WinAmp.Exe");
+        starte({"Random-Einstellung=1", "WinAmp=" + winamp});
+        hände({"klick Tonkartei.Zufalls_Playlist", "eingabe 3", "antwort Nein"});
+        for (const char* lied : {"00000001.MP3", "00000002.MP3", "00000003.MP3"})
+            EXPECT_TRUE(bald([&] {
+                const auto s = spieler();
+                return !s.is_null() && s["datei"].get<std::string>().ends_with(lied);
+            })) << lied;
+        EXPECT_TRUE(bald([&] { return !spielt(); })) << "the list is over";
+        EXPECT_EQ(Anzahlen(), "0 0 0 ");
+    }
+};
+
+// What the panel says and does, as the player takes it.
+struct Fernsteuerung : Abspielen {
+    void TestBody() override {
+        lege(1, 60);
+        starte({"WinAmp Fernsteuerung animiert=False"});
+        hände({"maus Tonkartei.WinAmp_Show", "wähle Tonkartei.Liste 0", "klick Tonkartei.Lied_starten"});
+        const auto zeit = [&] { return b->text("Tonkartei.WinAmp_Zeit"); };
+        const auto position = [&] {
             const auto s = spieler();
-            return !s.is_null() && s["datei"].get<std::string>().ends_with(lied);
-        })) << lied;
-    EXPECT_TRUE(bald([&] { return !spielt(); })) << "the list is over";
-    EXPECT_EQ(Anzahlen(), "0 0 0");
-    EXPECT_TRUE(ordner.da("mein Spieler/Tonkartei-Playlist.M3U"));
+            return s.is_null() ? -1 : s["position"].get<int>();
+        };
+        EXPECT_TRUE(bald([&] { return zeit() > "00:00" && zeit() < "00:09"; })) << zeit();
+        EXPECT_EQ(b->zeige("Tonkartei.WinAmp_Position")["max"], 60);
+        hand("uhr +500");
+        EXPECT_NE(b->fehler(), "") << "real time cannot be set";
+        hand("klick Tonkartei.Winamp_Pause");
+        EXPECT_TRUE(bald([&] { return zeit().starts_with("|| 00:"); })) << zeit();
+        hand("klick Tonkartei.Winamp_Pause");
+        EXPECT_TRUE(bald([&] { return zeit().starts_with("00:"); })) << zeit();
+        hand("setze Tonkartei.WinAmp_Position 20");
+        EXPECT_TRUE(bald([&] { return position() >= 20000 && zeit() >= "00:20"; })) << position();
+        // Each tick winds by five seconds.
+        hand("drücke Tonkartei.WinAmp_vor");
+        EXPECT_TRUE(bald([&] { return position() >= 30000; })) << position();
+        hände({"loslasse Tonkartei.WinAmp_vor", "drücke Tonkartei.WinAmp_zurück"});
+        EXPECT_TRUE(bald([&] { return position() < 25000; })) << position();
+        hände({"loslasse Tonkartei.WinAmp_zurück", "setze Tonkartei.WinAmp_Vol 50"});
+        EXPECT_EQ(spieler()["lautstärke"], 127);
+        hand("klick Tonkartei.WinAmp_Stop");
+        EXPECT_TRUE(bald([&] { return zeit() == "STOP"; })) << zeit();
+        hand("klick Tonkartei.WinAmp_Play");
+        EXPECT_TRUE(bald([&] { return zeit() < "00:09"; })) << zeit();
+    }
+};
+
+template <class... Szenen>
+void zugleich() {
+    std::vector<std::thread> alle;
+    (alle.emplace_back([] { Szenen().TestBody(); }), ...);
+    for (auto& thread : alle) thread.join();
 }
 
-TEST_F(Abspielen, Fernsteuerung) {
-    lege(2, 60);
-    starte({"WinAmp Fernsteuerung animiert=False"});
-    hände({"maus Tonkartei.WinAmp_Show", "wähle Tonkartei.Liste 0", "klick Tonkartei.Lied_starten"});
-    const auto zeit = [&] { return b->text("Tonkartei.WinAmp_Zeit"); };
-    const auto position = [&] {
-        const auto s = spieler();
-        return s.is_null() ? -1 : s["position"].get<int>();
-    };
-    // Two ticks, and what a loaded machine takes.
-    const auto folgt = [&](auto bedingung) { return bald(bedingung, 2); };
-    EXPECT_TRUE(folgt([&] { return zeit() == "00:01" || zeit() == "00:02"; })) << zeit();
-    EXPECT_EQ(b->zeige("Tonkartei.WinAmp_Position")["max"], 60);
-    hand("klick Tonkartei.Winamp_Pause");
-    EXPECT_TRUE(folgt([&] { return zeit().starts_with("|| 00:"); })) << zeit();
-    hand("klick Tonkartei.Winamp_Pause");
-    EXPECT_TRUE(folgt([&] { return zeit().starts_with("00:"); })) << zeit();
-    hand("setze Tonkartei.WinAmp_Position 20");
-    EXPECT_TRUE(folgt([&] { return position() >= 20000 && zeit() >= "00:20"; })) << position();
-    // Each tick winds by five seconds.
-    hände({"drücke Tonkartei.WinAmp_vor", "warte 1300", "loslasse Tonkartei.WinAmp_vor"});
-    EXPECT_TRUE(folgt([&] { return position() >= 30000; })) << position();
-    hände({"drücke Tonkartei.WinAmp_zurück", "warte 1300", "loslasse Tonkartei.WinAmp_zurück"});
-    EXPECT_TRUE(folgt([&] { return position() < 30000; })) << position();
-    // Once more if the first press met a change of the second.
-    for (int i = 0; i < 2 && position() > 9000; ++i) {
-        hand("klick Tonkartei.WinAmp_zurück");
-        folgt([&] { return position() < 9000; });
-    }
-    EXPECT_TRUE(folgt([&] { return zeit() < "00:09"; })) << zeit();
-    hand("klick Tonkartei.WinAmp_Zeit");
-    EXPECT_TRUE(folgt([&] { return zeit().starts_with("-00:5"); })) << zeit();
-    hand("setze Tonkartei.WinAmp_Vol 50");
-    EXPECT_EQ(spieler()["lautstärke"], 127);
-    hand("klick Tonkartei.WinAmp_Stop");
-    EXPECT_TRUE(folgt([&] { return zeit() == "STOP"; })) << zeit();
-    hand("klick Tonkartei.WinAmp_Play");
-    EXPECT_TRUE(folgt([&] { return zeit().starts_with("-00:5") || zeit() == "-01:00"; })) << zeit();
-    töten();
-    hände({"warte 1100", "klick Tonkartei.WinAmp_Stop"});
-    EXPECT_TRUE(spieler().is_null());
-    hände({"wähle Tonkartei.Liste 1", "klick Tonkartei.Lied_starten"});
-    EXPECT_TRUE(folgt([&] { return zeit() == "-00:59" || zeit() == "-00:58"; })) << "the new player: " << zeit();
-}
+TEST(Echt, alles_zugleich) { zugleich<Autoplay, Listendatei, Fernsteuerung>(); }
 
 }  // namespace
 }  // namespace tonkartei

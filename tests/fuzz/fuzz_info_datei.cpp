@@ -1,7 +1,6 @@
 // The reader of the info file with its conversions: whatever the bytes, it reads them, says that it cannot, or ends with the
 // overflow or bounds error that damaged counts and numbers call for. The old file is whole until the new one is.
 #include "datenbank/info_datei.hpp"
-#include "datenbank/konvertierung.hpp"
 #include "datenbank/vorschau.hpp"
 #include "fuzz/treiber.hpp"
 #include "mp3/speicher_dateisystem.hpp"
@@ -58,31 +57,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t gr�
     Modell modell;
     modell.Programmversion = "V 1.02 16";
     modell.Datenbank_Verzeichnis = "/";
-    Info_Datei info(modell, kanäle, dateien, ansicht, fortschritt);
-    Konvertierung konvertierung(modell, kanäle, dateien, ansicht, fortschritt, "/temp/");
-    bool erster = true;
-    const auto Schritt = [&](bool gelungen, int nummer) {
-        verlangt(gelungen == kanäle.offen(1) && !kanäle.offen(2),
-                 "the new file is open after success, nothing after failure");
-        verlangt(gelungen == (nummer != 0), "the number tells");
-        const auto kopie = dateien.Dateien.find("/konvert.bak");
-        verlangt(gelungen == (kopie == dateien.Dateien.end()), "the old file goes with success only");
-        if (!gelungen && erster) verlangt(kopie->second.Inhalt == vorher, "the old file is whole");
-        erster = false;
-        return gelungen;
-    };
-    info.konvertiere_1_00 = [&](Text& datei, int& nummer) {
-        const bool gelungen = konvertierung.konvertiere_1_00(datei, nummer);
-        return Schritt(gelungen, nummer);
-    };
-    info.konvertiere_1_01 = [&](Text& datei, int& nummer) {
-        const bool gelungen = konvertierung.konvertiere_1_01(datei, nummer);
-        return Schritt(gelungen, nummer);
-    };
+    Info_Datei info(modell, kanäle, dateien, fortschritt, "/temp/");
     try {
         Text pfad = Pfad;
         int nummer = 0;
         const bool geprüft = info.pruefe_Info_Datei(pfad, nummer);
+        verlangt(geprüft == kanäle.offen(1) && !kanäle.offen(2), "the file is open after success, nothing after failure");
+        const auto kopie = dateien.Dateien.find("/konvert.bak");
+        verlangt(kopie == dateien.Dateien.end() || !geprüft, "the old file goes with success");
+        if (!geprüft)
+            verlangt((kopie != dateien.Dateien.end() ? kopie->second : dateien.Dateien.at(Pfad)).Inhalt == vorher,
+                     "and is whole after failure");
+        verlangt(!dateien.Dateien.contains("/konvert.tmp"), "what lay between goes in any case");
         const bool konvertiert = geprüft && dateien.Dateien.at(Pfad).Inhalt != vorher;
         const bool gelesen = geprüft && info.lesen(nummer);
         verlangt(gelesen || !geprüft || !konvertiert, "what was converted can be read");

@@ -15,82 +15,63 @@ namespace {
 
 enum Fremdes : unsigned { nichts = 0, Qt = 1, POSIX = 2, mpv = 4 };
 
-struct Raum {
-    std::string_view Ordner;  // below src/; the longest that fits counts
-    int Stockwerk;            // where it lies
-    int Sicht;                // the highest floor that it may include
-    unsigned Darf;            // what it may name that is not of the standard library
+struct Stock {
+    int Höhe;
+    int Sicht;               // the highest floor that its rooms may include
+    unsigned Darf;           // what they may name that is not of the standard library
+    std::string_view Räume;  // folders below src/, each between blanks; a folder within one is a room of its own
 };
 
 // The floors, from the ground up. Rooms of one floor may include each other, file by file without a loop. The rooms of
 // one toolkit or one machine lie just below the roof, where only the composition reaches them, yet see the seams alone.
-constexpr std::array Räume{
-    Raum{"grundlagen", 0, 0, nichts},
-    Raum{"plattform", 10, 10, nichts},
-    Raum{"oberflaeche", 10, 10, nichts},
-    Raum{"mp3", 20, 20, nichts},
-    Raum{"datenbank", 21, 21, nichts},
-    Raum{"alben", 30, 30, nichts},
-    Raum{"kategorien", 31, 31, nichts},
-    Raum{"liste", 32, 32, nichts},
-    Raum{"wiedergabe", 33, 33, nichts},
-    Raum{"wiedergabe/winamp", 33, 33, nichts},
-    Raum{"wiedergabe/zufall", 33, 33, nichts},
-    Raum{"playlist", 34, 34, nichts},
-    Raum{"lieder", 35, 35, nichts},
-    Raum{"lieder/hinzufuegen", 35, 35, nichts},
-    Raum{"lieder/wartung", 35, 35, nichts},
-    Raum{"albenverwaltung", 40, 40, nichts},
-    Raum{"austausch", 40, 40, nichts},
-    Raum{"austausch/sicherung", 40, 40, nichts},
-    Raum{"austausch/vergleich", 40, 40, nichts},
-    Raum{"austausch/abgleich", 40, 40, nichts},
-    Raum{"austausch/aufloesung", 40, 40, nichts},
-    Raum{"statistik", 40, 40, nichts},
-    Raum{"ausgabe", 40, 40, nichts},
-    Raum{"display", 40, 40, nichts},
-    Raum{"dj", 40, 40, nichts},
-    Raum{"dj/alt", 40, 40, nichts},
-    Raum{"oberflaeche/qt", 50, 10, Qt},
-    Raum{"plattform/linux", 50, 10, POSIX},
-    Raum{"programm", 60, 60, nichts},
-    Raum{"spieler", 70, 10, POSIX | mpv},
+constexpr int Anbau = 50;
+constexpr std::array Stockwerke{
+    Stock{0, 0, nichts, " grundlagen "},
+    Stock{10, 10, nichts, " plattform oberflaeche "},
+    Stock{20, 20, nichts, " mp3 "},
+    Stock{21, 21, nichts, " datenbank "},
+    Stock{30, 30, nichts, " alben "},
+    Stock{31, 31, nichts, " kategorien "},
+    Stock{32, 32, nichts, " liste "},
+    Stock{33, 33, nichts, " wiedergabe wiedergabe/winamp wiedergabe/zufall "},
+    Stock{34, 34, nichts, " playlist "},
+    Stock{35, 35, nichts, " lieder lieder/hinzufuegen lieder/wartung "},
+    Stock{40, 40, nichts,
+          " albenverwaltung austausch austausch/sicherung austausch/vergleich austausch/abgleich austausch/aufloesung "
+          "statistik ausgabe display dj dj/alt "},
+    Stock{Anbau, 10, Qt, " oberflaeche/qt "},
+    Stock{Anbau, 10, POSIX, " plattform/linux "},
+    Stock{60, 60, nichts, " programm "},
+    Stock{70, 10, POSIX | mpv, " spieler "},
 };
 
-// Includes beyond a room's sight that are meant: from (a folder or a file) into (a folder).
+// Nobody else may know an annex, but through a door: from (a folder or a file) into (a folder).
 struct Tür {
     std::string_view Von;
     std::string_view Nach;
 };
-constexpr std::array Türen{
-    Tür{"programm/main.cpp", "oberflaeche/qt"},
-    Tür{"programm/main.cpp", "plattform/linux"},
-    // Both ends of the wire that stands for window messages.
-    Tür{"spieler", "plattform/linux"},
-};
-// Behind these doors nobody gets otherwise, not even from above.
-constexpr std::array<std::string_view, 2> Verschlossen{"oberflaeche/qt", "plattform/linux"};
+// The player has both ends of the wire that stands for window messages.
+constexpr std::array Türen{Tür{"programm/main.cpp", "oberflaeche/qt"}, Tür{"programm/main.cpp", "plattform/linux"},
+                           Tür{"spieler/", "plattform/linux"}};
 
-bool liegt_in(std::string_view pfad, std::string_view ordner) {
-    return pfad.starts_with(ordner) && (pfad.size() == ordner.size() || pfad[ordner.size()] == '/');
+bool steht_in(std::string_view liste, std::string_view wort) {
+    return liste.find(" " + std::string(wort) + " ") != std::string_view::npos;
 }
 
-const Raum* Raum_von(std::string_view pfad) {
-    const Raum* bester = nullptr;
-    for (const Raum& raum : Räume)
-        if (liegt_in(pfad, raum.Ordner) && (!bester || raum.Ordner.size() > bester->Ordner.size())) bester = &raum;
-    return bester;
-}
+std::string_view Ordner(std::string_view pfad) { return pfad.substr(0, pfad.rfind('/')); }
 
-bool hat_Tür(std::string_view von, std::string_view nach) {
-    return std::any_of(Türen.begin(), Türen.end(),
-                       [&](const Tür& tür) { return liegt_in(von, tür.Von) && tür.Nach == nach; });
+const Stock* Stock_von(std::string_view pfad) {
+    for (const Stock& stock : Stockwerke)
+        if (steht_in(stock.Räume, Ordner(pfad))) return &stock;
+    return nullptr;
 }
 
 bool ist_Einschluss(std::string_view zeile) {
-    const std::size_t raute = std::min(zeile.find_first_not_of(" \t"), zeile.size());
-    const std::size_t wort = std::min(zeile.find_first_not_of(" \t", raute + 1), zeile.size());
-    return zeile.substr(raute).starts_with('#') && zeile.substr(wort).starts_with("include");
+    const auto Rest = [](std::string_view text) {
+        return text.substr(std::min(text.find_first_not_of(" \t"), text.size()));
+    };
+    zeile = Rest(zeile);
+    return zeile.starts_with('#') && Rest(zeile.substr(1)).starts_with("include");
 }
 
 // Beside the including file first, then below the include folders, as the compiler looks.
@@ -115,13 +96,12 @@ Fremdes Herkunft(const std::string& kopf) {
 const char* Name(Fremdes fremdes) { return fremdes == Qt ? "Qt" : fremdes == mpv ? "libmpv" : "the machine (POSIX)"; }
 
 // Calls that headers of the standard library bring along or that need no header at all.
-constexpr std::array<std::string_view, 30> Aufrufe{
-    "localtime_r", "gmtime_r",    "timegm", "setenv",    "unsetenv", "mkstemp", "mkdtemp",   "realpath",  "popen", "pclose",
-    "fileno",      "fdopen",      "fsync",  "usleep",    "getpid",   "getuid",  "fdatasync", "ftruncate", "execv", "execvp",
-    "strcasecmp",  "strncasecmp", "dlopen", "nanosleep", "fork",     "lstat",   "fstat",     "sigaction", "mmap",  "ioctl"};
+constexpr std::string_view Aufrufe =
+    " localtime_r gmtime_r timegm setenv unsetenv mkstemp mkdtemp realpath popen pclose fileno fdopen fsync usleep getpid "
+    "getuid "
+    "fdatasync ftruncate execv execvp strcasecmp strncasecmp dlopen nanosleep fork lstat fstat sigaction mmap ioctl ";
 // Asking for the machine is a way of naming it.
-constexpr std::array<std::string_view, 6> Schalter{"__linux__", "__unix__",        "__APPLE__",
-                                                   "_WIN32",    "_POSIX_C_SOURCE", "_GNU_SOURCE"};
+constexpr std::string_view Schalter = " __linux__ __unix__ __APPLE__ _WIN32 _POSIX_C_SOURCE _GNU_SOURCE ";
 
 bool im_Wort(char zeichen) {
     const auto byte = static_cast<unsigned char>(zeichen);
@@ -129,46 +109,41 @@ bool im_Wort(char zeichen) {
 }
 
 Fremdes Herkunft_des_Wortes(std::string_view wort, bool ist_Aufruf) {
-    const auto steht_in = [&](const auto& wörter) { return std::find(wörter.begin(), wörter.end(), wort) != wörter.end(); };
     if (wort.size() > 2 && wort[0] == 'Q' && (wort[1] == '_' || std::isupper(static_cast<unsigned char>(wort[1]))))
         return Qt;
     if (wort.starts_with("mpv_")) return mpv;
-    if (steht_in(Schalter)) return POSIX;
-    if (ist_Aufruf && (steht_in(Aufrufe) || wort.starts_with("posix_") || wort.starts_with("pthread_"))) return POSIX;
+    if (steht_in(Schalter, wort)) return POSIX;
+    if (ist_Aufruf && (steht_in(Aufrufe, wort) || wort.starts_with("posix_") || wort.starts_with("pthread_"))) return POSIX;
     return nichts;
 }
 
 using Meldung = std::function<void(const std::string& grund)>;
 
 void prüfe_Wörter(std::string_view zeile, unsigned darf, const Meldung& melde) {
-    for (std::size_t i = 0, ende = 0; i < zeile.size(); i = ende + 1) {
-        for (ende = i; ende < zeile.size() && im_Wort(zeile[ende]);) ++ende;
+    for (const std::string_view wort : Wörter(zeile)) {
+        const auto ende = static_cast<std::size_t>(wort.data() - zeile.data()) + wort.size();
         const std::size_t danach = zeile.find_first_not_of(' ', ende);
-        const std::string_view wort = zeile.substr(i, ende - i);
         const Fremdes fremdes = Herkunft_des_Wortes(wort, danach != zeile.npos && zeile[danach] == '(');
         if (fremdes != nichts && !(darf & fremdes)) melde(std::string("names ") + Name(fremdes) + ": " + std::string(wort));
     }
 }
 
-void prüfe_Einschluss(std::string_view von, const Raum& raum, const std::string& pfad, bool spitz,
+void prüfe_Einschluss(std::string_view von, const Stock& stock, const std::string& pfad, bool spitz,
                       const std::optional<std::string>& ziel, const Meldung& melde) {
     if (!ziel) {
-        const bool erzeugt = pfad.ends_with(".moc");
-        const bool eigen = !spitz && pfad.ends_with(".hpp");
-        const Fremdes fremdes = erzeugt ? Qt : eigen ? nichts : Herkunft(pfad);
-        if (fremdes != nichts && !(raum.Darf & fremdes))
-            melde(std::string("names ") + Name(fremdes));
-        else if (!spitz && !erzeugt)
-            melde("no such file in the project");
-        return;
+        const Fremdes fremdes = !spitz && pfad.ends_with(".hpp") ? nichts : Herkunft(pfad);
+        if (fremdes != nichts && !(stock.Darf & fremdes)) return melde(std::string("names ") + Name(fremdes));
+        return spitz ? void() : melde("no such file in the project");
     }
     if (spitz) return melde("own files are included in quotes");
     if (!ziel->starts_with("src/")) return melde("leaves src/");
-    const Raum* nach = Raum_von(std::string_view(*ziel).substr(4));
-    if (!nach || nach == &raum || hat_Tür(von, nach->Ordner)) return;
-    if (std::find(Verschlossen.begin(), Verschlossen.end(), nach->Ordner) != Verschlossen.end())
-        return melde("only the composition may know " + std::string(nach->Ordner) + "/");
-    if (nach->Stockwerk > raum.Sicht) melde("points up a floor");
+    const std::string_view wohin = std::string_view(*ziel).substr(4);
+    const Stock* nach = Stock_von(wohin);
+    for (const Tür& tür : Türen)
+        if (von.starts_with(tür.Von) && tür.Nach == Ordner(wohin)) return;
+    if (!nach || nach == &stock) return;
+    if (nach->Höhe == Anbau) return melde("only the composition may know " + std::string(Ordner(wohin)));
+    if (nach->Höhe > stock.Sicht) melde("points up a floor");
 }
 
 // Depth first; each loop is reported once, at the file that closes it.
@@ -195,7 +170,17 @@ void suche_Schleifen(const std::map<std::string, std::vector<std::string>>& kant
     for (const auto& [datei, _] : kanten) besuche(datei);
 }
 
-// Comments and the contents of strings and character literals as blanks, line breaks kept; include paths stay.
+}  // namespace
+
+std::vector<std::string_view> Wörter(std::string_view zeile) {
+    std::vector<std::string_view> wörter;
+    for (std::size_t i = 0, ende = 0; i < zeile.size(); i = ende + 1) {
+        for (ende = i; ende < zeile.size() && im_Wort(zeile[ende]);) ++ende;
+        if (ende > i) wörter.push_back(zeile.substr(i, ende - i));
+    }
+    return wörter;
+}
+
 std::string nur_Code(const std::string& text) {
     std::string code = text;
     const auto hinter = [&](std::string_view schluss, std::size_t ab) {
@@ -205,10 +190,6 @@ std::string nur_Code(const std::string& text) {
     for (std::size_t i = 0; i < text.size();) {
         const std::size_t anfang = i;
         const char zeichen = text[i];
-        if (zeichen == '#' && ist_Einschluss(std::string_view(text).substr(i, 20))) {
-            i = hinter("\n", i);
-            continue;
-        }
         if (text.compare(i, 2, "//") == 0) {
             i = std::min(text.find('\n', i), text.size());
         } else if (text.compare(i, 2, "/*") == 0) {
@@ -220,7 +201,7 @@ std::string nur_Code(const std::string& text) {
             for (++i; i < text.size() && text[i] != zeichen && text[i] != '\n'; ++i) i += text[i] == '\\';
             ++i;
         } else {
-            ++i;
+            i = zeichen == '#' && ist_Einschluss(std::string_view(text).substr(i, 20)) ? hinter("\n", i) : i + 1;
             continue;
         }
         for (std::size_t j = anfang; j < std::min(i, text.size()); ++j)
@@ -229,8 +210,6 @@ std::string nur_Code(const std::string& text) {
     return code;
 }
 
-}  // namespace
-
 std::vector<Verstoß> prüfe(const Quellen& quellen) {
     std::vector<Verstoß> verstöße;
     std::map<std::string, std::vector<std::string>> kanten;
@@ -238,8 +217,8 @@ std::vector<Verstoß> prüfe(const Quellen& quellen) {
         // Tests and benchmarks may look everywhere; only loops are looked for there.
         const bool geprüft = datei.starts_with("src/");
         const std::string_view von = std::string_view(datei).substr(geprüft ? 4 : 0);
-        const Raum* raum = geprüft ? Raum_von(von) : nullptr;
-        if (geprüft && !raum) verstöße.push_back({datei, 0, "its folder has no floor in the table"});
+        const Stock* stock = geprüft ? Stock_von(von) : nullptr;
+        if (geprüft && !stock) verstöße.push_back({datei, 0, "its folder has no floor in the table"});
         std::istringstream strom(nur_Code(text));
         std::string zeile;
         for (int nummer = 1; std::getline(strom, zeile); ++nummer) {
@@ -248,17 +227,18 @@ std::vector<Verstoß> prüfe(const Quellen& quellen) {
             };
             const std::size_t anfang = zeile.find_first_of("<\"");
             if (!ist_Einschluss(zeile) || anfang == std::string::npos) {
-                if (raum) prüfe_Wörter(zeile, raum->Darf, melde);
+                if (stock) prüfe_Wörter(zeile, stock->Darf, melde);
                 continue;
             }
             const bool spitz = zeile[anfang] == '<';
             const std::string pfad = zeile.substr(anfang + 1, zeile.find(spitz ? '>' : '"', anfang + 1) - anfang - 1);
             const std::optional<std::string> ziel = Ziel(quellen, datei, pfad);
             if (ziel) kanten[datei].push_back(*ziel);
-            if (raum) prüfe_Einschluss(von, *raum, pfad, spitz, ziel, melde);
+            if (stock) prüfe_Einschluss(von, *stock, pfad, spitz, ziel, melde);
         }
     }
     suche_Schleifen(kanten, verstöße);
+    prüfe_Maße(quellen, verstöße);
     return verstöße;
 }
 

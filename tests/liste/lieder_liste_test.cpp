@@ -46,10 +46,7 @@ TEST(Lieder_Liste, Reihenfolge) {
         {"the fields are joined plainly", {{"ab", "z"}, {"a", "c"}, {"a", "ba"}}, Sortierung::Artist, {3, 1, 2}},
     };
     for (const Fall& fall : fälle) EXPECT_EQ(alle(mit_Liedern(fall.lieder), fall.sortierung), fall.nummern) << fall.was;
-}
-
-// A line is its text and eight digits: a text that ends where another goes on with digits meets the other one's digits.
-TEST(Lieder_Liste, DieNummerGehoertZurZeile) {
+    // A line is its text and eight digits: a text that ends where another goes on with digits meets the other one's digits.
     std::vector<std::pair<Text, Text>> lieder(12, {"T", "x"});
     lieder[1] = {"A", ""};
     lieder[11] = {"A", "00000001"};
@@ -86,22 +83,21 @@ TEST(Lieder_Liste, GemerkteOrdnungFolgtJederAenderung) {
                           alle(modell, sortierung, suche))
                     << was << " \"" << suche << '"';
     };
+    auto& lieder = modell.Lieder;
     prüfen("at first");
-    modell.Lieder[3].Artist = "A";
+    lieder[3].Artist = "A";
     prüfen("another case only");
-    modell.Lieder[2].Titel = "q";
+    lieder[2].Titel = "q";
     prüfen("another title");
-    std::swap(modell.Lieder[1], modell.Lieder[3]);
+    std::swap(lieder[1], lieder[3]);
     prüfen("numbers exchanged");
-    modell.Lieder[1].Artist = "Ax";
-    modell.Lieder[1].Titel = "";
-    modell.Lieder[2].Artist = "bx";
-    modell.Lieder[2].Titel = "";
+    lieder[1].Artist = "Ax";
+    lieder[2].Artist = "bx";
+    lieder[1].Titel = lieder[2].Titel = "";
     prüfen("the seam elsewhere");
     --modell.Anzahl_Lieder;
     prüfen("one less");
-    modell.Lieder[++modell.Anzahl_Lieder].Artist = "";
-    modell.Lieder[modell.Anzahl_Lieder].Titel = "Bx";
+    lieder[++modell.Anzahl_Lieder].Titel = "Bx";
     prüfen("one more");
     modell.Anzahl_Lieder = 0;
     prüfen("none");

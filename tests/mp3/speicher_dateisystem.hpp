@@ -73,6 +73,7 @@ public:
         Dateien[nach] = Dateien.at(von);
         Dateien.erase(von);
     }
+    void ersetzen(const Text& von, const Text& nach) override { umbenennen(von, nach); }
     void löschen(const Text& pfad) override { Dateien.erase(pfad); }
 
     // Nothing here reads or changes folders.

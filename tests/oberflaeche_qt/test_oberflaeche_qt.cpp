@@ -127,7 +127,7 @@ TEST_F(Desktop, EveryKindShowsItsGroundAndHearsTheMouse) {
         EXPECT_EQ(punkte(Farbe_Standard), 0) << element->Name();
 
         int bewegt = 0;
-        element->Mausbewegung.verbinden([&bewegt] { ++bewegt; });
+        element->Mausbewegung.verbinden([&bewegt](int, int) { ++bewegt; });
         auto* rollend = qobject_cast<QAbstractScrollArea*>(&w);
         QWidget& fläche = rollend == nullptr ? w : *rollend->viewport();
         Maus(fläche, QEvent::MouseMove, {2, 2}, Qt::NoButton);

@@ -1,9 +1,11 @@
-// What a piece of work fails with, and whether there is a second volume.
+// What a piece of work fails with, a disk that is full, and whether there is a second volume.
 #pragma once
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <functional>
 
 #include "grundlagen/fehler.hpp"
@@ -20,6 +22,21 @@ inline int Fehler_von(const std::function<void()>& arbeit) {
     }
     return 0;
 }
+
+// No file of this process grows beyond a limit while this lives: the disk is full.
+class Voller_Datenträger {
+public:
+    explicit Voller_Datenträger(rlim_t grenze) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &alt_);
+        const rlimit neu{grenze, alt_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &neu);
+    }
+    ~Voller_Datenträger() { ::setrlimit(RLIMIT_FSIZE, &alt_); }
+
+private:
+    rlimit alt_{};
+};
 
 // Whether /dev/shm is one and lets us write.
 inline bool anderes_Laufwerk_da(const Testordner& ordner) {

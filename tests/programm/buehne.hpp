@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <filesystem>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -13,6 +16,8 @@
 
 namespace tonkartei {
 
+using Zeilen = std::vector<std::string>;
+
 struct Probelied {
     std::string Artist, Titel;
     int Anzahl = 0, KByte = 100, Kategorie = 2;
@@ -22,8 +27,9 @@ struct Probelied {
 struct Sammlung {
     std::vector<Probelied> Lieder = {{"Anna", "Zug"}, {"Berta", "Yacht"}, {"Carla", "Xylophon"}};
     std::string Titel = "Tonkartei", Version = "V 1.02 16";
-    std::vector<std::string> Kategorien = {"Alle", "Freestyle", "Hip-Hop/Rap", "Metal/Punk", "Sonstiges", "Techno"};
+    Zeilen Kategorien = {"Alle", "Freestyle", "Hip-Hop/Rap", "Metal/Punk", "Sonstiges", "Techno"};
     int Schemas = 0, Grenze = 0;
+    bool Standard = false;  // the schemes of a new one
 
     // What the info file holds, byte for byte; for texts within ASCII.
     std::string bytes() const {
@@ -38,7 +44,7 @@ struct Sammlung {
         for (int s = 1; s <= 9; ++s) {
             zahl(1);
             zeile("Schema " + std::to_string(s));
-            zahl(s % 6 + 1);
+            zahl(Standard ? 1 : s % 6 + 1);
         }
         zahl(Grenze);
         zahl(static_cast<long long>(Lieder.size()));
@@ -54,12 +60,7 @@ struct Sammlung {
     }
 };
 
-inline std::string Zugriffsdatei_Bytes(const std::string& titel = "Tonkartei", const std::string& version = "V 1.02 16",
-                                       const std::string& kennung = "Datenbank-Zugriffsdatei") {
-    return titel + "\r\n" + version + "\r\n" + kennung + "\r\nTURM\r\nHEIDI\r\n5\r\n3\r\n2026\r\n14\r\n7\r\n33\r\n";
-}
-
-// An event as one line: "Caption|text|?*Ja/Nein" for a question with its default starred, "i" for an information.
+// An event as one line: "Caption | text | ?*Ja/Nein" for a question with its default starred, "i" for an information.
 inline std::string als_Zeile(const nlohmann::json& e) {
     const std::string art = e["ereignis"];
     const auto feld = [&e](const char* name) { return e.at(name).get<std::string>(); };
@@ -67,14 +68,20 @@ inline std::string als_Zeile(const nlohmann::json& e) {
         std::string knöpfe;
         for (const std::string knopf : e["knöpfe"])
             knöpfe += (knöpfe.empty() ? "" : "/") + std::string(knopf == e["vorgabe"] ? "*" : "") + knopf;
-        const std::string kopf = feld("quelle") == "programm" ? "" : feld("quelle") + ":";
-        if (feld("art") == "information" && knöpfe == "*OK") return kopf + feld("titel") + "|" + feld("text") + "|i";
-        return kopf + feld("titel") + "|" + feld("text") + "|" + (feld("art") == "frage" ? "?" : "i") + knöpfe;
+        const std::string kopf = (feld("quelle") == "programm" ? "" : feld("quelle") + ":") + feld("titel") + " | ";
+        if (feld("art") == "information" && knöpfe == "*OK") return kopf + feld("text") + " | i";
+        return kopf + feld("text") + " | " + (feld("art") == "frage" ? "?" : "i") + knöpfe;
     }
-    if (art == "eingabe") return "Eingabe|" + feld("text") + "|" + feld("vorgabe");
-    if (art == "ordner") return "Ordner|" + feld("titel");
-    if (art == "fortschritt") return "Fortschritt|" + feld("text");
-    if (art == "laufzeitfehler") return "Laufzeitfehler|" + std::to_string(e["nummer"].get<int>());
+    if (art == "eingabe") return "Eingabe " + feld("titel") + " | " + feld("text") + " | " + feld("vorgabe");
+    if (art == "ordner") return "Ordner | " + feld("titel");
+    if (art == "datei")
+        return "Datei " + feld("art") + " | " + feld("filter") + " | " + feld("vorschlag") +
+               (e["muss_existieren"] == true ? " | muss" : "");
+    if (art == "farbe") return "Farbe | " + e["vorgabe"].dump();
+    if (art == "fortschritt")
+        return "Fortschritt | " + feld("text") + (e["prozent"] == 100 ? "" : " " + e["prozent"].dump());
+    if (art == "kontextmenü") return "Menü | " + feld("name");
+    if (art == "laufzeitfehler") return "Laufzeitfehler | " + e["nummer"].dump();
     return art;
 }
 
@@ -83,7 +90,7 @@ protected:
     Testordner ordner;
     std::unique_ptr<Bediener> b;
     // All events since the start or the last look at it, and "FEHLER ..." for a command that could not be done.
-    std::vector<std::string> Ablauf;
+    Zeilen Ablauf;
 
     // A folder with a collection; its path with separator.
     std::string sammlung(const std::string& name, const Sammlung& s = {}) const {
@@ -91,8 +98,30 @@ protected:
         ordner.datei(name + "/MP3_Info.MDB", s.bytes());
         return pfad;
     }
-    static std::vector<std::string> zuletzt(const std::vector<std::string>& pfade) {
-        std::vector<std::string> setze{"geöffnete Datenbanken\\Anzahl=" + std::to_string(pfade.size())};
+    // Song n of the collection "a" is "An - Tn"; its file tells the same, so that it shows which file belongs to which
+    // record. Those in `weg` have a title of their own.
+    void lege(int anzahl, const std::vector<int>& ohne_Datei = {}, const std::vector<int>& weg = {}) const {
+        Sammlung s;
+        s.Lieder.clear();
+        for (int n = 1; n <= anzahl; ++n)
+            s.Lieder.push_back(
+                {"A" + std::to_string(n), std::count(weg.begin(), weg.end(), n) > 0 ? "weg" : "T" + std::to_string(n), n});
+        std::filesystem::remove_all(ordner.pfad("a"));
+        sammlung("a", s);
+        for (int n = 1; n <= anzahl; ++n)
+            if (std::count(ohne_Datei.begin(), ohne_Datei.end(), n) == 0) ordner.datei(datei(n), bytes(n));
+    }
+    static std::string datei(int n) {
+        const std::string ziffern = std::to_string(n);
+        return "a/" + std::string(8 - ziffern.size(), '0') + ziffern + ".MP3";
+    }
+    static std::string ton(int n) { return "Ton " + std::to_string(n) + std::string(2000, '.'); }
+    static std::string bytes(int n) {
+        const std::string artist = "A" + std::to_string(n), titel = "T" + std::to_string(n);
+        return ton(n) + Tag_Bytes{.Titel = titel, .Artist = artist}.Block();
+    }
+    static Zeilen zuletzt(const Zeilen& pfade) {
+        Zeilen setze{"geöffnete Datenbanken\\Anzahl=" + std::to_string(pfade.size())};
         for (std::size_t i = 0; i < pfade.size(); ++i)
             setze.push_back("geöffnete Datenbanken\\Nr. " + std::to_string(i + 1) + "=" + pfade[i]);
         return setze;
@@ -107,7 +136,7 @@ protected:
         mitschreiben();
         return *b;
     }
-    Bediener& öffnen(const std::string& pfad, const std::string& parameter = {}, std::vector<std::string> setze = {}) {
+    Bediener& öffnen(const std::string& pfad, const std::string& parameter = {}, Zeilen setze = {}) {
         for (const auto& eintrag : zuletzt({pfad})) setze.push_back(eintrag);
         return starten({.parameter = parameter, .setze = setze});
     }
@@ -115,15 +144,52 @@ protected:
         (*b)(zeile);
         mitschreiben();
     }
-    void hände(const std::vector<std::string>& zeilen) {
+    void hände(const Zeilen& zeilen) {
         for (const auto& zeile : zeilen) hand(zeile);
+    }
+    void wechseln(const std::string& pfad) {
+        hände({"klick Tonkartei.öffne_Datenbank", "setze Datenbank_öffnen.Pfad " + Bediener::zitiert(pfad),
+               "klick Datenbank_öffnen.Ok"});
     }
     void beenden() {
         hand("klick Tonkartei.MP_Beenden");
         EXPECT_EQ(b->Ende_abwarten(), 0);
     }
+    // Answers whatever comes with the first choice, up to the main loop.
+    void durchziehen() {
+        for (int i = 0; i < 40 && b->bereit() != "schleife"; ++i)
+            hand(b->bereit() == "meldung" ? b->ereignis("meldung")["knöpfe"].size() == 1 ? "antwort OK" : "antwort Ja"
+                 : b->bereit_name() == "Kategorie_Wahl" ? "wähle Kategorie_Wahl.Liste 0"
+                                                        : "klick " + b->bereit_name() + ".Ok");
+        ASSERT_EQ(b->bereit(), "schleife");
+        ASSERT_EQ(b->fenster("Tonkartei")["aktiv"], true);
+    }
+    // Chooses the song of that number.
+    void wähle(int nr) {
+        const Zeilen nummern = b->zeilen("Tonkartei.Nr_Liste");
+        const auto fund = std::find(nummern.begin(), nummern.end(), std::to_string(nr));
+        ASSERT_NE(fund, nummern.end());
+        hand("wähle Tonkartei.Liste " + std::to_string(fund - nummern.begin()));
+    }
+    // Whose records stand on the numbers, in order; "-" behind one without its file, "!" behind one with another's file.
+    std::string stand() {
+        const Zeilen zeilen = b->zeilen("Tonkartei.Liste"), nummern = b->zeilen("Tonkartei.Nr_Liste");
+        std::map<int, std::string> nach_Nummer;
+        for (std::size_t i = 0; i < zeilen.size(); ++i) {
+            const int nr = std::stoi(nummern[i]);
+            std::string wer = zeilen[i].substr(1, zeilen[i].find(' ') - 1);
+            if (!ordner.da(datei(nr)))
+                wer += "-";
+            else if (ordner.inhalt(datei(nr)) != bytes(std::atoi(wer.c_str())))
+                wer += "!";
+            nach_Nummer[nr] = wer;
+        }
+        std::string text;
+        for (const auto& [nr, wer] : nach_Nummer) text += (text.empty() ? "" : " ") + wer;
+        return text;
+    }
     // What has happened since the last look.
-    std::vector<std::string> geschehen() { return std::exchange(Ablauf, {}); }
+    Zeilen geschehen() { return std::exchange(Ablauf, {}); }
     std::string mdb(const std::string& name = "a") const { return ordner.inhalt(name + "/MP3_Info.MDB"); }
     // The value of a setting, "-" when its key is not there.
     std::string wert(const std::string& schlüssel) {
@@ -137,7 +203,5 @@ private:
         if (!b->fehler().empty()) Ablauf.push_back("FEHLER " + b->fehler());
     }
 };
-
-using Zeilen = std::vector<std::string>;
 
 }  // namespace tonkartei

@@ -64,8 +64,8 @@ TEST_F(Sichern, Absturz_vor_jedem_Schritt) {
 
 TEST_F(Sichern, Fehler_bei_jedem_Schritt) {
     const std::string meldung =
-        "Tonkartei|Es ist ein Fehler beim Schreiben der Datenbank-Informations-Datei aufgetreten!\n\nEventuell ist der "
-        "Datenträger schreibgeschützt?|i";
+        "Tonkartei | Es ist ein Fehler beim Schreiben der Datenbank-Informations-Datei aufgetreten!\n\nEventuell ist der "
+        "Datenträger schreibgeschützt? | i";
     for (const auto& vorgang : Schritte) {
         bool durch = false;
         int n = 0;

@@ -91,7 +91,7 @@ void Ansicht_Bediener::warten_bis(Fenster& fenster, const std::function<bool()>&
     const Aufenthalt aufenthalt(*this, stand);
     while (!bedingung()) {
         if (endet()) throw Programmende{};
-        if (von_außen_) {
+        if (von_außen_ || Sitzung_endet_) {
             fenster.schließen(Schließgrund::außen);
             if (bedingung()) break;
             throw Programmende{};
@@ -107,11 +107,12 @@ void Ansicht_Bediener::modal_laufen(Fenster& fenster) {
 
 void Ansicht_Bediener::Feld_abwarten(Wartestand& stand) {
     vergehen_bis_.reset();
-    if (von_außen_) return;
+    if (von_außen_ || Sitzung_endet_) return;
     const Aufenthalt aufenthalt(*this, stand);
     while (!stand.beantwortet) {
         Zeile_abwarten();
         if (endet()) throw Programmende{};
+        if (Sitzung_endet_) return;
     }
 }
 
@@ -148,10 +149,12 @@ void Ansicht_Bediener::von_Hand(const std::function<void()>& handler) {
     runden_ = 0;
 }
 
-void Ansicht_Bediener::von_außen(const std::function<void()>& handler) {
+void Ansicht_Bediener::von_außen_schließen(Fenster& fenster) {
     von_außen_ = true;
-    von_Hand(handler);
+    von_Hand([&] { fenster.schließen(Schließgrund::außen); });
     von_außen_ = false;
+    // A closing by hand is still asking: nobody is there to answer.
+    if (fenster.geladen()) Sitzung_endet_ = true;
 }
 
 void Ansicht_Bediener::vergehen(std::int64_t ms) {

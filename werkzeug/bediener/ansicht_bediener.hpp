@@ -76,7 +76,7 @@ public:
     // A handler by hand, under the guard.
     void von_Hand(const std::function<void()>& handler);
     // The end of the user's session: boxes that come up meanwhile take their default.
-    void von_außen(const std::function<void()>& handler);
+    void von_außen_schließen(Fenster& fenster);
     // Time is to pass, and timers are to run. While a box is up they rest.
     void vergehen(std::int64_t ms);
     void vormerken(Text zeile) { vorgemerkt_.push_back(std::move(zeile)); }
@@ -140,6 +140,7 @@ private:
     std::optional<std::int64_t> vergehen_bis_;  // time that is still to pass
     bool Antwort_schuldig_ = true;              // the start counts as the first line
     bool von_außen_ = false;
+    bool Sitzung_endet_ = false;
     int runden_ = 0;  // of the running handler without anything new beginning
 };
 

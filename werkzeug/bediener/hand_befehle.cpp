@@ -129,7 +129,9 @@ public:
 
     void Maus_bewegen(Befehlszeile& z) const {
         const Text name = z.nächstes("Name");
-        if (z.mehr()) Ort(z), Ort(z);
+        const bool mit_Ort = z.mehr();
+        const int x = mit_Ort ? Ort(z) : 0;
+        const int y = mit_Ort ? Ort(z) : 0;
         z.zu_Ende();
         if (ist_Fenstername(a_, name)) {
             Fenster& f = Fenster_suchen(a_, name);
@@ -139,7 +141,7 @@ public:
         }
         Element& e = Element_suchen(a_, name);
         sichtbar_prüfen(a_, e);
-        a_.von_Hand([&] { Hand::Maus_bewegen(e); });
+        a_.von_Hand([&] { Hand::Maus_bewegen(e, x, y); });
     }
 
     void schließen(Befehlszeile& z) const {
@@ -148,7 +150,7 @@ public:
         z.zu_Ende();
         if (wie == "extern") {
             if (!f.geladen()) throw Befehlsfehler("das Fenster ist nicht geladen: " + f.Name());
-            a_.von_außen([&] { f.schließen(Schließgrund::außen); });
+            a_.von_außen_schließen(f);
             return;
         }
         if (!wie.empty()) throw Befehlsfehler("unbekannt: " + wie);

@@ -16,6 +16,7 @@
 #include "probe/fenstersystem_probe.hpp"
 #include "probe/rechner_probe.hpp"
 #include "probe/shell_probe.hpp"
+#include "programm/shellfrage.hpp"
 
 namespace tonkartei {
 namespace {
@@ -51,21 +52,13 @@ private:
     std::chrono::steady_clock::time_point beginn_ = std::chrono::steady_clock::now();
 };
 
-// Asks through the view, as one of the shell's boxes.
-Shell_Frage Frage_über(Ansicht& ansicht) {
-    return [&ansicht](const Text& titel, const Text& text) {
-        switch (ansicht.fragen_oder_abbrechen(titel, text, "shell")) {
-            case Antwort::Ja: return Shell_Antwort::Ja;
-            case Antwort::Nein: return Shell_Antwort::Nein;
-            default: return Shell_Antwort::Abbrechen;
-        }
-    };
-}
-
 class Maschine_Probe : public Maschine {
 public:
     explicit Maschine_Probe(const Maschinenwahl& wahl)
-        : störungen_(wahl.abstürzen),
+        : störungen_([this, ende = wahl.abstürzen] {
+              dateien_.Strom_weg();
+              ende();
+          }),
           registrierung_(wahl.wurzel + "einstellungen.reg"),
           papierkorb_(dateien_, wahl.wurzel + "papierkorb"),
           rechner_(wahl.uhr, Temp_anlegen(platte_, wahl.wurzel), wahl.zweite_Instanz) {

@@ -1,6 +1,7 @@
 #include "bediener/schau.hpp"
 
 #include "bediener/json.hpp"
+#include "grundlagen/zahl.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/listen.hpp"
@@ -51,6 +52,16 @@ void Zeilen_beschreiben(Json::Objekt& ziel, const Zeilenelement& liste) {
     if (liste.art() == Elementart::Liste) ziel.mit("erste", static_cast<const Listenfeld&>(liste).erste());
 }
 
+Text Linienliste(const std::vector<Linie>& linien) {
+    std::vector<Text> teile;
+    for (const Linie& l : linien) {
+        std::vector<Text> zahlen;
+        for (const int zahl : {l.x1, l.y1, l.x2, l.y2, static_cast<int>(l.farbe)}) zahlen.push_back(Zahltext(zahl));
+        teile.push_back(Json::Liste(zahlen));
+    }
+    return Json::Liste(teile);
+}
+
 // The kind's own keys.
 void Wert_beschreiben(Json::Objekt& ziel, const Element& element) {
     const auto beschriftet = [&]() -> Json::Objekt& {
@@ -83,7 +94,11 @@ void Wert_beschreiben(Json::Objekt& ziel, const Element& element) {
         case Elementart::Balken: ziel.mit("wert", static_cast<const Balken&>(element).wert()); break;
         case Elementart::Menü: beschriftet().mit("haken", static_cast<const Menüpunkt&>(element).haken()); break;
         case Elementart::Knopf: beschriftet().mit("bild", static_cast<const Knopf&>(element).Bild); break;
-        case Elementart::Fläche: ziel.mit("bild", static_cast<const Bildfläche&>(element).Bild).roh("linien", "[]"); break;
+        case Elementart::Fläche: {
+            const auto& fläche = static_cast<const Bildfläche&>(element);
+            ziel.mit("bild", fläche.Bild).roh("linien", Linienliste(fläche.linien()));
+            break;
+        }
         default: beschriftet(); break;
     }
 }

@@ -54,7 +54,10 @@ void Dateisystem_Probe::Laufwerk(const Text& ordner) { laufwerke_.push_back(voll
 Dateisystem::Griff Dateisystem_Probe::öffnen(const Text& pfad, Dateimodus modus) {
     if (störungen_.trifft(Vorgang::öffnen)) throw Dateifehler(70, pfad);
     if (modus != Dateimodus::lesen && geschützt(pfad)) throw Dateifehler(75, pfad);
-    return echt_.öffnen(pfad, modus);
+    const Griff griff = echt_.öffnen(pfad, modus);
+    offene_[griff] = voller_Pfad(pfad);
+    if (modus == Dateimodus::schreiben) ungesichert_.gesichert(offene_[griff]);
+    return griff;
 }
 
 std::size_t Dateisystem_Probe::lesen(Griff griff, std::uint64_t stelle, std::span<char> ziel) {
@@ -64,18 +67,49 @@ std::size_t Dateisystem_Probe::lesen(Griff griff, std::uint64_t stelle, std::spa
 
 void Dateisystem_Probe::schreiben(Griff griff, std::uint64_t stelle, std::span<const char> bytes) {
     if (störungen_.trifft(Vorgang::schreiben)) throw Dateifehler(61);
+    if (const auto i = offene_.find(griff); i != offene_.end())
+        ungesichert_.schreiben(i->second, echt_, griff, stelle, bytes.size());
     echt_.schreiben(griff, stelle, bytes);
 }
 
-void Dateisystem_Probe::umbenennen(const Text& von, const Text& nach) {
+void Dateisystem_Probe::sichern(Griff griff) {
+    echt_.sichern(griff);
+    if (const auto i = offene_.find(griff); i != offene_.end()) ungesichert_.gesichert(i->second);
+}
+
+void Dateisystem_Probe::schließen(Griff griff) {
+    offene_.erase(griff);
+    echt_.schließen(griff);
+}
+
+void Dateisystem_Probe::Strom_weg() {
+    for (const auto& [griff, pfad] : offene_) echt_.schließen(griff);
+    offene_.clear();
+    ungesichert_.verlieren(echt_);
+}
+
+void Dateisystem_Probe::Umbenennen_prüfen(const Text& von, const Text& nach) {
     if (störungen_.trifft(Vorgang::umbenennen) || geschützt(von) || geschützt(nach)) throw Dateifehler(75, von);
     if ((echt_.Datei_da(von) || echt_.Ordner_da(von)) && Laufwerk_von(von) != Laufwerk_von(nach)) throw Dateifehler(74, von);
+}
+
+void Dateisystem_Probe::umbenennen(const Text& von, const Text& nach) {
+    Umbenennen_prüfen(von, nach);
     echt_.umbenennen(von, nach);
+    ungesichert_.umbenannt(voller_Pfad(von), voller_Pfad(nach));
+}
+
+void Dateisystem_Probe::ersetzen(const Text& von, const Text& nach) {
+    Umbenennen_prüfen(von, nach);
+    echt_.ersetzen(von, nach);
+    ungesichert_.gesichert(voller_Pfad(nach));
+    ungesichert_.umbenannt(voller_Pfad(von), voller_Pfad(nach));
 }
 
 void Dateisystem_Probe::löschen(const Text& pfad) {
     if (störungen_.trifft(Vorgang::löschen) || geschützt(pfad)) throw Dateifehler(70, pfad);
     echt_.löschen(pfad);
+    ungesichert_.gesichert(voller_Pfad(pfad));
 }
 
 void Dateisystem_Probe::Ordner_anlegen(const Text& pfad) {
@@ -92,6 +126,7 @@ void Dateisystem_Probe::kopieren(const Text& von, const Text& nach) {
     if (störungen_.trifft(Vorgang::kopieren)) throw Dateifehler(61, nach);
     if (geschützt(nach)) throw Dateifehler(75, nach);
     echt_.kopieren(von, nach);
+    ungesichert_.gesichert(voller_Pfad(nach));
 }
 
 bool Dateisystem_Probe::gleiches_Laufwerk(const Text& a, const Text& b) {

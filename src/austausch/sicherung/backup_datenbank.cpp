@@ -1,6 +1,6 @@
 #include "austausch/sicherung/backup_datenbank.hpp"
 
-#include "austausch/sicherung/auszugsdatenbank.hpp"
+#include "lieder/hinzufuegen/auszugsdatenbank.hpp"
 #include "austausch/sicherung/portionsdatei.hpp"
 #include "datenbank/modell.hpp"
 #include "oberflaeche/ansicht.hpp"

@@ -7,8 +7,7 @@ namespace tonkartei {
 
 Sicherung::Sicherung(Datenbankraum& d, Liederraum& lieder, Quell_Datenbank& quelle)
     : portionsdatei(d.haus.modell, d.haus.kanäle, d.haus.ansicht),
-      auszug(d.haus.modell, d.sitzung, lieder.hinzufügen.zuordnung, lieder.hinzufügen.liste),
-      datenbank(d.haus.modell, d.haus.ansicht, d.haus.plattform.Dateisystem, portionsdatei, auszug),
+      datenbank(d.haus.modell, d.haus.ansicht, d.haus.plattform.Dateisystem, portionsdatei, lieder.hinzufügen.auszug),
       verzeichnis(d.haus.modell, d.haus.kanäle, d.haus.plattform.Dateisystem, d.haus.fortschritt),
       erstellung(d.haus.ansicht, d.haus.plattform.Rechner, portionsdatei, datenbank),
       portionen(d.haus.modell, verzeichnis, quelle, erstellung, d.haus.fortschritt),

@@ -1,7 +1,6 @@
 // Backups in portions and the directory of what is on CD already, put together.
 #pragma once
 
-#include "austausch/sicherung/auszugsdatenbank.hpp"
 #include "austausch/sicherung/backup_befehle.hpp"
 #include "austausch/sicherung/backup_datenbank.hpp"
 #include "austausch/sicherung/backup_portionen.hpp"
@@ -21,7 +20,6 @@ struct Sicherung {
     Sicherung& operator=(const Sicherung&) = delete;
 
     Portionsdatei portionsdatei;
-    Auszugsdatenbank auszug;
     Backup_Datenbank datenbank;
     Backup_Verzeichnis verzeichnis;
     Portionserstellung erstellung;

@@ -1,6 +1,6 @@
 #include "austausch/vergleich/anforderungs_datenbank.hpp"
 
-#include "austausch/sicherung/auszugsdatenbank.hpp"
+#include "lieder/hinzufuegen/auszugsdatenbank.hpp"
 #include "austausch/vergleich/anforderungsdatei.hpp"
 #include "datenbank/modell.hpp"
 #include "oberflaeche/ansicht.hpp"

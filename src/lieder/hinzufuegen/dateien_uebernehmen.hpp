@@ -11,7 +11,7 @@ namespace tonkartei {
 
 class Dateien_übernehmen {
 public:
-    Dateien_übernehmen(Haus& haus, MP3_TagHead& mp3, Winamp_Steuerung& spieler)
+    Dateien_übernehmen(Haus& haus, MP3_TagHead& mp3, WinAmp_Steuerung& spieler)
         : modell_(haus.modell),
           dateien_(haus.plattform.Dateisystem),
           shell_(haus.plattform.Shell),
@@ -37,7 +37,7 @@ private:
     Shell& shell_;
     Fortschritts_Fenster& fortschritt_;
     MP3_TagHead& mp3_;
-    Winamp_Steuerung& spieler_;
+    WinAmp_Steuerung& spieler_;
     Long A_ = 0;
 };
 

@@ -30,7 +30,7 @@ bool Datenbank_Quelle::sammeln(const Text& ordner) {
     for (int k = 1; k <= quelle->Anzahl_Kategorien; ++k) kategorien.push_back(quelle->Kategorien[k]);
     const auto gewählt = start_Kategorien_.wählen(kategorien);
     if (!gewählt) return false;
-    zuordnung_.Quell_Kategorien = std::move(kategorien);
+    zuordnung_.Quelle_setzen(std::move(kategorien));
     liste_.Reset();
     for (Long nr = 1; nr <= quelle->Anzahl_Lieder; ++nr) {
         const Lied& lied = quelle->Lieder[nr];

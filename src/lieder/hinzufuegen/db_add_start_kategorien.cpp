@@ -5,7 +5,7 @@
 namespace tonkartei {
 
 DB_add_start_Kategorien::DB_add_start_Kategorien(Ansicht& ansicht)
-    : Fenster(ansicht, "DB_add_start_Kategorien", "Kategorien hinzufügen"), kästen_([this] {
+    : Wartedialog(ansicht, "DB_add_start_Kategorien", "Kategorien hinzufügen"), kästen_([this] {
           std::array<std::unique_ptr<Kasten>, Kategorien_maximal> kästen;
           int k = 0;
           for (auto& kasten : kästen) kasten = std::make_unique<Kasten>(*this, "Kategorie", "", ++k);
@@ -23,8 +23,9 @@ DB_add_start_Kategorien::DB_add_start_Kategorien(Ansicht& ansicht)
     Vorgabeknopf = &Ok;
     Abbruchknopf = &Abbruch;
     Ok.Klick.verbinden([this] {
-        bestätigt_ = true;
-        entladen();
+        Kategorieauswahl gewählt{};
+        for (int k = 1; k <= Kategorien_maximal; ++k) gewählt[static_cast<std::size_t>(k - 1)] = Kategorie(k).wert();
+        antworten(gewählt);
     });
     Abbruch.Klick.verbinden([this] { entladen(); });
 }
@@ -34,27 +35,20 @@ Kasten& DB_add_start_Kategorien::Kategorie(int k) const {
     return *kästen_[static_cast<std::size_t>(k - 1)];
 }
 
-std::optional<std::array<bool, Kategorien_maximal>> DB_add_start_Kategorien::wählen(const std::vector<Text>& Namen) {
-    bestätigt_ = false;
-    fertig_ = false;
-    laden();
-    for (int k = 1; k <= Kategorien_maximal; ++k) {
-        const auto stelle = static_cast<std::size_t>(k - 1);
-        const bool da = stelle < Namen.size();
-        Kategorie(k).beschriftung(da ? Namen[stelle] : "");
-        Kategorie(k).sichtbar(da);
-    }
-    Kategorie(1).wert(true);
-    neu_anordnen();
-    const Größe knapp = Mindestgröße();
-    größe(knapp.breite, knapp.höhe);
-    zeigen();
-    ansicht().fokus(Ok);
-    ansicht().warten_bis(*this, [this] { return fertig_; });
-    if (!bestätigt_) return std::nullopt;
-    std::array<bool, Kategorien_maximal> gewählt{};
-    for (int k = 1; k <= Kategorien_maximal; ++k) gewählt[static_cast<std::size_t>(k - 1)] = Kategorie(k).wert();
-    return gewählt;
+std::optional<Kategorieauswahl> DB_add_start_Kategorien::wählen(const std::vector<Text>& Namen) {
+    const auto füllen = [&] {
+        for (int k = 1; k <= Kategorien_maximal; ++k) {
+            const auto stelle = static_cast<std::size_t>(k - 1);
+            const bool da = stelle < Namen.size();
+            Kategorie(k).beschriftung(da ? Namen[stelle] : "");
+            Kategorie(k).sichtbar(da);
+        }
+        Kategorie(1).wert(true);
+        neu_anordnen();
+        const Größe knapp = Mindestgröße();
+        größe(knapp.breite, knapp.höhe);
+    };
+    return fragen(füllen, Ok);
 }
 
 Knoten DB_add_start_Kategorien::anordnung() {
@@ -64,8 +58,6 @@ Knoten DB_add_start_Kategorien::anordnung() {
                    Zeile({Feder(), Knoten(Ok).zeichen(12), Knoten(Abbruch).zeichen(12)})})
         .rand(12 * Twips_je_Pixel);
 }
-
-void DB_add_start_Kategorien::beim_Entladen() { fertig_ = true; }
 
 // Box 1 excludes the others.
 void DB_add_start_Kategorien::Kasten_geändert(int k) {

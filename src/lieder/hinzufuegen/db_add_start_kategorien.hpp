@@ -8,11 +8,14 @@
 
 #include "datenbank/modell.hpp"
 #include "oberflaeche/elemente.hpp"
-#include "oberflaeche/fenster.hpp"
+#include "oberflaeche/wartedialog.hpp"
 
 namespace tonkartei {
 
-class DB_add_start_Kategorien : public Fenster {
+// A flag for each category, place 0 for category 1.
+using Kategorieauswahl = std::array<bool, Kategorien_maximal>;
+
+class DB_add_start_Kategorien : public Wartedialog<Kategorieauswahl> {
 public:
     explicit DB_add_start_Kategorien(Ansicht& ansicht);
 
@@ -26,17 +29,16 @@ public:
     // The box of a category of the other collection, 1 to 20; error 9 outside. The first stands for all songs.
     Kasten& Kategorie(int k) const;
 
-    // Waits for the choice; box 1 is checked at first. What is at k - 1 belongs to category k. None when it was cancelled.
-    std::optional<std::array<bool, Kategorien_maximal>> wählen(const std::vector<Text>& Namen);
+    // Waits for the choice; box 1 is checked at first. None when it was cancelled.
+    std::optional<Kategorieauswahl> wählen(const std::vector<Text>& Namen);
 
 protected:
     Knoten anordnung() override;
-    void beim_Entladen() override;
 
 private:
     void Kasten_geändert(int k);
 
-    bool bestätigt_ = false, fertig_ = true, gleicht_an_ = false;
+    bool gleicht_an_ = false;
 };
 
 }  // namespace tonkartei

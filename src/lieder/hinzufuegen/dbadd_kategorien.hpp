@@ -5,16 +5,18 @@
 #include <vector>
 
 #include "datenbank/modell.hpp"
+#include "kategorien/kategoriezuordnung.hpp"
 #include "lieder/hinzufuegen/uebernahme_auftrag.hpp"
 #include "oberflaeche/elemente.hpp"
-#include "oberflaeche/fenster.hpp"
 #include "oberflaeche/listen.hpp"
+#include "oberflaeche/wartedialog.hpp"
 
 namespace tonkartei {
 
 class Kategorie_bearbeiten;
 
-class DBadd_Kategorien : public Fenster {
+// Its answer is the mapping itself, however it is closed.
+class DBadd_Kategorien : public Wartedialog<bool> {
 public:
     DBadd_Kategorien(Ansicht& ansicht, const Modell& modell, Kategorie_bearbeiten& editor);
 
@@ -25,8 +27,8 @@ public:
     Knopf Kategorie_Edit{*this, "Kategorie_Edit", "Kategorien &bearbeiten..."};
     Knopf Ok{*this, "Ok", "&OK"};
 
-    // Names of the other collection's categories, from 1; at most 20. Set by the source.
-    std::vector<Text> Quell_Kategorien;
+    // Names of the source collection's categories, from 1; at most 20.
+    void Quelle_setzen(std::vector<Text> Kategorien) { zuordnung_.Quelle_setzen(std::move(Kategorien)); }
     // The open collection is the source.
     void eigene_als_Quelle();
 
@@ -39,27 +41,15 @@ public:
 
 protected:
     Knoten anordnung() override;
-    void beim_Entladen() override;
 
 private:
     void bearbeiten();
     void nach_dem_Bearbeiten();
-    // The editor gave the own categories other numbers (0: gone, then each song is asked for).
-    void umnummerieren(const std::function<Byte(Byte)>& neue);
-    Byte gleichnamige(const Text& name) const;
-    void nach_Namen_zuordnen();
     std::vector<Byte> je_Lied(Long A, const std::vector<Lied_Fund>& Lieder) const;
-    void Ziele_füllen();
-    void Zeilen_füllen();
-    Text Zeile_von(int quelle) const;
-    void Quelle_gewählt();
-    void Ziel_gewählt();
 
     const Modell& modell_;
     Kategorie_bearbeiten& editor_;
-    Feld<Byte, Kategorien_maximal> Kategorie_Zuordnung_;  // by number of the source category; 0 asks for each song
-    std::vector<Text> alte_Namen_;                        // of the own categories, before the editor was opened
-    bool füllt_ = false, fertig_ = true;
+    Kategoriezuordnung zuordnung_{modell_, Liste, neue_Kategorie};
 };
 
 }  // namespace tonkartei

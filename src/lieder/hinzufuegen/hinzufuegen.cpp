@@ -19,7 +19,8 @@ Hinzufügen::Hinzufügen(Datenbankraum& d, MP3_TagHead& mp3, Albenraum& alben, K
       verzeichnis(d.haus.ansicht, d.haus.plattform.Dateisystem, d.haus.einstellungen),
       dateien(d.haus, verzeichnis, liste),
       start_kategorien(d.haus.ansicht),
-      datenbank(d.haus, d.öffnen, start_kategorien, zuordnung, liste) {
+      datenbank(d.haus, d.öffnen, start_kategorien, zuordnung, liste),
+      auszug(d.haus.modell, d.sitzung, zuordnung, liste) {
     kategorien.bearbeiten.umnummeriert.verbinden(
         [this](const std::function<Byte(Byte)>& neue) { eintragen.umnummerieren(neue); });
 }

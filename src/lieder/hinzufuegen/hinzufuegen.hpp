@@ -1,6 +1,7 @@
 // The adding of songs, put together: the sources, the window in which songs are chosen, the commit.
 #pragma once
 
+#include "lieder/hinzufuegen/auszugsdatenbank.hpp"
 #include "lieder/hinzufuegen/begleiter.hpp"
 #include "lieder/hinzufuegen/dateien_uebernehmen.hpp"
 #include "lieder/hinzufuegen/datenbank_quelle.hpp"
@@ -38,6 +39,7 @@ struct Hinzufügen {
     Lieder_hinzufügen dateien;
     DB_add_start_Kategorien start_kategorien;
     Datenbank_Quelle datenbank;
+    Auszugsdatenbank auszug;
 };
 
 }  // namespace tonkartei

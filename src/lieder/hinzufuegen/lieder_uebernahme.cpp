@@ -20,7 +20,7 @@ bool Lieder_Übernahme::ausführen(const Übernahme_Auftrag& auftrag) {
     if (!bestätigt(auftrag)) return false;
     Lauf lauf{auftrag, modell_.Anzahl_Lieder, {}};
     const Während läuft(lauf_, &lauf);
-    const Während umbau(modell_.im_Umbau);
+    const Halb_getan umbau(modell_.im_Umbau);
     const Long A = übernehmen_.ausführen(auftrag);
     if (auftrag.Album_erstellen && !lauf.abgeschlossen) begleiter_.album.erstellen(A, lauf.begleitung);
     if (auftrag.Playlist_erstellen && !lauf.abgeschlossen) begleiter_.playlist.erstellen(lauf.begleitung);

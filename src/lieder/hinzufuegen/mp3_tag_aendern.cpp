@@ -6,7 +6,7 @@
 namespace tonkartei {
 
 MP3_Tag_ändern::MP3_Tag_ändern(Ansicht& ansicht, MP3_TagHead& mp3)
-    : Fenster(ansicht, "MP3_Tag_ändern", "MP3-Tag ändern"), mp3_(mp3) {
+    : Wartedialog(ansicht, "MP3_Tag_ändern", "MP3-Tag ändern"), mp3_(mp3) {
     Pfad.wie_Daten = true;
     Pfad.Beschriftung_wörtlich = true;
     Pfad.eingerahmt = true;
@@ -20,10 +20,7 @@ MP3_Tag_ändern::MP3_Tag_ändern(Ansicht& ansicht, MP3_TagHead& mp3)
         feld->Geändert.verbinden([feld] {
             if (Zeichenzahl(feld->text()) > Tagtext_maximal) feld->text(links(feld->text(), Tagtext_maximal));
         });
-    Ok.Klick.verbinden([this] {
-        bestätigt_ = true;
-        entladen();
-    });
+    Ok.Klick.verbinden([this] { antworten(true); });
     Abbruch.Klick.verbinden([this] { entladen(); });
 }
 
@@ -37,15 +34,14 @@ Knoten MP3_Tag_ändern::anordnung() {
 
 bool MP3_Tag_ändern::Tag_ändern(const Text& Datei, Text& neuer_Artist, Text& neuer_Titel) {
     if (!mp3_.Datei_lesbar(Datei)) return false;
-    bestätigt_ = false;
-    laden();
-    Pfad.beschriftung(anzeigbar(Datei));
-    Pfad.tooltip(anzeigbar(Datei));  // the end of a long one does not fit
-    Artist.text(neuer_Artist);
-    Titel.text(neuer_Titel);
-    zeigen_modal(&Artist);
+    const auto füllen = [&] {
+        Pfad.beschriftung(anzeigbar(Datei));
+        Pfad.tooltip(anzeigbar(Datei));  // the end of a long one does not fit
+        Artist.text(neuer_Artist);
+        Titel.text(neuer_Titel);
+    };
     // The fields keep their texts until the window is loaded again.
-    return bestätigt_ && schreiben(Datei, neuer_Artist, neuer_Titel);
+    return modal_fragen(füllen, Artist).has_value() && schreiben(Datei, neuer_Artist, neuer_Titel);
 }
 
 bool MP3_Tag_ändern::schreiben(const Text& Datei, Text& neuer_Artist, Text& neuer_Titel) {

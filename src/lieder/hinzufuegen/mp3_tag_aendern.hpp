@@ -3,11 +3,12 @@
 
 #include "mp3/mp3_taghead.hpp"
 #include "oberflaeche/elemente.hpp"
-#include "oberflaeche/fenster.hpp"
+#include "oberflaeche/wartedialog.hpp"
 
 namespace tonkartei {
 
-class MP3_Tag_ändern : public Fenster {
+// Answers whether the fields are to be written.
+class MP3_Tag_ändern : public Wartedialog<bool> {
 public:
     MP3_Tag_ändern(Ansicht& ansicht, MP3_TagHead& mp3);
 
@@ -31,7 +32,6 @@ private:
     bool schreiben(const Text& Datei, Text& neuer_Artist, Text& neuer_Titel);
 
     MP3_TagHead& mp3_;
-    bool bestätigt_ = false;
 };
 
 }  // namespace tonkartei

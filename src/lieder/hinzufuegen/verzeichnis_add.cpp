@@ -5,7 +5,7 @@
 namespace tonkartei {
 
 Verzeichnis_add::Verzeichnis_add(Ansicht& ansicht, Dateisystem& dateien, const Einstellungen& einstellungen)
-    : Fenster(ansicht, "Verzeichnis_add", "Verzeichnis hinzufügen"), dateien_(dateien), einstellungen_(einstellungen) {
+    : Wartedialog(ansicht, "Verzeichnis_add", "Verzeichnis hinzufügen"), dateien_(dateien), einstellungen_(einstellungen) {
     Pfad.tooltip("Das Verzeichnis, dessen MP3-Dateien hinzugefügt werden sollen.");
     Pfad_wählen.tooltip("Ein Verzeichnis aussuchen und hinzufügen.");
     Liste.tooltip("Ein Klick übernimmt den Pfad, ein Doppelklick fügt das Verzeichnis hinzu.");
@@ -30,13 +30,7 @@ Verzeichnis_add::Verzeichnis_add(Ansicht& ansicht, Dateisystem& dateien, const E
 }
 
 Text Verzeichnis_add::Dialog() {
-    Ergebnis_.clear();
-    fertig_ = false;
-    zeigen();
-    ansicht().fokus(Pfad);
-    ansicht().warten_bis(*this, [this] { return fertig_; });
-    entladen();
-    return Ergebnis_;
+    return fragen([] {}, Pfad).value_or(Text{});
 }
 
 Knoten Verzeichnis_add::anordnung() {
@@ -53,17 +47,12 @@ void Verzeichnis_add::beim_Laden() {
     Liste.setzen(std::move(zeilen));
 }
 
-void Verzeichnis_add::beim_Entladen() { fertig_ = true; }
-
 void Verzeichnis_add::bestätigen() {
     const Text pfad = Pfad.text();
     if (!pfad.empty()) {
-        if (dateien_.Ordner_da(pfad))
-            Ergebnis_ = mit_Trenner(pfad);
-        else
-            ansicht().informieren(
-                "Verzeichnis hinzufügen",
-                "Dieses Verzeichnis wurde nicht gefunden, oder es ist zur Zeit kein Zugriff darauf möglich!");
+        if (dateien_.Ordner_da(pfad)) return antworten(mit_Trenner(pfad));
+        ansicht().informieren("Verzeichnis hinzufügen",
+                              "Dieses Verzeichnis wurde nicht gefunden, oder es ist zur Zeit kein Zugriff darauf möglich!");
     }
     entladen();
 }

@@ -3,13 +3,13 @@
 
 #include "datenbank/einstellungen.hpp"
 #include "oberflaeche/elemente.hpp"
-#include "oberflaeche/fenster.hpp"
 #include "oberflaeche/listen.hpp"
+#include "oberflaeche/wartedialog.hpp"
 #include "plattform/dateisystem.hpp"
 
 namespace tonkartei {
 
-class Verzeichnis_add : public Fenster {
+class Verzeichnis_add : public Wartedialog<Text> {
 public:
     Verzeichnis_add(Ansicht& ansicht, Dateisystem& dateien, const Einstellungen& einstellungen);
 
@@ -27,15 +27,12 @@ public:
 protected:
     Knoten anordnung() override;
     void beim_Laden() override;
-    void beim_Entladen() override;
 
 private:
     void bestätigen();
 
     Dateisystem& dateien_;
     const Einstellungen& einstellungen_;
-    Text Ergebnis_;
-    bool fertig_ = true;
 };
 
 }  // namespace tonkartei

@@ -44,7 +44,7 @@ std::optional<Zeitpunkt> Datum_aus_Text(const Text& text, int Jahr) {
 }
 
 Datum_eingeben::Datum_eingeben(Ansicht& ansicht, Rechner& rechner)
-    : Fenster(ansicht, "Datum_eingeben", "Datum eingeben"), rechner_(rechner) {
+    : Wartedialog(ansicht, "Datum_eingeben", "Datum eingeben"), rechner_(rechner) {
     Datum.tooltip("Der erste Tag, von dem an gesucht wird.");
     Ok.tooltip("Ab diesem Datum suchen.");
     Abbruch.tooltip("Nicht suchen.");
@@ -56,18 +56,7 @@ Datum_eingeben::Datum_eingeben(Ansicht& ansicht, Rechner& rechner)
 }
 
 std::optional<Zeitpunkt> Datum_eingeben::eingeben() {
-    if (!fertig_) {
-        // Asked for again while it waits: there is one window and one answer, which goes to the first.
-        zeigen();
-        return std::nullopt;
-    }
-    ergebnis_.reset();
-    fertig_ = false;
-    zeigen();
-    ansicht().fokus(Datum);
-    ansicht().warten_bis(*this, [this] { return fertig_; });
-    entladen();
-    return ergebnis_;
+    return fragen([] {}, Datum);
 }
 
 Knoten Datum_eingeben::anordnung() {
@@ -78,17 +67,14 @@ Knoten Datum_eingeben::anordnung() {
 
 void Datum_eingeben::beim_Laden() { Datum.text(als_Text(rechner_.jetzt())); }
 
-void Datum_eingeben::beim_Entladen() { fertig_ = true; }
-
 void Datum_eingeben::bestätigen() {
-    if (!getrimmt(Datum.text()).empty()) {
-        ergebnis_ = Datum_aus_Text(Datum.text(), rechner_.jetzt().Jahr);
-        if (!ergebnis_) {
-            ansicht().informieren("Datum eingeben", "Das ist kein gültiges Datum!");
-            return;
-        }
+    if (getrimmt(Datum.text()).empty()) {
+        entladen();
+    } else if (const auto datum = Datum_aus_Text(Datum.text(), rechner_.jetzt().Jahr)) {
+        antworten(*datum);
+    } else {
+        ansicht().informieren("Datum eingeben", "Das ist kein gültiges Datum!");
     }
-    entladen();
 }
 
 }  // namespace tonkartei

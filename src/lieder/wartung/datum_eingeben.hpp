@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "oberflaeche/elemente.hpp"
-#include "oberflaeche/fenster.hpp"
+#include "oberflaeche/wartedialog.hpp"
 #include "plattform/rechner.hpp"
 
 namespace tonkartei {
@@ -13,7 +13,7 @@ namespace tonkartei {
 // others of the last. None for what is no date of the calendar.
 std::optional<Zeitpunkt> Datum_aus_Text(const Text& text, int Jahr);
 
-class Datum_eingeben : public Fenster {
+class Datum_eingeben : public Wartedialog<Zeitpunkt> {
 public:
     Datum_eingeben(Ansicht& ansicht, Rechner& rechner);
 
@@ -28,14 +28,11 @@ public:
 protected:
     Knoten anordnung() override;
     void beim_Laden() override;
-    void beim_Entladen() override;
 
 private:
     void bestätigen();
 
     Rechner& rechner_;
-    std::optional<Zeitpunkt> ergebnis_;
-    bool fertig_ = true;
 };
 
 }  // namespace tonkartei

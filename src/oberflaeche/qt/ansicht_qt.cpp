@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QDialog>
 #include <QEventLoop>
+#include <QSocketNotifier>
 #include <QSystemTrayIcon>
 #include <QTimer>
 #include <algorithm>
@@ -101,9 +102,10 @@ struct Ansicht_Qt::Innen {
         return nullptr;
     }
 
-    // Once the end is decided, boxes and menus still open go away, so that the loops below them can be left.
+    // Once the end is decided, or nobody is there to answer, boxes and menus still open go away, so that the loops below
+    // them can be left.
     void offene_schließen() const {
-        if (!ansicht.endet()) return;
+        if (!ansicht.endet() && !sitzung_endet) return;
         if (QWidget* menü = QApplication::activePopupWidget())
             menü->close();
         else if (auto* kasten = qobject_cast<QDialog*>(QApplication::activeModalWidget()); kasten && !kasten_bleibt)
@@ -127,9 +129,19 @@ Ansicht_Qt::~Ansicht_Qt() = default;
 
 Fenstermaler_Qt& Ansicht_Qt::maler() noexcept { return innen_->maler; }
 
+void Ansicht_Qt::Sitzung_beenden() { innen_->Sitzungsende(); }
+
+void Ansicht_Qt::bei_Lesbarkeit(int deskriptor, std::function<void()> handler) {
+    if (deskriptor < 0) return;
+    auto* melder = new QSocketNotifier(deskriptor, QSocketNotifier::Read, &innen_->verbindungen);
+    QObject::connect(melder, &QSocketNotifier::activated, melder, std::move(handler));
+}
+
 Antwort Ansicht_Qt::melden(const Meldungsfeld& feld) {
     if (innen_->sitzung_endet) return feld.vorgabe;
-    return innen_->zeigen([&](QWidget* eltern) { return Meldung_zeigen(feld, eltern); });
+    const Antwort antwort = innen_->zeigen([&](QWidget* eltern) { return Meldung_zeigen(feld, eltern); });
+    // It went by itself: nobody has answered it.
+    return innen_->sitzung_endet ? feld.vorgabe : antwort;
 }
 
 Text Ansicht_Qt::eingeben(const Text& text, const Text& titel, const Text& vorgabe) {

@@ -46,6 +46,10 @@ public:
     // Handles events until the end is decided or no window is loaded any more.
     void Hauptschleife();
     Fenstermaler_Qt& maler() noexcept;
+    // The user's session ends: the main window closes, boxes take their default.
+    void Sitzung_beenden();
+    // Calls it from the main loop whenever the descriptor can be read from; -1 is none.
+    void bei_Lesbarkeit(int deskriptor, std::function<void()> handler);
 
 protected:
     void Fokus_zeigen(Element& element) override;

@@ -95,7 +95,10 @@ bool Bauteil::eventFilter(QObject* wer, QEvent* was) {
             if (wer != fläche_) return false;
             return Maus(static_cast<QMouseEvent&>(*was));
         case QEvent::Enter:
-            if (wer == fläche_ && darf()) umfeld_.von_Hand([this] { Hand::Maus_bewegen(element_); });
+            if (wer == fläche_ && darf()) {
+                const QPoint stelle = fläche_->mapTo(widget_, static_cast<QEnterEvent&>(*was).position().toPoint());
+                umfeld_.von_Hand([&] { Hand::Maus_bewegen(element_, Twips(stelle.x()), Twips(stelle.y())); });
+            }
             return false;
         case QEvent::Wheel: return !umfeld_.erreichbar(element_.fenster());
         case QEvent::KeyPress: return wer == widget_ && Taste_gedrückt(static_cast<QKeyEvent&>(*was));
@@ -149,7 +152,7 @@ bool Bauteil::Maus(QMouseEvent& ereignis) {
             }
             return schluckt;
         case QEvent::MouseMove:
-            umfeld_.von_Hand([this] { Hand::Maus_bewegen(element_); });
+            umfeld_.von_Hand([&] { Hand::Maus_bewegen(element_, x, y); });
             if (unten_ && ereignis.buttons().testFlag(Qt::LeftButton) &&
                 (stelle - druckpunkt_).manhattanLength() >= QApplication::startDragDistance())
                 ziehen();

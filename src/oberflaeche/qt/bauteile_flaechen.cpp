@@ -90,8 +90,11 @@ private:
         bild_->Name(fläche.Bild);
         bild_->eingerahmt = fläche.eingerahmt;
         bild_->füllung = fläche.hintergrund() == Farbe_Standard ? QColor() : Qt_Farbe(fläche.hintergrund());
+        bild_->spalten = fläche.Rasterspalten;
+        bild_->zeilen = fläche.Rasterzeilen;
         bild_->update();
     }
+    void Wert_zeigen() override { bild_->Linien(static_cast<const Bildfläche&>(element()).linien()); }
 
     Bildwidget* bild_;
 };
@@ -111,6 +114,23 @@ private:
     QProgressBar* bild_;
 };
 
+class Diagramm_Bauteil : public Bauteil {
+public:
+    Diagramm_Bauteil(Umfeld& umfeld, Fensterwidget& fenster, Balken& balken)
+        : Bauteil(umfeld, fenster, balken), bild_(new Diagrammbalken) {
+        aufnehmen(bild_);
+    }
+
+private:
+    void Aussehen_zeigen() override {
+        Bauteil::Aussehen_zeigen();
+        bild_->füllung = Qt_Farbe(element().farbe());
+        bild_->update();
+    }
+
+    Diagrammbalken* bild_;
+};
+
 }  // namespace
 
 Bauteil_Zeiger Schrift_machen(Umfeld& umfeld, Fensterwidget& fenster, Element& element) {
@@ -126,7 +146,9 @@ Bauteil_Zeiger Fläche_machen(Umfeld& umfeld, Fensterwidget& fenster, Element& e
 }
 
 Bauteil_Zeiger Balken_machen(Umfeld& umfeld, Fensterwidget& fenster, Element& element) {
-    return std::make_unique<Balken_Bauteil>(umfeld, fenster, static_cast<Balken&>(element));
+    auto& balken = static_cast<Balken&>(element);
+    if (balken.Diagramm) return std::make_unique<Diagramm_Bauteil>(umfeld, fenster, balken);
+    return std::make_unique<Balken_Bauteil>(umfeld, fenster, balken);
 }
 
 }  // namespace tonkartei

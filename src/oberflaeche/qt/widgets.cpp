@@ -1,6 +1,7 @@
 #include "oberflaeche/qt/widgets.hpp"
 
 #include <QPainter>
+#include <QPainterPath>
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <algorithm>
@@ -8,11 +9,13 @@
 
 #include "oberflaeche/qt/bilder.hpp"
 #include "oberflaeche/qt/stil.hpp"
+#include "oberflaeche/qt/umrechnung.hpp"
 
 namespace tonkartei {
 namespace {
 
 constexpr int modeste_Breite = 360;  // of texts that wrap
+constexpr double lesbar = 4.5;       // contrast of a text and its ground
 
 // Ratio of brightness as the eye sees it, 1 to 21.
 double Kontrast(const QColor& a, const QColor& b) {
@@ -80,7 +83,11 @@ void Schriftbild::paintEvent(QPaintEvent*) {
         flaggen |= Qt::TextWordWrap;
     else if (!zeile.contains(QLatin1Char('\n')))
         zeile = fontMetrics().elidedText(zeile, Qt::ElideRight, platz.width(), flaggen);
-    style()->drawItemText(&maler, platz, flaggen, palette(), isEnabled(), zeile, foregroundRole());
+    QPalette farben = palette();
+    // On a dark ground of its own it stays readable.
+    if (füllung.isValid() && Kontrast(farben.color(foregroundRole()), füllung) < lesbar)
+        farben.setColor(foregroundRole(), füllung.lightnessF() < 0.5F ? Qt::white : Qt::black);
+    style()->drawItemText(&maler, platz, flaggen, farben, isEnabled(), zeile, foregroundRole());
 }
 
 Rahmenbild::Rahmenbild(QWidget* eltern) : QGroupBox(eltern) {}
@@ -134,7 +141,62 @@ void Bildwidget::paintEvent(QPaintEvent*) {
                     QColor::fromRgb(Ton::Linie), 3);
     else if (füllung.isValid())
         maler.fillRect(rect(), füllung);
-    Bild_malen(maler, QRectF(rect()), name_, palette().color(QPalette::WindowText));
+    Raster_malen(maler);
+    if (!name_.empty()) Bild_malen(maler, QRectF(rect()), name_, palette().color(QPalette::WindowText));
+    Linien_malen(maler);
+}
+
+void Bildwidget::Linien(std::vector<Linie> linien) {
+    linien_ = std::move(linien);
+    update();
+}
+
+void Bildwidget::Raster_malen(QPainter& maler) const {
+    maler.setPen(QColor::fromRgb(Ton::Linie_zart));
+    for (int i = 1; i < spalten; ++i) maler.drawLine(width() * i / spalten, 1, width() * i / spalten, height() - 2);
+    for (int i = 1; i < zeilen; ++i) maler.drawLine(1, height() * i / zeilen, width() - 2, height() * i / zeilen);
+}
+
+// What joins in one colour is one stroke with round corners, above a tint of its colour that reaches down to the ground.
+void Bildwidget::Linien_malen(QPainter& maler) const {
+    // A stroke along an edge shows all of its width.
+    const auto punkt = [this](int x, int y) {
+        const double Twips = Twips_je_Pixel;
+        return QPointF(x / Twips, std::clamp(y / Twips, 1.0, std::max(1.0, height() - 1.0)));
+    };
+    maler.setRenderHint(QPainter::Antialiasing);
+    for (std::size_t i = 0; i < linien_.size();) {
+        const Linie& erste = linien_[i];
+        QPainterPath zug(punkt(erste.x1, erste.y1));
+        QPointF ende;
+        const std::size_t anfang = i;
+        do {
+            ende = punkt(linien_[i].x2, linien_[i].y2);
+            zug.lineTo(ende);
+            ++i;
+        } while (i < linien_.size() && linien_[i].farbe == erste.farbe && linien_[i].x1 == linien_[i - 1].x2 &&
+                 linien_[i].y1 == linien_[i - 1].y2);
+        QColor farbe = Qt_Farbe(erste.farbe);
+        if (i - anfang > 1) {
+            QPainterPath fläche = zug;
+            fläche.lineTo(ende.x(), height());
+            fläche.lineTo(zug.elementAt(0).x, height());
+            fläche.closeSubpath();
+            QColor hauch = farbe;
+            hauch.setAlpha(24);
+            maler.fillPath(fläche, hauch);
+        }
+        maler.strokePath(zug, QPen(farbe, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    }
+}
+
+void Diagrammbalken::paintEvent(QPaintEvent*) {
+    QPainter maler(this);
+    maler.setRenderHint(QPainter::Antialiasing);
+    maler.setPen(Qt::NoPen);
+    maler.setBrush(füllung);
+    const double rundung = std::min(2.5, width() / 2.0);
+    maler.drawRoundedRect(QRectF(rect()), rundung, rundung);
 }
 
 }  // namespace tonkartei

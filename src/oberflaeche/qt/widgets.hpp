@@ -10,8 +10,12 @@
 #include <QMargins>
 #include <QRadioButton>
 #include <QTabBar>
+#include <vector>
 
 #include "grundlagen/text.hpp"
+#include "oberflaeche/elemente.hpp"
+
+class QPainter;
 
 namespace tonkartei {
 
@@ -87,19 +91,35 @@ protected:
     void paintEvent(QPaintEvent* was) override;
 };
 
-// A picture of the program, as large as fits; in a frame on its own small panel.
+// A bar of a chart.
+class Diagrammbalken : public QWidget {
+public:
+    using QWidget::QWidget;
+    QColor füllung;
+
+protected:
+    void paintEvent(QPaintEvent* was) override;
+};
+
+// A picture of the program, as large as fits, or lines on a grid; in a frame on its own small panel.
 class Bildwidget : public QWidget {
 public:
     explicit Bildwidget(Text name, QWidget* eltern = nullptr) : QWidget(eltern), name_(std::move(name)) {}
     void Name(const Text& name);
     bool eingerahmt = false;
     QColor füllung;  // invalid: none
+    int spalten = 0, zeilen = 0;
+    void Linien(std::vector<Linie> linien);
 
 protected:
     void paintEvent(QPaintEvent* was) override;
 
 private:
+    void Raster_malen(QPainter& maler) const;
+    void Linien_malen(QPainter& maler) const;
+
     Text name_;
+    std::vector<Linie> linien_;
 };
 
 }  // namespace tonkartei

@@ -5,13 +5,13 @@
 #include <sys/types.h>
 
 #include "plattform/dateisystem.hpp"
-#include "plattform/linux/namensbuch.hpp"
+#include "plattform/linux/schreibweise.hpp"
 
 struct stat;
 
 namespace tonkartei {
 
-// Where the exact last name of a path is missing, the one that equals it but for case is meant, if the folder has it.
+// Where a path does not exist as it stands, the one that equals it but for case is meant (schreibweise.hpp).
 // FIFOs, sockets and devices count as not accessible and are never waited for.
 class Dateisystem_Linux : public Dateisystem {
 public:
@@ -37,6 +37,8 @@ public:
 
     // Folders, too. A change of case alone is no existing target.
     void umbenennen(const Text& von, const Text& nach) override;
+    // The target keeps its own spelling.
+    void ersetzen(const Text& von, const Text& nach) override;
     // A link is deleted itself, not what it points to.
     void löschen(const Text& pfad) override;
     void Ordner_anlegen(const Text& pfad) override;
@@ -49,7 +51,7 @@ public:
 
     // With a separator at its end; at first the process's.
     const Text& aktueller_Ordner() const override { return aktueller_Ordner_; }
-    // 76 when it is no folder.
+    // In the disk's spelling. 76 when it is no folder.
     void aktuellen_Ordner_setzen(const Text& ordner) override;
 
 private:
@@ -59,21 +61,18 @@ private:
         dev_t gerät = 0;
         ino_t nummer = 0;
         std::uint64_t länge = 0;
-        Text pfad;
+        Text pfad;    // as it was opened
+        Text ordner;  // with the disk's spelling
     };
 
     Offen& Offen_von(Griff griff);
     // The open file that this is, preferably one that writes; null without.
     const Offen* offen_hier(const struct stat& datei) const;
     Text voll(const Text& pfad) const;
-    bool anders_geschrieben(Text& pfad, bool& Ordner_fehlt);
-    int ansehen(Text& pfad, struct stat& ergebnis, bool Verweis_selbst);
-    Deskriptor öffne_Quelle(Text& pfad);
-    Deskriptor öffne_Ziel(Text& pfad, mode_t rechte);
 
     Text aktueller_Ordner_;
     std::vector<Offen> offene_;  // handle n at n - 1
-    Namensbuch namen_;
+    Schreibweise namen_;
 };
 
 }  // namespace tonkartei

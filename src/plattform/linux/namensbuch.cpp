@@ -3,8 +3,10 @@
 #include <dirent.h>
 #include <sys/inotify.h>
 
+#include <climits>
 #include <cstring>
 #include <ctime>
+#include <utility>
 
 namespace tonkartei {
 namespace {
@@ -12,6 +14,8 @@ namespace {
 // Without notices only the modification time tells of changes, and the file system's clock ticks coarsely: a folder that
 // changed so shortly before it was read may change again unseen within the tick.
 constexpr long long Unschärfe_ns = 20'000'000;
+
+constexpr std::size_t längste_Nachricht = sizeof(inotify_event) + NAME_MAX + 1;
 
 long long Nanosekunden(const struct timespec& zeit) { return zeit.tv_sec * 1'000'000'000LL + zeit.tv_nsec; }
 
@@ -34,16 +38,15 @@ void Namensbuch::Ordner::weg(const Text& name) {
         }
 }
 
-// True when anything has come in.
-bool Namensbuch::Nachrichten_lesen() {
-    if (!nachrichten_) return false;
-    bool etwas = false;
+// What has come in belongs to any of the folders, not only to the one that is asked for.
+void Namensbuch::Nachrichten_lesen() {
+    if (!nachrichten_) return;
     alignas(inotify_event) char puffer[16 * 1024];
     for (;;) {
         const auto länge = ungestört([&] { return ::read(nachrichten_.fd(), puffer, sizeof puffer); });
-        if (länge <= 0) return etwas;
-        etwas = true;
-        for (std::size_t i = 0; i < static_cast<std::size_t>(länge);) {
+        if (länge <= 0) return;
+        const auto voll = static_cast<std::size_t>(länge);
+        for (std::size_t i = 0; i < voll;) {
             inotify_event nachricht;
             std::memcpy(&nachricht, puffer + i, sizeof nachricht);
             const char* name = puffer + i + sizeof nachricht;
@@ -51,12 +54,14 @@ bool Namensbuch::Nachrichten_lesen() {
             for (Ordner& ordner : ordner_) {
                 if ((nachricht.mask & IN_Q_OVERFLOW) != 0) ordner.verlässlich = false;
                 if (!ordner.belegt || ordner.wache != nachricht.wd) continue;
+                ordner.benachrichtigt = true;
                 if ((nachricht.mask & IN_IGNORED) != 0) ordner.wache = -1;
                 if ((nachricht.mask & (IN_IGNORED | IN_DELETE_SELF | IN_UNMOUNT)) != 0) ordner.verlässlich = false;
                 if ((nachricht.mask & (IN_CREATE | IN_MOVED_TO)) != 0) ordner.dazu(name);
                 if ((nachricht.mask & (IN_DELETE | IN_MOVED_FROM)) != 0) ordner.weg(name);
             }
         }
+        if (voll + längste_Nachricht <= sizeof puffer) return;  // there was room for one more
     }
 }
 
@@ -90,6 +95,7 @@ bool Namensbuch::einlesen(Ordner& ordner, const Text& pfad, const struct stat& j
     while (const dirent* eintrag = ::readdir(verzeichnis)) ordner.namen.emplace(groß(eintrag->d_name), eintrag->d_name);
     ::closedir(verzeichnis);
     ordner.geändert = jetzt.st_mtim;
+    ordner.benachrichtigt = false;
     struct timespec uhr {};
     ::clock_gettime(CLOCK_REALTIME, &uhr);
     ordner.verlässlich = ordner.wache >= 0 || Nanosekunden(uhr) - Nanosekunden(jetzt.st_mtim) > Unschärfe_ns;
@@ -99,17 +105,17 @@ bool Namensbuch::einlesen(Ordner& ordner, const Text& pfad, const struct stat& j
 Namensbuch::Ergebnis Namensbuch::suche(const Text& ordner, std::string_view name, Text& gefunden) {
     struct stat jetzt {};
     if (::stat(ordner.c_str(), &jetzt) != 0 || !S_ISDIR(jetzt.st_mode)) return Ergebnis::Ordner_fehlt;
-    const bool Nachricht_da = Nachrichten_lesen();
+    Nachrichten_lesen();
     Ordner& seiner = Platz_für(jetzt);
-    if (Nachricht_da && seiner.wache >= 0) seiner.geändert = jetzt.st_mtim;
+    if (std::exchange(seiner.benachrichtigt, false)) seiner.geändert = jetzt.st_mtim;
     if (!seiner.verlässlich || Nanosekunden(seiner.geändert) != Nanosekunden(jetzt.st_mtim))
         if (!einlesen(seiner, ordner, jetzt)) return Ergebnis::Name_fehlt;
     const auto [von, bis] = seiner.namen.equal_range(groß(name));
     if (von == bis) return Ergebnis::Name_fehlt;
-    auto erster = von;
-    for (auto i = von; i != bis; ++i)
-        if (i->second < erster->second) erster = i;
-    gefunden = erster->second;
+    auto bester = von;
+    for (auto i = von; i != bis && bester->second != name; ++i)
+        if (i->second == name || i->second < bester->second) bester = i;
+    gefunden = bester->second;
     return Ergebnis::gefunden;
 }
 

@@ -4,10 +4,10 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
-#include <optional>
 
 #include "plattform/linux/systemruf.hpp"
 #include "plattform/linux/xdg.hpp"
+#include "plattform/offene_datei.hpp"
 
 namespace tonkartei {
 namespace {
@@ -29,12 +29,12 @@ Text Prozentform(std::string_view pfad) {
     return ergebnis;
 }
 
-Text Infotext(const Text& Herkunft) {
+Text Infotext(const Text& herkunft) {
     const Zeitpunkt zeit = örtlich(std::time(nullptr));
     char datum[64];
     std::snprintf(datum, sizeof datum, "%04d-%02d-%02dT%02d:%02d:%02d", zeit.Jahr, zeit.Monat, zeit.Tag, zeit.Stunde,
                   zeit.Minute, zeit.Sekunde);
-    return "[Trash Info]\nPath=" + Prozentform(Herkunft) + "\nDeletionDate=" + datum + "\n";
+    return "[Trash Info]\nPath=" + Prozentform(herkunft) + "\nDeletionDate=" + datum + "\n";
 }
 
 // "Lied.mp3", "Lied.2.mp3", "Lied.3.mp3"
@@ -75,8 +75,8 @@ bool unser_Ordner(const Text& ordner) {
     return ::lstat(ordner.c_str(), &da) == 0 && S_ISDIR(da.st_mode) && da.st_uid == ::geteuid();
 }
 
-// The user's bin on a volume. An administrator's common .Trash counts only if its sticky bit keeps users from each other's
-// files and it is no link.
+}  // namespace
+
 std::optional<Text> Korb_auf(const Text& wurzel) {
     const Text nummer = std::to_string(::geteuid());
     const Text gemeinsam = wurzel + ".Trash";
@@ -87,67 +87,85 @@ std::optional<Text> Korb_auf(const Text& wurzel) {
     return std::nullopt;
 }
 
-}  // namespace
-
 Papierkorb_Freedesktop::Papierkorb_Freedesktop(Dateisystem& dateien, const Text& heimkorb)
     : dateien_(dateien), heimkorb_(mit_Trenner(heimkorb.empty() ? Datenwurzel() + "Trash" : heimkorb)) {}
 
-bool Papierkorb_Freedesktop::ablegen(const Text& korb, const Text& pfad, const Text& Herkunft, Weg weg) {
-    const Text dateien = korb + "files/";
-    const Text infos = korb + "info/";
-    if (!Ordner_kette_anlegen(dateien) || !Ordner_kette_anlegen(infos)) throw Dateifehler(70, pfad);
+void Papierkorb_Freedesktop::ablegen(const Ziel& ziel, const Text& pfad) {
+    const Text dateien = ziel.Korb + "files/", infos = ziel.Korb + "info/";
+    Text eigener = Dateiname_von(pfad);
+    if (eigener.size() > längster_Name) eigener.erase(0, eigener.size() - längster_Name);
     for (int nummer = 1;; ++nummer) {
-        Text eigener = Dateiname_von(pfad);
-        if (eigener.size() > längster_Name) eigener.erase(0, eigener.size() - längster_Name);
         const Text name = Name_mit_Nummer(eigener, nummer);
         const Text info = infos + name + ".trashinfo";
         // The info file reserves the name among all programs that use the bin.
-        const int fd = ungestört([&] { return ::open(info.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600); });
-        if (fd < 0 && errno == EEXIST) continue;
-        if (fd < 0) werfen(errno, pfad, 70);
-        ::close(fd);
+        const Deskriptor belegt = öffne(info, O_WRONLY | O_CREAT | O_EXCL, 0600);
+        if (!belegt && errno == EEXIST) continue;
         try {
-            const auto griff = dateien_.öffnen(info, Dateimodus::ändern);
-            try {
-                dateien_.schreiben(griff, 0, Infotext(Herkunft));
-            } catch (const Dateifehler&) {
-                dateien_.schließen(griff);
-                throw;
-            }
-            dateien_.schließen(griff);
-            if (weg == Weg::umbenennen) {
+            if (!belegt) werfen(errno == ENOENT ? ENOTDIR : errno, pfad, 70);
+            Offene_Datei datei(dateien_, info, Dateimodus::ändern);
+            datei.schreiben(0, Infotext(ziel.Herkunft + Dateiname_von(pfad)));
+            datei.schließen();
+            if (!ziel.hinübertragen) {
                 dateien_.umbenennen(pfad, dateien + name);
             } else {
                 if (dateien_.Dateilänge(dateien + name) >= 0) throw Dateifehler(58, dateien + name);
                 dateien_.kopieren(pfad, dateien + name);
                 dateien_.löschen(pfad);
             }
-            return true;
+            return;
         } catch (const Dateifehler& fehler) {
-            ::unlink(info.c_str());
+            if (belegt) ::unlink(info.c_str());
             if (fehler.Nummer() == 58) continue;  // a file without its info lies there
-            if (weg == Weg::hinübertragen) ::unlink((dateien + name).c_str());
-            if (weg == Weg::umbenennen && fehler.Nummer() == 74) return false;
+            if (ziel.hinübertragen) ::unlink((dateien + name).c_str());
             throw;
         }
     }
 }
 
-void Papierkorb_Freedesktop::wegwerfen(const Text& pfad) {
-    Text ganzer = ist_absolut(pfad) ? pfad : mit_Trenner(dateien_.aktueller_Ordner()) + pfad;
-    while (ganzer.size() > 1 && ganzer.back() == Trenner) ganzer.pop_back();
-    if (!dateien_.Datei_da(ganzer) && !dateien_.Ordner_da(ganzer)) throw Dateifehler(53, pfad);
-    if (dateien_.gleiches_Laufwerk(ganzer, heimkorb_) && ablegen(heimkorb_, ganzer, ganzer, Weg::umbenennen)) return;
-
+// The bins that may take what lies in a folder, best first.
+std::vector<Papierkorb_Freedesktop::Ziel> Papierkorb_Freedesktop::Ziele_für(const Text& ordner) {
+    std::vector<Ziel> ziele;
+    if (dateien_.gleiches_Laufwerk(ordner, heimkorb_)) ziele.push_back({heimkorb_, ordner, false});
     // Through links, the folder's path may begin on another volume than the one it lies on.
-    char echter[PATH_MAX];
-    const Text ordner = ::realpath(Ordner_von(ganzer).c_str(), echter) != nullptr ? mit_Trenner(echter) : Ordner_von(ganzer);
-    const Text wurzel = Laufwerkswurzel(ordner);
+    char platz[PATH_MAX];
+    struct stat da {};
+    Text echter = ordner;
+    namen_.ansehen(echter, da, false);
+    if (::realpath(echter.c_str(), platz) != nullptr) echter = mit_Trenner(platz);
+    const Text wurzel = Laufwerkswurzel(echter);
     if (Gerät(wurzel) != nächstes_Gerät(heimkorb_))
-        if (const auto korb = Korb_auf(wurzel))
-            if (ablegen(*korb, ganzer, (ordner + Dateiname_von(ganzer)).substr(wurzel.size()), Weg::umbenennen)) return;
-    if (!dateien_.Datei_da(ganzer)) throw Dateifehler(75, pfad);
-    ablegen(heimkorb_, ganzer, ganzer, Weg::hinübertragen);
+        if (const auto korb = Korb_auf(wurzel)) ziele.push_back({*korb, echter.substr(wurzel.size()), false});
+    ziele.push_back({heimkorb_, ordner, true});
+    return ziele;
+}
+
+void Papierkorb_Freedesktop::wegwerfen(const Text& pfad) {
+    const Text ganzer = ohne_Trenner(ist_absolut(pfad) ? pfad : mit_Trenner(dateien_.aktueller_Ordner()) + pfad);
+    const Text ordner = Ordner_von(ganzer);
+    const auto versuchen = [&](const Ziel& ziel) {
+        try {
+            ablegen(ziel, ganzer);
+            return true;
+        } catch (const Dateifehler& fehler) {
+            // The bin lies on another volume, or has been removed since.
+            if (fehler.Nummer() != 74 && fehler.Nummer() != 76) throw;
+            return false;
+        }
+    };
+    if (ordner == letzter_Ordner_ && versuchen(letztes_Ziel_)) return;
+    letzter_Ordner_.clear();
+    const Pfadart art = dateien_.Art_von(ganzer);
+    if (art == Pfadart::nichts) throw Dateifehler(53, pfad);
+    for (const Ziel& ziel : Ziele_für(ordner)) {
+        if (ziel.hinübertragen && art != Pfadart::Datei) break;
+        if (!Ordner_kette_anlegen(ziel.Korb + "files/") || !Ordner_kette_anlegen(ziel.Korb + "info/"))
+            throw Dateifehler(70, pfad);
+        if (!versuchen(ziel)) continue;
+        letzter_Ordner_ = ordner;
+        letztes_Ziel_ = ziel;
+        return;
+    }
+    throw Dateifehler(75, pfad);
 }
 
 }  // namespace tonkartei

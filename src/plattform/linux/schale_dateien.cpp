@@ -1,6 +1,7 @@
 #include "plattform/linux/schale_dateien.hpp"
 
 #include "grundlagen/fehler.hpp"
+#include "plattform/offene_datei.hpp"
 
 namespace tonkartei {
 namespace {
@@ -30,11 +31,6 @@ int Rückgabe_von(const Dateifehler& fehler) {
         case 74: return 17;
         default: return 29;
     }
-}
-
-Text ohne_Trenner(Text pfad) {
-    while (pfad.size() > 1 && pfad.back() == Trenner) pfad.pop_back();
-    return pfad;
 }
 
 Text für_die_Frage(const Text& pfad) { return in_Anführungszeichen(anzeigbar(Dateiname_von(ohne_Trenner(pfad)))); }
@@ -127,7 +123,8 @@ void Shell_Dateivorgang::übertragen() {
             ziel = mit_Trenner(ziel) + Dateiname_von(quelle);
             dort = dateien_.Art_von(ziel);
         }
-        if (const Text ordner = Ordner_von(ziel); dort == Pfadart::nichts && !ordner.empty()) Zielordner_anlegen(ordner);
+        if (const Text ordner = Ordner_von(ziel); dort == Pfadart::nichts && !ordner.empty() && ordner != Ordner_von(quelle))
+            Zielordner_anlegen(ordner);
         einen_übertragen(quelle, art, std::move(ziel), dort);
     }
 }
@@ -156,7 +153,8 @@ Text Shell_Dateivorgang::freier_Name(const Text& ziel) {
 void Shell_Dateivorgang::einen_übertragen(const Text& von, Pfadart art, Text nach, Pfadart dort) {
     const bool Ordner = art == Pfadart::Ordner;
     const bool verschieben = vorgang_.Code != FO_COPY;
-    if (Ordner && mit_Trenner(nach).rfind(mit_Trenner(von), 0) == 0 && nach != von) throw Fehlschlag{FEHLER_ZIEL_IM_ORDNER};
+    if (Ordner && groß(nach) != groß(von) && groß(mit_Trenner(nach)).starts_with(groß(mit_Trenner(von))))
+        throw Fehlschlag{FEHLER_ZIEL_IM_ORDNER};
     // Only the spelling changes: the target that would be found is the source itself.
     if (verschieben && nach != von && groß(nach) == groß(von)) {
         dateien_.umbenennen(von, nach);
@@ -198,13 +196,15 @@ void Shell_Dateivorgang::einen_übertragen(const Text& von, Pfadart art, Text na
 }
 
 void Shell_Dateivorgang::Datei_übertragen(const Text& von, const Text& nach, bool ersetzen) {
+    // Two sources whose names differ by case alone would end as one file.
+    if (const auto [i, neu] = ziele_.try_emplace(groß(nach), nach); !neu && i->second != nach) throw Dateifehler(58, nach);
     if (vorgang_.Code == FO_COPY) {
         dateien_.kopieren(von, nach);
         return;
     }
     try {
         if (ersetzen)
-            ersetzend_umbenennen(von, nach);
+            dateien_.ersetzen(von, nach);
         else
             dateien_.umbenennen(von, nach);
         return;
@@ -214,31 +214,8 @@ void Shell_Dateivorgang::Datei_übertragen(const Text& von, const Text& nach, bo
     dateien_.kopieren(von, nach);
     if (dateien_.Dateilänge(nach) != dateien_.Dateilänge(von)) throw Dateifehler(57, nach);
     // The source goes only when the copy would survive a power failure.
-    const auto griff = dateien_.öffnen(nach, Dateimodus::lesen);
-    try {
-        dateien_.sichern(griff);
-    } catch (const Dateifehler&) {
-        dateien_.schließen(griff);
-        throw;
-    }
-    dateien_.schließen(griff);
+    Offene_Datei(dateien_, nach, Dateimodus::lesen).sichern();
     dateien_.löschen(von);
-}
-
-// The old target steps aside and is deleted last: when source and target turn out to be one file under two names, or the
-// renaming fails, everything is put back.
-void Shell_Dateivorgang::ersetzend_umbenennen(const Text& von, const Text& nach) {
-    if (!dateien_.gleiches_Laufwerk(von, nach)) throw Dateifehler(74, nach);
-    Text beiseite;
-    for (int nummer = 1; beiseite.empty() || da(beiseite); ++nummer) beiseite = nach + ".alt" + std::to_string(nummer);
-    dateien_.umbenennen(nach, beiseite);
-    try {
-        dateien_.umbenennen(von, nach);
-    } catch (const Dateifehler&) {
-        dateien_.umbenennen(beiseite, nach);
-        throw;
-    }
-    dateien_.löschen(beiseite);
 }
 
 void Shell_Dateivorgang::Ordner_übertragen(const Text& von, const Text& nach, int tiefe) {

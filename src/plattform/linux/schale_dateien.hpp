@@ -1,17 +1,13 @@
 // The shell's file operation, made of the calls of Dateisystem alone.
 #pragma once
 
-#include <functional>
+#include <unordered_map>
 
 #include "plattform/dateisystem.hpp"
 #include "plattform/linux/papierkorb.hpp"
 #include "plattform/shell.hpp"
 
 namespace tonkartei {
-
-enum class Shell_Antwort { Ja, Nein, Abbrechen };
-// Asks the user, with the three answers as buttons.
-using Shell_Frage = std::function<Shell_Antwort(const Text& Titel, const Text& Frage)>;
 
 // One call of SHFileOperationA. The result is 0, or the system error's Windows number of the first file that failed, with
 // which the work ends. "Nein" passes a file over, "Abbrechen" ends the work; both count as aborted by the user.
@@ -34,13 +30,13 @@ private:
     void Datei_übertragen(const Text& von, const Text& nach, bool ersetzen);
     void Ordner_übertragen(const Text& von, const Text& nach, int tiefe);
     void Ordner_entfernen(const Text& ordner, int tiefe);
-    void ersetzend_umbenennen(const Text& von, const Text& nach);
     Text freier_Name(const Text& ziel);
 
     Dateisystem& dateien_;
     Papierkorb& papierkorb_;
     const Shell_Frage& frage_;
     const Shell_Vorgang& vorgang_;
+    std::unordered_map<Text, Text> ziele_;  // files written so far: upper case to spelling
     bool übergangen_ = false;
 };
 

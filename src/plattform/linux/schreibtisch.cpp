@@ -20,7 +20,8 @@ Deskriptor öffnen(bool anlegen) {
     Deskriptor ordner(::open(pfad.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
     struct stat st;
     if (!ordner || ::fstat(ordner.fd(), &st) != 0) return {};
-    if (st.st_uid != ::geteuid() || (st.st_mode & 0777) != 0700) return {};
+    if (st.st_uid != ::geteuid()) return {};
+    if ((st.st_mode & 0777) != 0700 && ::fchmod(ordner.fd(), 0700) != 0) return {};
     return ordner;
 }
 

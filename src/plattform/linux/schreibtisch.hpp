@@ -17,8 +17,8 @@ namespace tonkartei::schreibtisch {
 inline constexpr Hwnd Griff = 1;  // the desktop's own handle
 inline constexpr Hwnd Erster_Fenstergriff = 100;
 
-// The folder, opened; an empty descriptor when there is none, or when it is not ours alone (other owner, other rights, a
-// link). With `anlegen` it is made if missing.
+// The folder, opened; an empty descriptor when there is none, or when it is not ours (other owner, a link). Rights that it
+// gives to others are taken back. With `anlegen` it is made if missing.
 Deskriptor öffnen(bool anlegen);
 
 // The handle that a socket's name stands for.

@@ -15,7 +15,7 @@ Text Spieler_Pfad() {
     if (länge <= 0) return {};
     const Text ordner = Ordner_von(Text(puffer.data(), static_cast<std::size_t>(länge)));
     for (const char* ort : {"WinAmp.Exe", "../lib/tonkartei/WinAmp.Exe", "../libexec/tonkartei/WinAmp.Exe"}) {
-        const Text pfad = ordner + ort;
+        Text pfad = ordner + ort;
         struct stat daten {};
         if (stat(pfad.c_str(), &daten) == 0 && S_ISREG(daten.st_mode) && access(pfad.c_str(), X_OK) == 0) return pfad;
     }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "datenbank/einstellungen.hpp"
 #include "plattform/rechner.hpp"
@@ -21,14 +22,14 @@ constexpr Long Beenden_wenn_gestoppt = 3;
 
 }  // namespace
 
-WinAmp::WinAmp(Einstellungen& einstellungen, Winamp_Steuerung& steuerung, Fenstersuche& suche, Rechner& rechner)
-    : einstellungen_(einstellungen), steuerung_(steuerung), suche_(suche), rechner_(rechner) {}
+WinAmp::WinAmp(Text Klasse, Einstellungen& einstellungen, WinAmp_Steuerung& steuerung, Fenstersuche& suche, Rechner& rechner)
+    : Klasse_(std::move(Klasse)), einstellungen_(einstellungen), steuerung_(steuerung), suche_(suche), rechner_(rechner) {}
 
 void WinAmp::nachsehen() {
-    WinAmp_Hwnd = suche_.Fenster_suchen_global(WinAmp_Klasse);
+    WinAmp_Hwnd = suche_.Fenster_suchen_global(Klasse_);
     WinAmp_da = WinAmp_Hwnd != 0;
     if (!WinAmp_da) return;
-    WinAmp_Status = steuerung_.WinAmp_Status_lesen(WinAmp_Hwnd);
+    WinAmp_Status = steuerung_.WinAmp_Status_lesen(WinAmp_Hwnd).value_or(WinAmp_Status);
     if (einstellungen_.WinAmp_verstecken && !WinAmp_versteckt) verstecken();
 }
 
@@ -59,9 +60,15 @@ void WinAmp::springen(double Sekunden) {
         steuerung_.WinAmp_springen(WinAmp_Hwnd, gerundet(std::clamp<double>(Sekunden * 1000, Grenze::min(), Grenze::max())));
 }
 
-Long WinAmp::Position() { return WinAmp_da ? steuerung_.WinAmp_Position_lesen(WinAmp_Hwnd) : 0; }
+Long WinAmp::Position() {
+    if (!WinAmp_da) return 0;
+    return Position_ = steuerung_.WinAmp_Position_lesen(WinAmp_Hwnd).value_or(Position_);
+}
 
-Long WinAmp::Länge() { return WinAmp_da ? steuerung_.WinAmp_Länge_lesen(WinAmp_Hwnd) : 0; }
+Long WinAmp::Länge() {
+    if (!WinAmp_da) return 0;
+    return Länge_ = steuerung_.WinAmp_Länge_lesen(WinAmp_Hwnd).value_or(Länge_);
+}
 
 void WinAmp::Lautstärke_stellen(Long Wert) {
     Wert = std::clamp<Long>(Wert, 0, Lautstärke_maximal);

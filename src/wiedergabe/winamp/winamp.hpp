@@ -1,4 +1,4 @@
-// The program's own player as last seen: its window, what it is doing, whether the program hid it.
+// A player of one window class as last seen: its window, what it is doing, whether the program hid it.
 #pragma once
 
 #include "wiedergabe/winamp/winamp_steuerung.hpp"
@@ -9,8 +9,8 @@ struct Einstellungen;
 class Fenstersuche;
 class Rechner;
 
-// Window class with which the program starts its player. The search takes it as a part, so it also finds players whose
-// class goes on behind it.
+// Window class of the program's own player. The search takes it as a part, so it also finds players whose class goes on
+// behind it.
 inline constexpr const char* WinAmp_Klasse = "Tonkartei";
 
 // The loudest of the volume slider.
@@ -18,13 +18,13 @@ inline constexpr Long Lautstärke_maximal = 100;
 
 class WinAmp {
 public:
-    WinAmp(Einstellungen& einstellungen, Winamp_Steuerung& steuerung, Fenstersuche& suche, Rechner& rechner);
+    WinAmp(Text Klasse, Einstellungen& einstellungen, WinAmp_Steuerung& steuerung, Fenstersuche& suche, Rechner& rechner);
 
     // As of the last look.
     Hwnd WinAmp_Hwnd = 0;
     bool WinAmp_da = false;
-    // Keeps its last value while no player is there. Stopped at first: nothing plays as far as anybody knows, and every
-    // reader may rely on one of the three.
+    // Keeps its last value while no player is there, or the one that is there hangs. Stopped at first: nothing plays as far
+    // as anybody knows, and every reader may rely on one of the three.
     Long WinAmp_Status = Status_gestoppt;
     bool WinAmp_versteckt = false;
 
@@ -40,7 +40,7 @@ public:
     void Befehl(std::int32_t Code);
     // To that second of the song. What does not fit the message's milliseconds becomes the nearest that does.
     void springen(double Sekunden);
-    // As the player tells them, which may be anything: milliseconds; seconds.
+    // As the player tells them, which may be anything: milliseconds; seconds. Of one that hangs, as last told.
     Long Position();
     Long Länge();
 
@@ -63,10 +63,12 @@ public:
 private:
     void verstecken();
 
+    const Text Klasse_;
     Einstellungen& einstellungen_;
-    Winamp_Steuerung& steuerung_;
+    WinAmp_Steuerung& steuerung_;
     Fenstersuche& suche_;
     Rechner& rechner_;
+    Long Position_ = 0, Länge_ = 0;
 };
 
 }  // namespace tonkartei

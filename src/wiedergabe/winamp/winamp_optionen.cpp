@@ -3,7 +3,6 @@
 #include <limits>
 
 #include "datenbank/einstellungen.hpp"
-#include "datenbank/modell.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "plattform/dateisystem.hpp"
 #include "wiedergabe/winamp/winamp.hpp"
@@ -11,9 +10,9 @@
 
 namespace tonkartei {
 
-WinAmp_Optionen::WinAmp_Optionen(Modell& modell, Einstellungen& einstellungen, Ansicht& ansicht, WinAmp& winamp,
+WinAmp_Optionen::WinAmp_Optionen(Einstellungen& einstellungen, Ansicht& ansicht, WinAmp& winamp,
                                  const WinAmp_Programm& programm)
-    : modell_(modell), einstellungen_(einstellungen), ansicht_(ansicht), winamp_(winamp), programm_(programm) {}
+    : einstellungen_(einstellungen), ansicht_(ansicht), winamp_(winamp), programm_(programm) {}
 
 void WinAmp_Optionen::umschalten(bool& einstellung) {
     einstellung = !einstellung;

@@ -9,12 +9,10 @@ class Ansicht;
 class WinAmp;
 class WinAmp_Programm;
 struct Einstellungen;
-struct Modell;
 
 class WinAmp_Optionen {
 public:
-    WinAmp_Optionen(Modell& modell, Einstellungen& einstellungen, Ansicht& ansicht, WinAmp& winamp,
-                    const WinAmp_Programm& programm);
+    WinAmp_Optionen(Einstellungen& einstellungen, Ansicht& ansicht, WinAmp& winamp, const WinAmp_Programm& programm);
 
     void Menü_WinAmp_verstecken();
     void Winamp_Mini_verstecken();
@@ -30,7 +28,6 @@ public:
 private:
     void umschalten(bool& einstellung);
 
-    Modell& modell_;
     Einstellungen& einstellungen_;
     Ansicht& ansicht_;
     WinAmp& winamp_;

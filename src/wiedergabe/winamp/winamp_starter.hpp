@@ -4,22 +4,21 @@
 
 #include "grundlagen/ereignis.hpp"
 #include "grundlagen/text.hpp"
+#include "wiedergabe/winamp/startmeldung.hpp"
 
 namespace tonkartei {
 
-class Ansicht;
 class Dateisystem;
 class WinAmp;
 class WinAmp_Programm;
-struct Modell;
 
 class WinAmp_Starter {
 public:
-    WinAmp_Starter(Modell& modell, Dateisystem& dateien, Ansicht& ansicht, WinAmp& winamp, WinAmp_Programm& programm);
+    WinAmp_Starter(Dateisystem& dateien, Ansicht& ansicht, WinAmp& winamp, WinAmp_Programm& programm);
 
     // False after an error that the user has been told of. Blocks for a second.
     bool starte_WinAmp(const Text& Parameter);
-    // A missing file starts nothing and gives false; on purpose no box appears.
+    // A missing file starts nothing and gives false; on purpose no box appears, unless another start is under way around it.
     bool starte_WinAmp_Datei(const Text& Datei);
     // A list file; whether it worked does not matter to anyone.
     void starte_WinAmp_Liste(const Text& Datei);
@@ -30,11 +29,11 @@ public:
     Ereignis<> Liste_gestartet;
 
 private:
-    Modell& modell_;
     Dateisystem& dateien_;
     Ansicht& ansicht_;
     WinAmp& winamp_;
     WinAmp_Programm& programm_;
+    Startmeldung Meldung_;
 };
 
 }  // namespace tonkartei

@@ -16,44 +16,46 @@ constexpr const char* Standard_Klasse = "Winamp v1.x";
 
 }  // namespace
 
-void Winamp_Steuerung::WinAmp_Befehl(std::int32_t Code, Hwnd Fenster) { system_.SendMessageA(Fenster, WM_COMMAND, Code, 0); }
+void WinAmp_Steuerung::WinAmp_Befehl(std::int32_t Code, Hwnd Fenster) { system_.SendMessageA(Fenster, WM_COMMAND, Code, 0); }
 
-void Winamp_Steuerung::WinAmp_Lautstärke_setzen(Hwnd Fenster, Long& Wert) {
+void WinAmp_Steuerung::WinAmp_Lautstärke_setzen(Hwnd Fenster, Long& Wert) {
     Wert = std::clamp<Long>(Wert, 0, 255);
     system_.SendMessageA(Fenster, WM_USER, Wert, Lautstärke);
 }
 
-Long Winamp_Steuerung::WinAmp_Status_lesen(Hwnd Fenster) {
-    switch (system_.SendMessageA(Fenster, WM_USER, 0, Status_Frage).value_or(0)) {
+std::optional<Long> WinAmp_Steuerung::WinAmp_Status_lesen(Hwnd Fenster) {
+    const auto antwort = system_.SendMessageA(Fenster, WM_USER, 0, Status_Frage);
+    if (!antwort) return std::nullopt;
+    switch (*antwort) {
         case 1: return Status_spielt;
         case 3: return Status_Pause;
         default: return Status_gestoppt;
     }
 }
 
-Long Winamp_Steuerung::WinAmp_Position_lesen(Hwnd Fenster) {
-    return system_.SendMessageA(Fenster, WM_USER, 0, Zeit_Frage).value_or(0);
+std::optional<Long> WinAmp_Steuerung::WinAmp_Position_lesen(Hwnd Fenster) {
+    return system_.SendMessageA(Fenster, WM_USER, 0, Zeit_Frage);
 }
 
-Long Winamp_Steuerung::WinAmp_Länge_lesen(Hwnd Fenster) {
-    return system_.SendMessageA(Fenster, WM_USER, 1, Zeit_Frage).value_or(0);
+std::optional<Long> WinAmp_Steuerung::WinAmp_Länge_lesen(Hwnd Fenster) {
+    return system_.SendMessageA(Fenster, WM_USER, 1, Zeit_Frage);
 }
 
-void Winamp_Steuerung::WinAmp_springen(Hwnd Fenster, Long Millisekunden) {
+void WinAmp_Steuerung::WinAmp_springen(Hwnd Fenster, Long Millisekunden) {
     system_.SendMessageA(Fenster, WM_USER, Millisekunden, Sprung);
 }
 
-void Winamp_Steuerung::Fenster_schließen(Hwnd Fenster) {
+void WinAmp_Steuerung::Fenster_schließen(Hwnd Fenster) {
     // The message has carried the address of a zero ever since; the receiver takes no notice of it.
     const std::int32_t null = 0;
     system_.SendMessageA(Fenster, WM_CLOSE, 0, static_cast<std::int64_t>(reinterpret_cast<std::intptr_t>(&null)));
 }
 
-Hwnd Winamp_Steuerung::WinAmp_Standard_Fenster() { return system_.FindWindowA(Standard_Klasse); }
+Hwnd WinAmp_Steuerung::WinAmp_Standard_Fenster() { return system_.FindWindowA(Standard_Klasse); }
 
-void Winamp_Steuerung::WinAmp_Befehl_Standard(std::int32_t Code) { WinAmp_Befehl(Code, WinAmp_Standard_Fenster()); }
+void WinAmp_Steuerung::WinAmp_Befehl_Standard(std::int32_t Code) { WinAmp_Befehl(Code, WinAmp_Standard_Fenster()); }
 
-void Winamp_Steuerung::Fenster_Position_setzen(Hwnd Fenster, std::uint32_t Flags) {
+void WinAmp_Steuerung::Fenster_Position_setzen(Hwnd Fenster, std::uint32_t Flags) {
     system_.SetWindowPos(Fenster, HWND_NOTOPMOST, 0, 0, 0, 0, Flags);
 }
 

@@ -1,6 +1,9 @@
 // The message layer to the player: one call, one window message. Every call takes the window, so that more than one player
-// can be driven. A window that has just closed answers 0, which reads as stopped, at position 0.
+// can be driven. A window that has just closed answers 0, which reads as stopped, at position 0; one that hangs answers
+// nothing, and the question gives none.
 #pragma once
+
+#include <optional>
 
 #include "grundlagen/zahl.hpp"
 #include "plattform/fenstersystem.hpp"
@@ -19,19 +22,19 @@ inline constexpr std::int32_t WinAmp_Code_Stop = 40047;
 inline constexpr std::int32_t WinAmp_Code_zurück = 40144;  // 5 seconds back
 inline constexpr std::int32_t WinAmp_Code_vor = 40148;     // 5 seconds on
 
-class Winamp_Steuerung {
+class WinAmp_Steuerung {
 public:
-    explicit Winamp_Steuerung(Fenstersystem& fenstersystem) : system_(fenstersystem) {}
+    explicit WinAmp_Steuerung(Fenstersystem& fenstersystem) : system_(fenstersystem) {}
 
     void WinAmp_Befehl(std::int32_t Code, Hwnd Fenster);
     // 0 to 255; a value outside is clamped, in the caller's variable too.
     void WinAmp_Lautstärke_setzen(Hwnd Fenster, Long& Wert);
-    // 1 playing, 2 paused, 3 stopped or no answer.
-    Long WinAmp_Status_lesen(Hwnd Fenster);
+    // 1 playing, 2 paused, 3 stopped.
+    std::optional<Long> WinAmp_Status_lesen(Hwnd Fenster);
     // Milliseconds.
-    Long WinAmp_Position_lesen(Hwnd Fenster);
+    std::optional<Long> WinAmp_Position_lesen(Hwnd Fenster);
     // Seconds; below 1 when nothing is loaded.
-    Long WinAmp_Länge_lesen(Hwnd Fenster);
+    std::optional<Long> WinAmp_Länge_lesen(Hwnd Fenster);
     void WinAmp_springen(Hwnd Fenster, Long Millisekunden);
     void Fenster_schließen(Hwnd Fenster);
 

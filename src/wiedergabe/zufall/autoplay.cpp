@@ -1,22 +1,25 @@
 #include "wiedergabe/zufall/autoplay.hpp"
 
 #include "datenbank/einstellungen.hpp"
-#include "liste/listenbereich.hpp"
+#include "wiedergabe/liedstart.hpp"
 #include "wiedergabe/wiedergabebereich.hpp"
 #include "wiedergabe/winamp/winamp.hpp"
 #include "wiedergabe/zufall/kategoriewechsel.hpp"
-#include "wiedergabe/zufall/listenfolge.hpp"
 
 namespace tonkartei {
 namespace {
 
 constexpr int Fehlversuche_maximal = 3;
 
+// A window that is found and says "stopped" in the middle of every start would have the starts nest without end: after so
+// many within the first one it counts as no player at all.
+constexpr int verschachtelte_Starts_maximal = 8;
+
 }  // namespace
 
-Autoplay::Autoplay(Einstellungen& einstellungen, const WinAmp& winamp, Wiedergabebereich& bereich, Listenbereich& lieder,
-                   Listenfolge& folge, Kategoriewechsel& wechsel)
-    : einstellungen_(einstellungen), winamp_(winamp), bereich_(bereich), lieder_(lieder), folge_(folge), wechsel_(wechsel) {
+Autoplay::Autoplay(Einstellungen& einstellungen, const WinAmp& winamp, Wiedergabebereich& bereich, Liedstart& start,
+                   Kategoriewechsel& wechsel)
+    : einstellungen_(einstellungen), winamp_(winamp), bereich_(bereich), start_(start), wechsel_(wechsel) {
     bereich_.Autoplay.Klick.verbinden([this] { umgeschaltet(); });
     bereich_.Autoplay_Random.Klick.verbinden([this] { einstellungen_.Random_Autoplay = bereich_.Autoplay_Random.wert(); });
     bereich_.auto_Kat_Wechsel.Klick.verbinden([this] { Wechsel_umgeschaltet(); });
@@ -43,6 +46,10 @@ void Autoplay::Schritt() {
     bool Starten = false;
     if (winamp_.WinAmp_da) {
         if (winamp_.WinAmp_Status == Status_gestoppt) {
+            if (Tiefe_ > verschachtelte_Starts_maximal) {
+                beenden();
+                return;
+            }
             Starten = true;
             wechsel_.Lied_vorbei();
         }
@@ -58,26 +65,18 @@ void Autoplay::Schritt() {
 }
 
 void Autoplay::starten() {
+    struct Stufe {
+        int& tiefe;
+        explicit Stufe(int& t) : tiefe(t) { ++tiefe; }
+        ~Stufe() { --tiefe; }
+        Stufe(const Stufe&) = delete;
+        Stufe& operator=(const Stufe&) = delete;
+    };
+    const Stufe stufe(Tiefe_);
     if (einstellungen_.Random_Autoplay)
-        bereich_.Zufallslied_starten.Klick();
-    else
-        der_Reihe_nach();
-}
-
-void Autoplay::der_Reihe_nach() {
-    if (lieder_.Datenbank_Modus.wert() == 0) {
-        if (!folge_.nächste_Zeile()) {
-            beenden();
-            return;
-        }
-    } else {
-        if (lieder_.Album_Nr() < 1 || lieder_.Liste2.Anzahl() == 0) {
-            beenden();
-            return;
-        }
-        if (!folge_.nächster_Titel()) return;
-    }
-    bereich_.Lied_starten.Klick();
+        start_.Zufallslied_starten();
+    else if (!start_.nächstes_starten())
+        beenden();
 }
 
 void Autoplay::beenden() { bereich_.Autoplay.wert(false); }

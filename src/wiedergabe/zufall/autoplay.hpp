@@ -6,8 +6,7 @@
 namespace tonkartei {
 
 class Kategoriewechsel;
-class Listenbereich;
-class Listenfolge;
+class Liedstart;
 class WinAmp;
 class Wiedergabebereich;
 struct Einstellungen;
@@ -16,31 +15,30 @@ struct Einstellungen;
 // player plays by itself counts as one song.
 class Autoplay {
 public:
-    Autoplay(Einstellungen& einstellungen, const WinAmp& winamp, Wiedergabebereich& bereich, Listenbereich& lieder,
-             Listenfolge& folge, Kategoriewechsel& wechsel);
+    Autoplay(Einstellungen& einstellungen, const WinAmp& winamp, Wiedergabebereich& bereich, Liedstart& start,
+             Kategoriewechsel& wechsel);
 
-    // The tick's part. Starts at most one song; the tick inside that start may start another one.
+    // The tick's part. Starts at most one song; the tick inside that start may start another one, and so on a few times.
     void Schritt();
 
 private:
     void umgeschaltet();
     void Wechsel_umgeschaltet();
     void starten();
-    // The next song in the order of the list.
-    void der_Reihe_nach();
     void beenden();
 
     Einstellungen& einstellungen_;
     const WinAmp& winamp_;
     Wiedergabebereich& bereich_;
-    Listenbereich& lieder_;
-    Listenfolge& folge_;
+    Liedstart& start_;
     Kategoriewechsel& wechsel_;
 
     // Just turned on: starts a song even where no player runs yet.
     bool Autoplay_Start_ = false;
     // Ticks without a player since then. A player that appears does not reset it.
     Byte Autoplay_Fehlzähler_ = 0;
+    // Starts under way, one within the other.
+    int Tiefe_ = 0;
 };
 
 }  // namespace tonkartei

@@ -26,7 +26,7 @@ struct Liedautomatik {
     Liedstart Start;
     Kategoriewechsel Wechsel;
     tonkartei::Autoplay Autoplay;
-    Zufalls_Playlist Zufallsliste;
+    tonkartei::Zufalls_Playlist Zufalls_Playlist;
     Zufallsoptionen Optionen;
 };
 

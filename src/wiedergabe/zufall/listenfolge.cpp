@@ -11,6 +11,11 @@ void weiter(Listenfeld& liste) { liste.wähle(liste.gewählt() + 1 < liste.Anzah
 
 }  // namespace
 
+bool Listenfolge::leer() const {
+    if (lieder_.Datenbank_Modus.wert() == 0) return lieder_.Liste.Anzahl() == 0;
+    return lieder_.Album_Nr() < 1 || lieder_.Liste2.Anzahl() == 0;
+}
+
 bool Listenfolge::nächste_Zeile() {
     if (lieder_.Liste.Anzahl() == 0) return false;
     weiter(lieder_.Liste);

@@ -12,6 +12,8 @@ class Listenfolge {
 public:
     Listenfolge(Listenbereich& lieder, Ansicht& ansicht) : lieder_(lieder), ansicht_(ansicht) {}
 
+    // No line in the song tab; no album or none of its titles in the album tab.
+    bool leer() const;
     // In the song tab: the choice moves to the next line, from the last one to the first. False when the list is empty.
     bool nächste_Zeile();
     // In the album tab: the choice moves on in the same way until it stands on a title that the collection has. False

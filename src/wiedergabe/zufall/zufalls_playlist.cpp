@@ -28,8 +28,7 @@ Long Zufalls_Playlist::Menge_erfragen(int vorhanden) {
         std::nearbyint(Zahlwert(ansicht_.eingeben("Wieviel Lieder sollen in die Playlist?", Titel, Zahltext(vorhanden))));
     if (menge < 1) return 0;
     if (menge <= vorhanden) return gerundet(menge);
-    modell_.Meldung = "Es sind nur " + Zahltext(vorhanden) + " Lieder in der Liste vorhanden!";
-    ansicht_.informieren(Titel, modell_.Meldung);
+    ansicht_.informieren(Titel, "Es sind nur " + Zahltext(vorhanden) + " Lieder in der Liste vorhanden!");
     return vorhanden;
 }
 
@@ -40,10 +39,9 @@ void Zufalls_Playlist::erstellen() {
     liste.sortieren();
     const Long Menge = Menge_erfragen(liste.Anzahl());
     if (Menge < 1) return;
-    modell_.Meldung =
-        "Soll die Liste erst in den internen Playlist-Editor (Ja) "
-        "oder soll die Playlist gleich mit Windamp gestartet werden (Nein)?";
-    const bool in_den_Editor = ansicht_.fragen(Titel, modell_.Meldung);
+    const bool in_den_Editor = ansicht_.fragen(Titel,
+                                               "Soll die Liste erst in den internen Playlist-Editor (Ja) "
+                                               "oder soll die Playlist gleich mit Windamp gestartet werden (Nein)?");
     if (in_den_Editor) Playlist_leeren();
     std::vector<Long> nummern;
     for (Long i = 1; i <= Menge; ++i) {

@@ -1,9 +1,9 @@
 // A list of seldom-heard songs, by the rule of the random choice: for the playlist window, or at once for the player.
 #pragma once
 
-#include <functional>
 #include <vector>
 
+#include "grundlagen/ereignis.hpp"
 #include "grundlagen/text.hpp"
 #include "grundlagen/zahl.hpp"
 
@@ -25,8 +25,8 @@ public:
     void erstellen();
 
     // Opens the playlist window and empties it, if the user lets it: what he keeps there stays in front of the new songs.
-    std::function<void()> Playlist_leeren;
-    std::function<void(const std::vector<Long>&)> in_Playlist;
+    Ereignis<> Playlist_leeren;
+    Ereignis<const std::vector<Long>&> in_Playlist;
 
 private:
     // How many songs the user wants, at most `vorhanden`; below 1: none.

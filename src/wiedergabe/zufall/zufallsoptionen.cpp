@@ -4,14 +4,13 @@
 #include <limits>
 
 #include "datenbank/einstellungen.hpp"
-#include "datenbank/modell.hpp"
 #include "oberflaeche/ansicht.hpp"
 
 namespace tonkartei {
 
 void Zufallsoptionen::Random_Prozent() {
     static constexpr const char* Titel = "Random-Einstellungen";
-    modell_.Meldung =
+    const Text frage =
         "Beim abspielen eines Zufallslieder wird zuerst eine sortierte Liste erstellt, "
         "in der die Anzahl wie oft das jeweilige Lied schon gespielt wurde, enthält. "
         "Das Lied, das am wenigsten gespielt wurde, ist das erste in der Liste." +
@@ -20,15 +19,14 @@ void Zufallsoptionen::Random_Prozent() {
         "verhindern, das ein Lied über Random öfters gespielt wird." +
         Text(CRCR) + "Aus wievielen Prozent dieser Liste soll ein Zufalls-Lied gewählt werden?";
     const Text alt = Zahltext(einstellungen_.Random_Einstellung);
-    const Text antwort = ansicht_.eingeben(modell_.Meldung, Titel, alt);
+    const Text antwort = ansicht_.eingeben(frage, Titel, alt);
     if (antwort.empty()) return;
     const double prozent = std::nearbyint(Zahlwert(antwort));
     if (prozent >= 1 && prozent <= 100) {
         einstellungen_.Random_Einstellung = gerundet_Byte(prozent);
         return;
     }
-    modell_.Meldung = "Ungültiger Wert, der alte Wert " + alt + "% wird beibehalten.";
-    ansicht_.informieren(Titel, modell_.Meldung);
+    ansicht_.informieren(Titel, "Ungültiger Wert, der alte Wert " + alt + "% wird beibehalten.");
 }
 
 void Zufallsoptionen::auto_Kat_Wechsel_Setup() {
@@ -41,8 +39,8 @@ void Zufallsoptionen::auto_Kat_Wechsel_Setup() {
         einstellungen_.auto_Kat_Wechsel_Lieder = gerundet(lieder);
         return;
     }
-    modell_.Meldung = "Ungültige Eingabe!" + Text(CRCR) + "Der alte Wert von " + alt + " Liedern wurde beibehalten.";
-    ansicht_.informieren(Titel, modell_.Meldung);
+    ansicht_.informieren(Titel,
+                         "Ungültige Eingabe!" + Text(CRCR) + "Der alte Wert von " + alt + " Liedern wurde beibehalten.");
 }
 
 }  // namespace tonkartei

@@ -57,11 +57,9 @@ struct Haupt : Fenster {
             zeigen_als("fertig");
         });
         knopf("Schlafen", [this] { p.Rechner.Sleep(1200); });
-        knopf("Starten", [this] { p.Shell.starten("/x y/WinAmp.Exe /CLASS=\"A\" /NEW /CLASS=\"B\" \"/m/ä b.mp3\"", 2); });
         knopf("Schreiben", [this] {
             try {
-                const auto griff = p.Dateisystem.öffnen("probe.txt", Dateimodus::schreiben);
-                p.Dateisystem.schließen(griff);
+                p.Dateisystem.schließen(p.Dateisystem.öffnen("probe.txt", Dateimodus::schreiben));
                 zeigen_als("geschrieben");
             } catch (const Dateifehler& fehler) {
                 zeigen_als(std::to_string(fehler.Nummer()));
@@ -76,13 +74,7 @@ struct Haupt : Fenster {
 
     const Plattform p;
     Dialog dialog{ansicht()};
-    Menü menü{*this,
-              {{"Datei",
-                "&Datei",
-                ohne_Index,
-                {},
-                {{"Beenden", "&Beenden", ohne_Index, [this] { ansicht().beenden(); }, {}},
-                 {"Leer", "Leer", ohne_Index, {}, {}}}}}};
+    Menü menü{*this, {{"Datei", "&Datei", ohne_Index, {}, {{"Leer", "Leer", ohne_Index, {}, {}}}}}};
     Schriftfeld ergebnis{*this, "Ergebnis"};
     Schriftfeld ticks{*this, "Ticks", "0"};
     Listenfeld liste{*this, "Liste"};
@@ -106,10 +98,6 @@ protected:
         for (Element* e : elemente())
             if (e->art() != Elementart::Menü) alle.emplace_back(*e);
         return Spalte(std::move(alle));
-    }
-    bool beim_Schließen(Schließgrund grund) override {
-        if (grund == Schließgrund::außen) ansicht().informieren("Ende", "von außen");
-        return true;
     }
     void beim_Entladen() override { ansicht().beenden(); }
 

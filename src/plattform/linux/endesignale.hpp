@@ -1,0 +1,23 @@
+// The signals that ask a process to end, as something to read: what they cause runs in the main loop and not in a handler.
+#pragma once
+
+namespace tonkartei {
+
+// SIGTERM, SIGHUP and SIGINT, for as long as it lives; one a process.
+class Endesignale {
+public:
+    Endesignale();
+    ~Endesignale();
+    Endesignale(const Endesignale&) = delete;
+    Endesignale& operator=(const Endesignale&) = delete;
+
+    // Readable once a signal has come; -1 when there is none, and signals do what they always do.
+    int Deskriptor() const noexcept { return deskriptor_; }
+    // Takes what has come.
+    void abholen() const;
+
+private:
+    int deskriptor_ = -1;
+};
+
+}  // namespace tonkartei
