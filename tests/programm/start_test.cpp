@@ -216,10 +216,28 @@ std::string Zugriffszeichen(const std::string& text) {
 // Alt and a letter mean one thing in a window.
 TEST_F(Start, Zugriffstasten_sind_eindeutig) {
     starten();
-    for (const std::string fenster :
-         {"Tonkartei", "Splash", "Datenbank_öffnen", "Kategorie_Wahl", "Kategorie_bearbeiten", "Verzeichnis_add",
-          "neue_Lieder_Liste", "Album_wählen", "Infofenster", "MP3_Tag_ändern", "Datum_eingeben", "DB_add_start_Kategorien",
-          "DBadd_Kategorien", "Playlist"}) {
+    for (const std::string fenster : {"Tonkartei",
+                                      "Splash",
+                                      "Datenbank_öffnen",
+                                      "Kategorie_Wahl",
+                                      "Kategorie_bearbeiten",
+                                      "Verzeichnis_add",
+                                      "neue_Lieder_Liste",
+                                      "Album_wählen",
+                                      "Infofenster",
+                                      "MP3_Tag_ändern",
+                                      "Datum_eingeben",
+                                      "DB_add_start_Kategorien",
+                                      "DBadd_Kategorien",
+                                      "Playlist",
+                                      "Alben_Verwaltung",
+                                      "Album_importieren",
+                                      "Backup_Portionen",
+                                      "Vergleichsergebnis",
+                                      "Live_abgleich",
+                                      "LA_Ignorieren",
+                                      "auflösen",
+                                      "Kategorie_vergleich"}) {
         std::map<std::string, Zeilen> tasten;
         const auto merken = [&](const nlohmann::json& text, const std::string& name) {
             if (const std::string taste = Zugriffszeichen(text); !taste.empty()) tasten[taste].push_back(name);
@@ -236,8 +254,11 @@ TEST_F(Start, Zugriffstasten_sind_eindeutig) {
         if (fenster == "Tonkartei")
             for (const auto& eintrag : menü) merken(eintrag["text"], eintrag["name"]);
         EXPECT_FALSE(tasten.empty()) << fenster;
+        // The album manager's commands for albums and those for titles have three letters in common, ever since.
+        const std::string doppelt = fenster == "Alben_Verwaltung" ? "lns" : "";
         for (const auto& [taste, namen] : tasten)
-            EXPECT_EQ(namen.size(), 1U) << fenster << " Alt+" << taste << ": " << nlohmann::json(namen);
+            EXPECT_EQ(namen.size(), doppelt.find(taste) == std::string::npos ? 1U : 2U)
+                << fenster << " Alt+" << taste << ": " << nlohmann::json(namen);
     }
 }
 

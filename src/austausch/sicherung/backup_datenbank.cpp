@@ -1,8 +1,8 @@
 #include "austausch/sicherung/backup_datenbank.hpp"
 
-#include "lieder/hinzufuegen/auszugsdatenbank.hpp"
 #include "austausch/sicherung/portionsdatei.hpp"
 #include "datenbank/modell.hpp"
+#include "lieder/hinzufuegen/auszugsdatenbank.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "plattform/dateisystem.hpp"
 

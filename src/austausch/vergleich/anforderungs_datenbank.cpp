@@ -1,8 +1,8 @@
 #include "austausch/vergleich/anforderungs_datenbank.hpp"
 
-#include "lieder/hinzufuegen/auszugsdatenbank.hpp"
 #include "austausch/vergleich/anforderungsdatei.hpp"
 #include "datenbank/modell.hpp"
+#include "lieder/hinzufuegen/auszugsdatenbank.hpp"
 #include "oberflaeche/ansicht.hpp"
 
 namespace tonkartei {

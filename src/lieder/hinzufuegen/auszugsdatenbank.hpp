@@ -1,5 +1,5 @@
-// A new collection made of some songs of the open one, for a backup, for another collector or from the playlist: a collection
-// like any other, with the songs' files copied into it.
+// A new collection made of some songs of the open one, for a backup, for another collector or from the playlist: a
+// collection like any other, with the songs' files copied into it.
 #pragma once
 
 #include <vector>
