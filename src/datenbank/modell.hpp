@@ -57,8 +57,6 @@ struct Modell : Bestand {
     // Written with the collection when set; they belong to stores that count as not loaded in a new collection.
     bool Alben_geladen = false, Alben_geändert = false;
     bool Ignorieren_geladen = false, Ignorieren_geändert = false;
-    // One scratch text for all boxes; nested commands see each other's.
-    Text Meldung;
     Text Programmversion;
 
     // Full path of a song's file.

@@ -24,11 +24,11 @@ Text kurze_Dauer(Zeit dauer) {
 
 bool Lied_austauschen::Lied_tauschen(Long Nr) {
     const Lied& lied = modell_.Lieder[Nr];
-    modell_.Meldung = "Wollen sie das Lied " + in_Anführungszeichen(lied.Titel) + " von " +
-                      in_Anführungszeichen(lied.Artist) + " wirklich austauschen?" + Text(CRCR) +
-                      "Dies ist nur sinnvoll, wenn die MP3-Datei defekt ist, "
-                      "oder durch eine andere Version ausgetauscht werden soll!";
-    if (!ansicht_.fragen(Überschrift, modell_.Meldung)) return false;
+    if (!ansicht_.fragen(Überschrift, "Wollen sie das Lied " + in_Anführungszeichen(lied.Titel) + " von " +
+                                          in_Anführungszeichen(lied.Artist) + " wirklich austauschen?" + Text(CRCR) +
+                                          "Dies ist nur sinnvoll, wenn die MP3-Datei defekt ist, "
+                                          "oder durch eine andere Version ausgetauscht werden soll!"))
+        return false;
     ansicht_.informieren(Überschrift, "Wählen sie bitte, durch welche MP3-Datei das gewählte Lied getauscht werden soll.");
     Dateiwahl wahl;
     wahl.filter = "MP3-Dateien (*.MP3)|*.MP3| Alle Dateien (*.*) |*.*";
@@ -38,17 +38,18 @@ bool Lied_austauschen::Lied_tauschen(Long Nr) {
 }
 
 bool Lied_austauschen::ausführen(Long Nr, const Text& Datei) {
-    modell_.Meldung = "Wollen sie die alte Version vorher noch irgendwohin kopieren?" + Text(CRCR) +
-                      "Wenn sie das Lied jetzt austauschen, wird die alte Version gelöscht.";
-    const Antwort antwort = ansicht_.fragen_oder_abbrechen(Überschrift, modell_.Meldung);
+    const Antwort antwort = ansicht_.fragen_oder_abbrechen(
+        Überschrift, "Wollen sie die alte Version vorher noch irgendwohin kopieren?" + Text(CRCR) +
+                         "Wenn sie das Lied jetzt austauschen, wird die alte Version gelöscht.");
     if (antwort == Antwort::Ja)
         kopieren_.ausführen(Nr);
     else if (antwort != Antwort::Nein)
         return false;
 
-    modell_.Meldung = "Wollen sie folgendes Lied:" + Text(CRCR) + Beschreibung(Nr) + Text(CRCR) +
-                      "durch folgendes Lied:" + Text(CRCR) + Beschreibung(Datei) + Text(CRCR) + "austauschen?";
-    if (!ansicht_.fragen("Lied austuaschen", modell_.Meldung)) return false;
+    if (!ansicht_.fragen("Lied austuaschen", "Wollen sie folgendes Lied:" + Text(CRCR) + Beschreibung(Nr) + Text(CRCR) +
+                                                 "durch folgendes Lied:" + Text(CRCR) + Beschreibung(Datei) + Text(CRCR) +
+                                                 "austauschen?"))
+        return false;
     if (ersetzen(Nr, Datei)) return true;
     ansicht_.informieren(Überschrift, "Beim austauschen ist ein Fehler aufgetreten!");
     return false;

@@ -13,14 +13,15 @@ bool Lied_bearbeiten::Artist_ändern(Long Nr) { return ändern(Nr, "Artist", &Li
 
 bool Lied_bearbeiten::ändern(Long Nr, const Text& Feldname, Text Lied::*feld, Text MP3_TagHead::*im_Tag) {
     Lied& lied = modell_.Lieder[Nr];
-    modell_.Meldung = "Wie soll der neue " + Feldname + " des Liedes " + in_Anführungszeichen(lied.Titel) + " von " +
-                      in_Anführungszeichen(lied.Artist) + " lauten?";
-    Text neu = als_Name(ansicht_.eingeben(modell_.Meldung, "Lied-" + Feldname + " ändern", lied.*feld));
+    Text neu =
+        als_Name(ansicht_.eingeben("Wie soll der neue " + Feldname + " des Liedes " + in_Anführungszeichen(lied.Titel) +
+                                       " von " + in_Anführungszeichen(lied.Artist) + " lauten?",
+                                   "Lied-" + Feldname + " ändern", lied.*feld));
     if (neu.empty()) return false;
     if (Zeichenzahl(neu) > Tagtext_maximal) {
         neu = links(neu, Tagtext_maximal);
-        modell_.Meldung = "Der " + Feldname + " darf nicht mehr als 30 Zeichen haben. Er wurde gekürzt:" + Text(CRCR) + neu;
-        ansicht_.informieren("Titel ändern", modell_.Meldung);
+        ansicht_.informieren("Titel ändern", "Der " + Feldname + " darf nicht mehr als 30 Zeichen haben. Er wurde gekürzt:" +
+                                                 Text(CRCR) + neu);
     }
     mp3_.MP3_Datei = modell_.Lied_Pfad(Nr);
     if (!mp3_.Tag_lesen()) return false;
@@ -33,11 +34,11 @@ bool Lied_bearbeiten::ändern(Long Nr, const Text& Feldname, Text Lied::*feld, T
 void Lied_bearbeiten::Info_zeigen(Long Nr) const {
     const Lied& lied = modell_.Lieder[Nr];
     const bool da = lied.Kategorie >= 1 && lied.Kategorie <= modell_.Anzahl_Kategorien;
-    modell_.Meldung = "Titel: " + lied.Titel + Text(CR) + "Artist: " + lied.Artist + Text(CR) +
-                      "Kategorie: " + (da ? modell_.Kategorien[lied.Kategorie] : Text{}) + Text(CR) +
-                      "Anzahl: " + Zahltext(lied.Anzahl) + Text(CR) + "Dateigröße: " + Zahltext(lied.Größe) + " kBytes" +
-                      Text(CR) + "Dateiname: " + anzeigbar(modell_.Lied_Pfad(Nr));
-    ansicht_.informieren("Lied-Info", modell_.Meldung);
+    ansicht_.informieren("Lied-Info", "Titel: " + lied.Titel + Text(CR) + "Artist: " + lied.Artist + Text(CR) +
+                                          "Kategorie: " + (da ? modell_.Kategorien[lied.Kategorie] : Text{}) + Text(CR) +
+                                          "Anzahl: " + Zahltext(lied.Anzahl) + Text(CR) +
+                                          "Dateigröße: " + Zahltext(lied.Größe) + " kBytes" + Text(CR) +
+                                          "Dateiname: " + anzeigbar(modell_.Lied_Pfad(Nr)));
 }
 
 }  // namespace tonkartei

@@ -25,8 +25,9 @@ void Lied_kopieren::Lieder_kopieren(const std::vector<Long>& Nummern) {
     if (Nummern.empty()) return;
     const auto anzahl = static_cast<long long>(Nummern.size());
     if (anzahl > 1) {
-        modell_.Meldung = "Wollen sie wirklich alle " + Zahltext(anzahl) + " Lieder in der Liste kopieren?";
-        if (!fortschritt_.ansicht().fragen("Lieder kopieren", modell_.Meldung)) return;
+        if (!fortschritt_.ansicht().fragen(
+                "Lieder kopieren", "Wollen sie wirklich alle " + Zahltext(anzahl) + " Lieder in der Liste kopieren?"))
+            return;
     }
     const Text ordner = fortschritt_.ansicht().Verzeichnis_wählen("Zielverzeichnis für die Kopien:");
     if (ordner.empty()) return;

@@ -43,9 +43,8 @@ void Lieder_entfernen::Lied_entfernen(Long Nr) {
         return;
     }
     if (!aufrücken(datei_letzte, datei)) {
-        modell_.Meldung = "Es wurden Lücken in der Datenbank gefunden!" + Text(CRCR) +
-                          "Benutzen sie den Menüpunkt Lieer/Wartung/Fehlersuche/Lücken suchen/auffüllen";
-        ansicht_.informieren("Fehler", modell_.Meldung);
+        ansicht_.informieren("Fehler", "Es wurden Lücken in der Datenbank gefunden!" + Text(CRCR) +
+                                           "Benutzen sie den Menüpunkt Lieer/Wartung/Fehlersuche/Lücken suchen/auffüllen");
         return;
     }
     nachrücken_.ausführen(Nr);
@@ -59,9 +58,9 @@ bool Lieder_entfernen::aufrücken(const Text& von, const Text& nach) {
 
 bool Lieder_entfernen::Lied_löschen(Long Nr) {
     const Lied& lied = modell_.Lieder[Nr];
-    modell_.Meldung = "Wollen sie das Lied " + in_Anführungszeichen(lied.Titel) + " von " +
-                      in_Anführungszeichen(lied.Artist) + " wirklich löschen?";
-    if (!ansicht_.fragen("Lied löschen", modell_.Meldung)) return false;
+    if (!ansicht_.fragen("Lied löschen", "Wollen sie das Lied " + in_Anführungszeichen(lied.Titel) + " von " +
+                                             in_Anführungszeichen(lied.Artist) + " wirklich löschen?"))
+        return false;
     Lied_entfernen(Nr);
     return true;
 }
@@ -69,9 +68,10 @@ bool Lieder_entfernen::Lied_löschen(Long Nr) {
 bool Lieder_entfernen::alle_Lieder_löschen(std::vector<Long> Nummern) {
     if (Nummern.empty()) return false;
     if (Nummern.size() > 1) {
-        modell_.Meldung =
-            "Wollen sie wirklich die " + Zahltext(static_cast<long long>(Nummern.size())) + " Lieder in der Liste löschen?";
-        if (!ansicht_.fragen("Lieder löschen", modell_.Meldung)) return false;
+        if (!ansicht_.fragen("Lieder löschen", "Wollen sie wirklich die " +
+                                                   Zahltext(static_cast<long long>(Nummern.size())) +
+                                                   " Lieder in der Liste löschen?"))
+            return false;
     }
     spieler_.für_Dateiarbeit_anhalten();
     // From the highest down: what moves into a freed place never has a number that is still to come. Once each, or the song

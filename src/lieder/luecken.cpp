@@ -18,17 +18,19 @@ bool Lücken::Lücken_füllen() {
         ansicht.informieren(Überschrift, "Es sind noch keine Lieder in der Datenbank!");
         return false;
     }
-    modell_.Meldung = "Achtung: Eine Lücke in der Datenbank ist ein schwerer Fehler!" + Text(CRCR) +
-                      "Es existiert zwar noch der Eintag in der Datenbank, aber die MP3-Datei fehlt. "
-                      "Wenn sie jetzt die Lücken füllen gehen die Informationen über die fehlenden Lieder verloren. "
-                      "Wenn sie wissen möchten, ob es Lücken gibt, und wenn ja bei welchen Liedern wählen sie den Menüpunkt "
-                      "Namen/Größe mit MP3's vergleichen aus dem Untermenü Wartung/Fehlersuche." +
-                      Text(CRCR) + "Wollen sie jetzt nach Lücken suchen und diese füllen?";
-    if (!ansicht.fragen(Überschrift, modell_.Meldung)) return false;
+    if (!ansicht.fragen(
+            Überschrift,
+            "Achtung: Eine Lücke in der Datenbank ist ein schwerer Fehler!" + Text(CRCR) +
+                "Es existiert zwar noch der Eintag in der Datenbank, aber die MP3-Datei fehlt. "
+                "Wenn sie jetzt die Lücken füllen gehen die Informationen über die fehlenden Lieder verloren. "
+                "Wenn sie wissen möchten, ob es Lücken gibt, und wenn ja bei welchen Liedern wählen sie den Menüpunkt "
+                "Namen/Größe mit MP3's vergleichen aus dem Untermenü Wartung/Fehlersuche." +
+                Text(CRCR) + "Wollen sie jetzt nach Lücken suchen und diese füllen?"))
+        return false;
     const Long anzahl = füllen();
-    modell_.Meldung = anzahl >= 1 ? "Es wurden " + Zahltext(anzahl) + " Lücken gefunden und wieder aufgefüllt."
-                                  : Text("Es wurden keine Lücken in der Datenbank gefunden.");
-    ansicht.informieren(Überschrift, modell_.Meldung);
+    ansicht.informieren(Überschrift, anzahl >= 1
+                                         ? "Es wurden " + Zahltext(anzahl) + " Lücken gefunden und wieder aufgefüllt."
+                                         : Text("Es wurden keine Lücken in der Datenbank gefunden."));
     return anzahl > 0;
 }
 

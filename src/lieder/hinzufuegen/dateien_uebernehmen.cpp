@@ -52,14 +52,13 @@ bool Dateien_übernehmen::übernehmen(const Lied_Fund& lied, Übernahmeart modus
             modell_.Lieder[Nr].Kategorie = lied.Quell_Kategorie;
             return true;
         }
-        modell_.Meldung = Text("Es ist ein Fehler beim ") + (modus == Übernahmeart::kopieren ? "kopieren" : "bewegen") +
-                          " der Datei" + Text(CRCR) + anzeigbar(lied.Pfad) + Text(CRCR) + "aufgetreten!";
-        ansicht.informieren("Lied hinzufügen", modell_.Meldung);
+        ansicht.informieren("Lied hinzufügen",
+                            Text("Es ist ein Fehler beim ") + (modus == Übernahmeart::kopieren ? "kopieren" : "bewegen") +
+                                " der Datei" + Text(CRCR) + anzeigbar(lied.Pfad) + Text(CRCR) + "aufgetreten!");
         Rest_entfernen(lied.Pfad, ziel);
     } catch (const Laufzeitfehler&) {
-        modell_.Meldung =
-            "Es ist ein Fehler beim hinzufügen des Liedes " + in_Anführungszeichen(anzeigbar(lied.Pfad)) + " aufgetreten!";
-        ansicht.informieren("Lieder hinzufügen", modell_.Meldung);
+        ansicht.informieren("Lieder hinzufügen", "Es ist ein Fehler beim hinzufügen des Liedes " +
+                                                     in_Anführungszeichen(anzeigbar(lied.Pfad)) + " aufgetreten!");
         try {
             if (!angefangen.empty()) Rest_entfernen(lied.Pfad, angefangen);
         } catch (const Laufzeitfehler&) {
@@ -77,13 +76,13 @@ bool Dateien_übernehmen::trotz_Doppelter(const Text& pfad, Long KByte, const Do
         Text titel, artist;
         mp3_.Lied_Tag_lesen(pfad, titel, artist);
         const Lied& da = modell_.Lieder[n];
-        modell_.Meldung = "Die folgende Datei ist eventuell schon einmal in der Datenbank vorhanden:" + Text(CRCR) +
-                          "Dateiname: " + anzeigbar(pfad) + Text(CR) + Datum_Zeit(*zeit) + Text(CR) +
-                          Titel_Artist(titel, artist) + Text(CRCR) +
-                          "Bereits vorhandenes Lied in der Datenbank:" + Text(CRCR) + Datum_Zeit(*zeit) + Text(CR) +
-                          Titel_Artist(da.Titel, da.Artist) + Text(CRCR) + "Soll dieses Lied trotzdem hinzugefügt werden?";
+        const Text frage = "Die folgende Datei ist eventuell schon einmal in der Datenbank vorhanden:" + Text(CRCR) +
+                           "Dateiname: " + anzeigbar(pfad) + Text(CR) + Datum_Zeit(*zeit) + Text(CR) +
+                           Titel_Artist(titel, artist) + Text(CRCR) +
+                           "Bereits vorhandenes Lied in der Datenbank:" + Text(CRCR) + Datum_Zeit(*zeit) + Text(CR) +
+                           Titel_Artist(da.Titel, da.Artist) + Text(CRCR) + "Soll dieses Lied trotzdem hinzugefügt werden?";
         Ansicht& ansicht = fortschritt_.ansicht();
-        if (!ansicht.fragen("Lied hinzufügen", modell_.Meldung) || ansicht.endet()) return false;
+        if (!ansicht.fragen("Lied hinzufügen", frage) || ansicht.endet()) return false;
     }
     return true;
 }

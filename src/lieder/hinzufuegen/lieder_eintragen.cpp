@@ -62,13 +62,12 @@ Byte Lieder_eintragen::gemeinsame_Kategorie(Long A, Übernahmeart modus) {
     Ansicht& ansicht = wahl_.ansicht();
     const Text rest = Text(" in die Datenbank ") + (modus == Übernahmeart::kopieren ? "kopiert." : "bewegt.");
     if (A == 1) {
-        modell_.Meldung = "Es wurde 1 neues Lied" + rest;
-        ansicht.informieren("Lied hinzufügen", modell_.Meldung);
+        ansicht.informieren("Lied hinzufügen", "Es wurde 1 neues Lied" + rest);
         return 0;
     }
-    modell_.Meldung =
-        "Es wurden " + Zahltext(A) + " neue Lieder" + rest + Text(CRCR) + "Haben alle diese Lieder die gleiche Kategorie?";
-    if (!ansicht.fragen("Lieder hinzufügen", modell_.Meldung)) return 0;
+    if (!ansicht.fragen("Lieder hinzufügen", "Es wurden " + Zahltext(A) + " neue Lieder" + rest + Text(CRCR) +
+                                                 "Haben alle diese Lieder die gleiche Kategorie?"))
+        return 0;
     return wahl_.wählen("Alle neuen Lieder", {}, {});
 }
 

@@ -61,16 +61,18 @@ std::uint64_t Lieder_Übernahme::freie_KByte() const {
 bool Lieder_Übernahme::bestätigt(const Übernahme_Auftrag& auftrag) const {
     // The window does not offer moving for that source; should it ever, nobody loses the other collection unasked.
     if (auftrag.Quelle == Quelle_Datenbank && auftrag.Modus == Übernahmeart::bewegen) {
-        modell_.Meldung = "Wollen sie die Lieder wirklich aus der anderen Datenbank bewegen?" + Text(CRCR) +
-                          "Sie stehen in der anderen Datenbank dann nicht mehr zur verfügung!";
-        if (!ansicht_.fragen("Lieder bewegen", modell_.Meldung)) return false;
+        if (!ansicht_.fragen("Lieder bewegen", "Wollen sie die Lieder wirklich aus der anderen Datenbank bewegen?" +
+                                                   Text(CRCR) +
+                                                   "Sie stehen in der anderen Datenbank dann nicht mehr zur verfügung!"))
+            return false;
     }
     const auto frei = static_cast<double>(freie_KByte());
     if (auftrag.KByte < frei) return true;
-    modell_.Meldung = "Die Größe der Lieder (" + MByte_Text(auftrag.KByte) +
-                      " MB), die sie hinzufügen möchten, ist größer als der freie Speicherplatz auf dem Ziel-Laufwerk (" +
-                      MByte_Text(frei) + " MB)." + Text(CRCR) + "Wollen sie wirklich fortfahren?";
-    return ansicht_.fragen("Lieder hinzufügen", modell_.Meldung);
+    return ansicht_.fragen(
+        "Lieder hinzufügen",
+        "Die Größe der Lieder (" + MByte_Text(auftrag.KByte) +
+            " MB), die sie hinzufügen möchten, ist größer als der freie Speicherplatz auf dem Ziel-Laufwerk (" +
+            MByte_Text(frei) + " MB)." + Text(CRCR) + "Wollen sie wirklich fortfahren?");
 }
 
 void Lieder_Übernahme::vor_Größe_warnen() const {
@@ -79,10 +81,10 @@ void Lieder_Übernahme::vor_Größe_warnen() const {
     const Long MByte = gerundet(KByte / 1024.0);
     const Long grenze = modell_.Backup_Warnungs_Grenze;
     if (grenze == 0 || MByte < grenze) return;
-    modell_.Meldung = "Achtung!" + Text(CRCR) + "Die Größe der Datenbank hat die Backup-Warnungs-Grenze überschritten!" +
-                      Text(CRCR) + "aktuelle Größe der Datenbank: " + Zahltext(MByte) + " MB" + Text(CR) +
-                      "Backup-Warnungs-Grenze: " + Zahltext(grenze) + " MB";
-    ansicht_.informieren("Backup-Warnung", modell_.Meldung);
+    ansicht_.informieren("Backup-Warnung", "Achtung!" + Text(CRCR) +
+                                               "Die Größe der Datenbank hat die Backup-Warnungs-Grenze überschritten!" +
+                                               Text(CRCR) + "aktuelle Größe der Datenbank: " + Zahltext(MByte) + " MB" +
+                                               Text(CR) + "Backup-Warnungs-Grenze: " + Zahltext(grenze) + " MB");
 }
 
 }  // namespace tonkartei

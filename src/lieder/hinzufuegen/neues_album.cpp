@@ -11,10 +11,11 @@ namespace tonkartei {
 void Neues_Album::erstellen(Long A, Begleitung& begleitung) {
     if (A > Album_Titel_maximal) {
         const Text höchstens = Zahltext(Album_Titel_maximal);
-        modell_.Meldung = "Achtung!" + Text(CRCR) + "Es sind nur " + höchstens + " Lieder pro Album erlaubt." + Text(CRCR) +
-                          "Wollen Sie ein Album nur mit den ersten " + höchstens +
-                          " Liedern, die hinzugefügt werden sollen erstellen?";
-        if (!ansicht_.fragen("Album erstellen", modell_.Meldung)) return;
+        if (!ansicht_.fragen("Album erstellen", "Achtung!" + Text(CRCR) + "Es sind nur " + höchstens +
+                                                    " Lieder pro Album erlaubt." + Text(CRCR) +
+                                                    "Wollen Sie ein Album nur mit den ersten " + höchstens +
+                                                    " Liedern, die hinzugefügt werden sollen erstellen?"))
+            return;
     }
     if (!geladen()) {
         ansicht_.informieren("Album hinzufügen", "Für diese Datenbank existiert noch keine Alben-Verwaltung.");

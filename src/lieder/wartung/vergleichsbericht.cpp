@@ -36,13 +36,10 @@ void Vergleichsbericht::Check_DB() {
         ansicht.informieren(Programmtitel, fehler.mit_Pfad(pfad));
         return;
     }
-    modell_.Meldung = "Das Vergleichs-Ergebnis wurde erfolgreich geschrieben." + Text(CRCR);
-    if (fehlerhafte == 0)
-        modell_.Meldung += "Es sind keine Fehler festgestellt worden.";
-    else
-        modell_.Meldung +=
-            Zahltext(fehlerhafte) + (fehlerhafte == 1 ? " Eintrag" : " Einträge") + " in der Datenbank haben Fehler!";
-    ansicht.informieren(Titel_Bericht, modell_.Meldung);
+    const Text befund = fehlerhafte == 0 ? Text("Es sind keine Fehler festgestellt worden.")
+                                         : Zahltext(fehlerhafte) + (fehlerhafte == 1 ? " Eintrag" : " Einträge") +
+                                               " in der Datenbank haben Fehler!";
+    ansicht.informieren(Titel_Bericht, "Das Vergleichs-Ergebnis wurde erfolgreich geschrieben." + Text(CRCR) + befund);
 }
 
 Long Vergleichsbericht::schreiben(int nummer) {

@@ -28,9 +28,10 @@ void Wartung::Liste_einlesen() {
     const std::vector<Long> nummern = liste_.Lieder_in_Liste();
     if (nummern.empty()) return;
     if (nummern.size() > 1) {
-        modell_.Meldung = "Wollen sie wirklich bei allen " + Zahltext(static_cast<long long>(nummern.size())) +
-                          " Liedern in der Liste die Daten neu einlesen?";
-        if (!ansicht().fragen("Name/Größe einlesen", modell_.Meldung)) return;
+        if (!ansicht().fragen("Name/Größe einlesen", "Wollen sie wirklich bei allen " +
+                                                         Zahltext(static_cast<long long>(nummern.size())) +
+                                                         " Liedern in der Liste die Daten neu einlesen?"))
+            return;
     }
     einlesen_.einlesen(nummern, "Lieder-Namen, -Größen und -Zeiten neu einlesen...");
     liste_.aktualisiere_Liste();
@@ -64,9 +65,8 @@ void Wartung::Durchschnitts_Anzahl() {
     double summe = 0;
     for (const Long nr : nummern) summe += modell_.Lieder[nr].Anzahl;
     const auto anzahl = static_cast<long long>(nummern.size());
-    modell_.Meldung = "Die " + Zahltext(anzahl) + " Lieder wurden im Durchschnitt " +
-                      Mittelwert_Text(summe / static_cast<double>(anzahl)) + " mal gehört.";
-    ansicht().informieren("Durchschnitts-Anzahl", modell_.Meldung);
+    ansicht().informieren("Durchschnitts-Anzahl", "Die " + Zahltext(anzahl) + " Lieder wurden im Durchschnitt " +
+                                                      Mittelwert_Text(summe / static_cast<double>(anzahl)) + " mal gehört.");
 }
 
 void Wartung::Lieder_ab_Datum() {

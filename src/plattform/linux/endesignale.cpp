@@ -1,9 +1,9 @@
 #include "plattform/linux/endesignale.hpp"
 
-#include <signal.h>
 #include <sys/signalfd.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <initializer_list>
 
 namespace tonkartei {
