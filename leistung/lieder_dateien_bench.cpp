@@ -15,7 +15,7 @@
 #include "leistung/sammlung.hpp"
 #include "leistung/verhaeltnis.hpp"
 #include "lieder/hinzufuegen/dateien_uebernehmen.hpp"
-#include "lieder/wartung/lieder_einlesen.hpp"
+#include "lieder/wartung/neueinlesen.hpp"
 #include "plattform/linux/dateisystem_linux.hpp"
 #include "plattform/linux/fenstersystem_linux.hpp"
 #include "plattform/linux/rechner_linux.hpp"
@@ -129,7 +129,7 @@ int main() {
     MP3_TagHead mp3(dateien);
     Stumme_Ansicht ansicht;
     Fortschritts_Fenster fortschritt(ansicht);
-    Lieder_einlesen einlesen(modell, mp3, fortschritt);
+    Neueinlesen einlesen(modell, mp3, fortschritt);
     Verhältnisse beim_Einlesen(31);
     beim_Einlesen.höchstens(
         "Einlesen von 5000 Liedern", 1.5, "Systemaufrufe für die Tags",

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "grundlagen/versuchen.hpp"
-#include "oberflaeche/fortschritts_ende.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "plattform/kanaele.hpp"
 
 namespace tonkartei {

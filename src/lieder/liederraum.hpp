@@ -10,7 +10,7 @@
 #include "lieder/lieder_entfernen.hpp"
 #include "lieder/luecken.hpp"
 #include "lieder/wartung/datum_eingeben.hpp"
-#include "lieder/wartung/lieder_einlesen.hpp"
+#include "lieder/wartung/neueinlesen.hpp"
 #include "lieder/wartung/vergleichsbericht.hpp"
 #include "lieder/wartung/wartung.hpp"
 #include "mp3/mp3_taghead.hpp"
@@ -33,7 +33,7 @@ struct Liederraum {
     Lied_bearbeiten bearbeiten;
     Lied_Anzahl anzahl;
     Hinzufügen hinzufügen;
-    Lieder_einlesen einlesen;
+    Neueinlesen einlesen;
     Vergleichsbericht vergleichsbericht;
     Datum_eingeben datum_eingeben;
     Wartung wartung;

@@ -3,7 +3,7 @@
 #include "grundlagen/waehrend.hpp"
 #include "lieder/dateibewegung.hpp"
 #include "oberflaeche/ansicht.hpp"
-#include "oberflaeche/fortschritts_ende.hpp"
+#include "oberflaeche/fortschritt.hpp"
 
 namespace tonkartei {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "datenbank/modell.hpp"
 #include "oberflaeche/ansicht.hpp"
-#include "oberflaeche/fortschritts_ende.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "plattform/dateisystem.hpp"
 #include "plattform/rechner.hpp"
 

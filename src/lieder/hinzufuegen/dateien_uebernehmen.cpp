@@ -2,7 +2,7 @@
 
 #include "lieder/cshfileop.hpp"
 #include "oberflaeche/ansicht.hpp"
-#include "oberflaeche/fortschritts_ende.hpp"
+#include "oberflaeche/fortschritt.hpp"
 
 namespace tonkartei {
 namespace {

@@ -7,7 +7,7 @@
 #include "grundlagen/codepage.hpp"
 #include "lieder/hinzufuegen/mp3_tag_aendern.hpp"
 #include "oberflaeche/ansicht.hpp"
-#include "oberflaeche/fortschritts_ende.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "wiedergabe/winamp/winamp_starter.hpp"
 
 namespace tonkartei {

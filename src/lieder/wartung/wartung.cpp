@@ -4,7 +4,7 @@
 #include <tuple>
 
 #include "oberflaeche/ansicht.hpp"
-#include "oberflaeche/fortschritts_ende.hpp"
+#include "oberflaeche/fortschritt.hpp"
 
 namespace tonkartei {
 

@@ -3,7 +3,7 @@
 
 #include "datenbank/haus.hpp"
 #include "lieder/wartung/datum_eingeben.hpp"
-#include "lieder/wartung/lieder_einlesen.hpp"
+#include "lieder/wartung/neueinlesen.hpp"
 #include "lieder/wartung/zwillinge.hpp"
 #include "liste/listenbereich.hpp"
 
@@ -14,7 +14,7 @@ Text Mittelwert_Text(double wert);
 
 class Wartung {
 public:
-    Wartung(Haus& haus, Lieder_einlesen& einlesen, Datum_eingeben& datum, Listenbereich& liste)
+    Wartung(Haus& haus, Neueinlesen& einlesen, Datum_eingeben& datum, Listenbereich& liste)
         : modell_(haus.modell),
           dateien_(haus.plattform.Dateisystem),
           fortschritt_(haus.fortschritt),
@@ -35,7 +35,7 @@ private:
     Modell& modell_;
     Dateisystem& dateien_;
     Fortschritts_Fenster& fortschritt_;
-    Lieder_einlesen& einlesen_;
+    Neueinlesen& einlesen_;
     Datum_eingeben& datum_;
     Listenbereich& liste_;
 };

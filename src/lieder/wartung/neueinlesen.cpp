@@ -1,13 +1,13 @@
-#include "lieder/wartung/lieder_einlesen.hpp"
+#include "lieder/wartung/neueinlesen.hpp"
 
 #include <numeric>
 
 #include "lieder/lied_einlesen.hpp"
-#include "oberflaeche/fortschritts_ende.hpp"
+#include "oberflaeche/fortschritt.hpp"
 
 namespace tonkartei {
 
-void Lieder_einlesen::einlesen(Long Nr) {
+void Neueinlesen::einlesen(Long Nr) {
     try {
         Lied_einlesen(modell_, mp3_, Nr);
     } catch (const Laufzeitfehler&) {
@@ -15,7 +15,7 @@ void Lieder_einlesen::einlesen(Long Nr) {
     }
 }
 
-void Lieder_einlesen::einlesen(const std::vector<Long>& Nummern, const Text& Aufgabe) {
+void Neueinlesen::einlesen(const std::vector<Long>& Nummern, const Text& Aufgabe) {
     const Fortschritts_Ende ende(fortschritt_);
     fortschritt_.Text_setzen(Aufgabe);
     std::size_t erledigt = 0;
@@ -25,7 +25,7 @@ void Lieder_einlesen::einlesen(const std::vector<Long>& Nummern, const Text& Auf
     }
 }
 
-void Lieder_einlesen::alle_Lieder_einlesen() {
+void Neueinlesen::alle_Lieder_einlesen() {
     std::vector<Long> nummern(static_cast<std::size_t>(modell_.Anzahl_Lieder));
     std::iota(nummern.begin(), nummern.end(), 1);
     einlesen(nummern, "Lieder-Namen/-Größe/-Zeit neu einlesen...");

@@ -9,9 +9,9 @@
 
 namespace tonkartei {
 
-class Lieder_einlesen {
+class Neueinlesen {
 public:
-    Lieder_einlesen(Modell& modell, MP3_TagHead& mp3, Fortschritts_Fenster& fortschritt)
+    Neueinlesen(Modell& modell, MP3_TagHead& mp3, Fortschritts_Fenster& fortschritt)
         : modell_(modell), mp3_(mp3), fortschritt_(fortschritt) {}
 
     // Names, size and time of one song. A file that is not there or has no tag overwrites what the record said; a time that
