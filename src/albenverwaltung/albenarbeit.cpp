@@ -7,7 +7,7 @@
 #include "datenbank/modell.hpp"
 #include "liste/listenbereich.hpp"
 #include "oberflaeche/ansicht.hpp"
-#include "oberflaeche/fortschritts_ende.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "playlist/playlist.hpp"
 #include "wiedergabe/abspieler.hpp"
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "oberflaeche/fortschritts_ende.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "plattform/dateisystem.hpp"
 
 namespace tonkartei {

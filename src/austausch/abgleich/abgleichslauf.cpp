@@ -9,7 +9,7 @@
 #include "austausch/liedvergleich.hpp"
 #include "datenbank/quell_datenbank.hpp"
 #include "oberflaeche/ansicht.hpp"
-#include "oberflaeche/fortschritts_ende.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "plattform/dateisystem.hpp"
 
 namespace tonkartei {

@@ -9,7 +9,7 @@
 #include "mp3/mp3_taghead.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/fenstersperre.hpp"
-#include "oberflaeche/fortschritts_ende.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "wiedergabe/winamp/winamp_starter.hpp"
 
 namespace tonkartei {

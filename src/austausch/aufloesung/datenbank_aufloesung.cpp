@@ -3,7 +3,7 @@
 #include "datenbank/version.hpp"
 #include "lieder/dateibewegung.hpp"
 #include "oberflaeche/ansicht.hpp"
-#include "oberflaeche/fortschritts_ende.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "plattform/dateisystem.hpp"
 
 namespace tonkartei {

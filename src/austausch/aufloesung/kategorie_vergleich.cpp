@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "oberflaeche/ansicht.hpp"
-#include "oberflaeche/fortschritts_ende.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "wiedergabe/winamp/winamp_starter.hpp"
 
 namespace tonkartei {

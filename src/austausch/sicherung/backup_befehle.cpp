@@ -8,7 +8,7 @@
 #include "austausch/sicherung/backup_verzeichnis.hpp"
 #include "datenbank/quell_datenbank.hpp"
 #include "oberflaeche/ansicht.hpp"
-#include "oberflaeche/fortschritts_ende.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "plattform/dateisystem.hpp"
 
 namespace tonkartei {

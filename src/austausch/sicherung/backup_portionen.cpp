@@ -4,7 +4,7 @@
 #include "austausch/sicherung/portionserstellung.hpp"
 #include "datenbank/quell_datenbank.hpp"
 #include "oberflaeche/ansicht.hpp"
-#include "oberflaeche/fortschritts_ende.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "plattform/dateisystem.hpp"
 
 namespace tonkartei {

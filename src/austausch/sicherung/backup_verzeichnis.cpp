@@ -3,7 +3,7 @@
 #include "datenbank/info_koerper.hpp"
 #include "datenbank/version.hpp"
 #include "oberflaeche/ansicht.hpp"
-#include "oberflaeche/fortschritts_ende.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "plattform/dateisystem.hpp"
 #include "plattform/kanaele.hpp"
 

@@ -7,7 +7,7 @@
 #include "datenbank/haus.hpp"
 #include "datenbank/version.hpp"
 #include "oberflaeche/ansicht.hpp"
-#include "oberflaeche/fortschritts_ende.hpp"
+#include "oberflaeche/fortschritt.hpp"
 
 namespace tonkartei {
 namespace {

@@ -6,7 +6,7 @@
 #include "datenbank/text_form.hpp"
 #include "datenbank/zeitleser.hpp"
 #include "oberflaeche/ansicht.hpp"
-#include "oberflaeche/fortschritts_ende.hpp"
+#include "oberflaeche/fortschritt.hpp"
 #include "plattform/dateisystem.hpp"
 #include "plattform/kanaele.hpp"
 
