@@ -23,7 +23,7 @@ Text Befehlszeile::nächstes(const char* was) {
         throw Befehlsfehler(Text("keine gültige Zeichenkette: ") + was);
     }
     const std::size_t ende = std::min(zeile_.find_first_of(" \t", stelle_), zeile_.size());
-    const Text wort = zeile_.substr(stelle_, ende - stelle_);
+    Text wort = zeile_.substr(stelle_, ende - stelle_);
     stelle_ = ende;
     return wort;
 }
@@ -47,7 +47,7 @@ double Befehlszeile::Kommazahl(const char* was) {
 
 Text Befehlszeile::rest() {
     if (stelle_ < zeile_.size()) ++stelle_;
-    const Text übrig = zeile_.substr(stelle_);
+    Text übrig = zeile_.substr(stelle_);
     stelle_ = zeile_.size();
     if (!übrig.empty() && übrig.front() == '"') {
         std::size_t ende = 0;
@@ -59,7 +59,7 @@ Text Befehlszeile::rest() {
 
 Text Befehlszeile::rest_roh() {
     Leerzeichen_übergehen();
-    const Text übrig = zeile_.substr(stelle_);
+    Text übrig = zeile_.substr(stelle_);
     stelle_ = zeile_.size();
     return übrig;
 }

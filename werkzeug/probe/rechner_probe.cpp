@@ -13,7 +13,9 @@ Rechner_Probe::Rechner_Probe(const Zeitpunkt& uhr, Text temp_ordner, bool zweite
     const sys_days tag =
         std::chrono::year_month_day(std::chrono::year(uhr.Jahr), std::chrono::month(static_cast<unsigned>(uhr.Monat)),
                                     std::chrono::day(static_cast<unsigned>(uhr.Tag)));
-    beginn_ = std::int64_t{tag.time_since_epoch().count()} * 86400 + uhr.Stunde * 3600 + uhr.Minute * 60 + uhr.Sekunde;
+    const std::chrono::sys_seconds uhrzeit =
+        tag + std::chrono::hours(uhr.Stunde) + std::chrono::minutes(uhr.Minute) + std::chrono::seconds(uhr.Sekunde);
+    beginn_ = uhrzeit.time_since_epoch().count();
 }
 
 Zeitpunkt Rechner_Probe::jetzt() {
