@@ -42,9 +42,9 @@ bool Info_Datei::Datei_schreiben(bool Fortschritt_zeigen) {
         const int nummer = kanäle_.öffnen_zum_Schreiben(pfad);
         Familienkopf_schreiben(kanäle_, nummer, modell_.Programmversion);
         if (Fortschritt_zeigen && modell_.Anzahl_Lieder > 0) fortschritt_.Text_setzen("Datenbank speichern...");
-        Info_Körper_schreiben(kanäle_, nummer, std::as_const(modell_), [&](Long nr, Long anzahl) {
-            if (Fortschritt_zeigen) fortschritt_.anzeigen(Prozent(nr, anzahl));
-        });
+        Liedzähler zähler;
+        if (Fortschritt_zeigen) zähler = [this](Long nr, Long anzahl) { fortschritt_.anzeigen(Prozent(nr, anzahl)); };
+        Info_Körper_schreiben(kanäle_, nummer, std::as_const(modell_), zähler);
         // On the disk before the copy goes: at every instant one whole collection exists.
         kanäle_.schließen(nummer, true);
         const bool kopie_da = dateien_.Datei_da(Info_Kopie_Name);

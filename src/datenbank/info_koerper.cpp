@@ -46,7 +46,7 @@ void Info_Körper_lesen(Kanäle& kanäle, int nummer, Bestand& bestand, const Li
     bestand.Anzahl_Lieder = std::max(kanäle.lese_Long(nummer), Long{0});
     for (Long n = 1; n <= bestand.Anzahl_Lieder; ++n) {
         Lied_lesen(kanäle, nummer, bestand.Lieder[n]);
-        je_Lied(n, bestand.Anzahl_Lieder);
+        if (je_Lied) je_Lied(n, bestand.Anzahl_Lieder);
     }
 }
 
@@ -64,7 +64,7 @@ void Info_Körper_schreiben(Kanäle& kanäle, int nummer, const Bestand& bestand
     kanäle.schreibe_Zahl(nummer, bestand.Anzahl_Lieder);
     for (Long n = 1; n <= bestand.Anzahl_Lieder; ++n) {
         Lied_schreiben(kanäle, nummer, bestand.Lieder[n]);
-        je_Lied(n, bestand.Anzahl_Lieder);
+        if (je_Lied) je_Lied(n, bestand.Anzahl_Lieder);
     }
 }
 

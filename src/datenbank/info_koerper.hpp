@@ -10,7 +10,7 @@ namespace tonkartei {
 
 class Kanäle;
 
-// Told after each song: its number and how many there are.
+// Told after each song: its number and how many there are. May be empty.
 using Liedzähler = std::function<void(Long Nr, Long Anzahl)>;
 
 // From a channel that stands behind the head, whatever collection it belongs to. A count of songs below 1 means none. A

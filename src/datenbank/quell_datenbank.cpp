@@ -25,7 +25,7 @@ std::optional<Bestand> Quell_Datenbank::lesen(const Text& Ordner) {
     bool gelesen = false;
     if (info.pruefe_Info_Datei(datei, nummer)) {
         try {
-            Info_Körper_lesen(haus_.kanäle, nummer, andere, [](Long, Long) {});
+            Info_Körper_lesen(haus_.kanäle, nummer, andere, {});
             gelesen = true;
         } catch (const Laufzeitfehler&) {
             // Cut off, or numbers that cannot be: the open collection is none the worse for it.

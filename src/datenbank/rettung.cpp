@@ -21,7 +21,7 @@ bool Rettung::schreiben() noexcept {
         if (dateien_.Art_von(pfad) != Pfadart::nichts) return false;
         nummer = kanäle_.öffnen_zum_Schreiben(pfad);
         Familienkopf_schreiben(kanäle_, nummer, modell_.Programmversion);
-        Info_Körper_schreiben(kanäle_, nummer, modell_, [](Long, Long) {});
+        Info_Körper_schreiben(kanäle_, nummer, modell_, {});
         kanäle_.schließen(nummer, true);
         return true;
     } catch (...) {

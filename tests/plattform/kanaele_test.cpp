@@ -70,7 +70,7 @@ TEST_F(KanäleTest, ZeilenUndWerte) {
 
 // Line ends, values and long lines at every place around the end of the buffer.
 TEST_F(KanäleTest, GrenzenDesPuffers) {
-    constexpr std::size_t puffer = 64 * 1024;
+    constexpr auto puffer = std::size_t{64} * 1024;
     for (std::size_t länge = puffer - 4; länge <= puffer + 3; ++länge) {
         const std::string lang(länge, 'x');
         int nr = lesend(lang + "\r\n\r\n 7 ,8\r\nlast");
