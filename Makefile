@@ -8,13 +8,14 @@ RELEASE := build/release
 KERNE   := $(shell nproc 2>/dev/null || echo 2)
 QUELLEN := src werkzeug tests leistung
 
-.PHONY: help run test pruefen tour bench format install paket bediener bauen
+.PHONY: help run test stil pruefen tour bench format install paket bediener bauen
 .NOTPARALLEL:
 MAKEFLAGS += --no-print-directory
 
 help:
 	@echo 'make run       install what is missing, build, start Tonkartei (the tour where there is no display)'
 	@echo 'make test      build and run every test, then again under the sanitizers, fuzzers included'
+	@echo 'make stil      format and shellcheck'
 	@echo 'make pruefen   format, clang-tidy, shellcheck, the rules of the house; a second run looks only at what has changed'
 	@echo 'make tour      play the main job without a screen; pictures of the windows land in build/tour'
 	@echo 'make bench     measure; fails when a ratio is above its limit'
@@ -47,10 +48,12 @@ test:
 	@ctest --preset sanitizer -j $(KERNE)
 	@sh skripte/anteil.sh
 
-pruefen:
+stil:
 	@sh skripte/einrichten.sh pruefen
 	@find $(QUELLEN) -name '*.[ch]pp' | xargs clang-format --dry-run -Werror
 	@shellcheck .ci/run skripte/*.sh
+
+pruefen: stil
 	@cmake --preset pruefung
 	@cmake --build --preset pruefung --target test_haus
 	@build/pruefung/bin/test_haus --gtest_brief=1

@@ -9,7 +9,7 @@ Text Zieldatei_wählen(Ansicht& ansicht, Dateisystem& dateien, const Text& filte
     Dateiwahl wahl;
     wahl.speichern = true;
     wahl.filter = filter;
-    const Text datei = ansicht.Datei_wählen(wahl);
+    Text datei = ansicht.Datei_wählen(wahl);
     if (datei.empty() || !dateien.Datei_da(datei)) return datei;
     const bool ersetzen =
         ansicht.fragen(Titel_der_Frage, "Diese Datei existiert bereits!" + Text(CRCR) + "Soll sie überschrieben werden?");

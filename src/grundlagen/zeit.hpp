@@ -31,6 +31,7 @@ Text Dauer_Text(double Sekunden);
 // A moment of the local calendar, to the second.
 struct Zeitpunkt {
     int Jahr = 1899, Monat = 12, Tag = 30, Stunde = 0, Minute = 0, Sekunde = 0;
+    // NOLINTNEXTLINE(modernize-use-nullptr): it takes the 0 of the comparison for one.
     auto operator<=>(const Zeitpunkt&) const = default;
     Zeit Tageszeit() const { return Zeit_aus(Stunde, Minute, Sekunde); }
 };

@@ -24,7 +24,7 @@ namespace {
 const Text Wurzelschlüssel = "Software\\Tonkartei\\";
 
 Text Temp_anlegen(Dateisystem& dateien, const Text& wurzel) {
-    const Text temp = wurzel + "temp/";
+    Text temp = wurzel + "temp/";
     if (!dateien.Ordner_da(temp)) dateien.Ordner_anlegen(temp);
     return temp;
 }

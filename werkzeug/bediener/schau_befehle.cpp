@@ -154,7 +154,7 @@ void Schaubefehle_eintragen(Befehlstafel& tafel, Ansicht_Bediener& ansicht, Masc
         }
         ansicht.ausgeben(Objekt().roh("registrierung", Registrierung_beschreiben(maschine)).text());
     };
-    tafel["bild"] = [&ansicht, bild](Befehlszeile& z) {
+    tafel["bild"] = [&ansicht, bild = std::move(bild)](Befehlszeile& z) {
         const Text name = z.nächstes("Fenster oder Menü");
         const Text datei = z.nächstes("Datei");
         z.zu_Ende();

@@ -15,7 +15,8 @@ constexpr const char* Überschrift = "Lied hinzufügen";
 }  // namespace
 
 bool Abgleich_Übernahme::genug_Platz(std::int64_t bytes, const Text& Name) {
-    const auto frei = static_cast<double>(dateien_.freie_Bytes(modell_.Datenbank_Verzeichnis).value_or(0) / 1024);
+    const auto ganze_KByte = dateien_.freie_Bytes(modell_.Datenbank_Verzeichnis).value_or(0) / 1024;
+    const auto frei = static_cast<double>(ganze_KByte);
     // MByte against KByte: it hardly ever asks, and that is how it stays.
     if (static_cast<double>(bytes) / 1024 / 1024 <= frei) return true;
     return wahl_.ansicht().fragen(
