@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "bediener/ansicht_bediener.hpp"
 #include "bediener/befehle.hpp"
 #include "bediener/json.hpp"
