@@ -1,24 +1,15 @@
 // *.MAD: the numbers of the songs that another collector asks for.
 #pragma once
 
-#include <optional>
-#include <vector>
-
-#include "grundlagen/text.hpp"
-#include "grundlagen/zahl.hpp"
+#include "austausch/nummerndatei.hpp"
 
 namespace tonkartei {
-
-class Ansicht;
-class Kanäle;
-struct Modell;
 
 inline constexpr const char* Anforderungsdatei_Filter = "Datenbank-Anforderungsdatei (*.MAD)|*.MAD| Alle Dateien (*.*) |*.*";
 
 class Anforderungsdatei {
 public:
-    Anforderungsdatei(const Modell& modell, Kanäle& kanäle, Ansicht& ansicht)
-        : modell_(modell), kanäle_(kanäle), ansicht_(ansicht) {}
+    Anforderungsdatei(const Modell& modell, Kanäle& kanäle, Ansicht& ansicht);
 
     // Each number as text, in the order given. Dateifehler.
     void schreiben(const Text& Datei, const std::vector<Text>& Nummern);
@@ -27,9 +18,8 @@ public:
     std::vector<Long> lesen(const Text& Datei);
 
 private:
-    const Modell& modell_;
     Kanäle& kanäle_;
-    Ansicht& ansicht_;
+    Nummerndatei datei_;
 };
 
 }  // namespace tonkartei
