@@ -5,6 +5,7 @@
 #include "datenbank/version.hpp"
 #include "datenbank/zeitleser.hpp"
 #include "plattform/kanaele.hpp"
+#include "plattform/zeilenstift.hpp"
 
 namespace tonkartei {
 namespace {
@@ -19,15 +20,21 @@ void Lied_lesen(Kanäle& kanäle, int nummer, Lied& lied) {
     lied.Zeit = Zeit_aus(stunden, minuten, sekunden);
 }
 
+constexpr std::size_t Zeilen_je_Lied = 8;
+
+// All lines of a song in one go: a collection has 40,000 of them, and the user waits for its saving.
 void Lied_schreiben(Kanäle& kanäle, int nummer, const Lied& lied) {
-    kanäle.schreibe_Zahl(nummer, lied.Anzahl);
-    kanäle.schreibe_Zeile(nummer, lied.Artist);
-    kanäle.schreibe_Zahl(nummer, lied.Größe);
+    const std::size_t höchstens = Zeilen_je_Lied * Zeilenstift::Zahlenzeile + lied.Artist.size() + lied.Titel.size();
+    Zeilenstift stift(kanäle.Platz(nummer, höchstens));
+    stift.Zahl(lied.Anzahl);
+    stift.Zeile(lied.Artist);
+    stift.Zahl(lied.Größe);
     // An end may come while the new category is being asked for: the song then counts to the first one.
-    kanäle.schreibe_Zahl(nummer, lied.Kategorie == ohne_Kategorie ? Byte{1} : lied.Kategorie);
-    kanäle.schreibe_Zeile(nummer, lied.Titel);
+    stift.Zahl(lied.Kategorie == ohne_Kategorie ? Byte{1} : lied.Kategorie);
+    stift.Zeile(lied.Titel);
     const Long sekunden = Sekunden_von(lied.Zeit);
-    for (const Long teil : {sekunden / 3600, sekunden / 60 % 60, sekunden % 60}) kanäle.schreibe_reine_Zahl(nummer, teil);
+    for (const Long teil : {sekunden / 3600, sekunden / 60 % 60, sekunden % 60}) stift.reine_Zahl(teil);
+    kanäle.geschrieben(nummer, stift.Ende());
 }
 
 }  // namespace

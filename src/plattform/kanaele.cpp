@@ -1,7 +1,6 @@
 #include "plattform/kanaele.hpp"
 
 #include <algorithm>
-#include <charconv>
 #include <cstring>
 #include <span>
 #include <utility>
@@ -9,13 +8,13 @@
 #include "grundlagen/codepage.hpp"
 #include "grundlagen/fehler.hpp"
 #include "plattform/offene_datei.hpp"
+#include "plattform/zeilenstift.hpp"
 
 namespace tonkartei {
 namespace {
 
 constexpr std::size_t Puffergröße = 65536;
 constexpr std::size_t höchste_Nummer = 255;
-constexpr std::size_t längste_Zahl = 20;  // digits and sign of 64 bits
 
 std::string_view ohne_Blanks_dahinter(std::string_view bytes) {
     while (!bytes.empty() && bytes.back() == ' ') bytes.remove_suffix(1);
@@ -63,19 +62,21 @@ bool Kanäle::offen(int nummer) const {
            kanäle_[static_cast<std::size_t>(nummer) - 1] != nullptr;
 }
 
-Kanäle::Kanal& Kanäle::Kanal_von(int nummer) {
-    if (!offen(nummer)) throw Dateifehler(52);
-    return *kanäle_[static_cast<std::size_t>(nummer) - 1];
+// Every line of every file comes by these: inline, as far as this file is concerned.
+inline Kanäle::Kanal& Kanäle::Kanal_von(int nummer) {
+    const auto stelle = static_cast<std::size_t>(nummer) - 1;
+    if (stelle >= kanäle_.size() || kanäle_[stelle] == nullptr) throw Dateifehler(52);
+    return *kanäle_[stelle];
 }
 
-Kanäle::Kanal& Kanäle::mit_Richtung(int nummer, bool schreibend) {
+inline Kanäle::Kanal& Kanäle::mit_Richtung(int nummer, bool schreibend) {
     Kanal& kanal = Kanal_von(nummer);
     if (kanal.schreibend != schreibend) throw Dateifehler(54, kanal.pfad);
     return kanal;
 }
 
-Kanäle::Kanal& Kanäle::zum_Lesen(int nummer) { return mit_Richtung(nummer, false); }
-Kanäle::Kanal& Kanäle::zum_Schreiben(int nummer) { return mit_Richtung(nummer, true); }
+inline Kanäle::Kanal& Kanäle::zum_Lesen(int nummer) { return mit_Richtung(nummer, false); }
+inline Kanäle::Kanal& Kanäle::zum_Schreiben(int nummer) { return mit_Richtung(nummer, true); }
 
 void Kanäle::schließen(int nummer, bool sichern) {
     Kanal& kanal = Kanal_von(nummer);
@@ -193,45 +194,44 @@ void Kanäle::ausschreiben(Kanal& kanal) {
     kanal.ende = 0;
 }
 
-// Room for a line of that many bytes and its end.
-char* Kanäle::Platz_für_Zeile(Kanal& kanal, std::size_t länge) {
-    if (kanal.ende + länge + 2 > kanal.puffer.size()) {
+char* Kanäle::Platz(int nummer, std::size_t höchstens) {
+    Kanal& kanal = zum_Schreiben(nummer);
+    if (kanal.ende + höchstens > kanal.puffer.size()) {
         ausschreiben(kanal);
-        if (länge + 2 > kanal.puffer.size()) kanal.puffer.resize(std::max(Puffergröße, länge + 2));
+        if (höchstens > kanal.puffer.size()) kanal.puffer.resize(std::max(Puffergröße, höchstens));
     }
     return kanal.puffer.data() + kanal.ende;
 }
 
-void Kanäle::Zeile_beenden(Kanal& kanal, char* ende) {
-    *ende++ = '\r';
-    *ende++ = '\n';
+void Kanäle::geschrieben(int nummer, const char* ende) {
+    Kanal& kanal = zum_Schreiben(nummer);
     kanal.ende = static_cast<std::size_t>(ende - kanal.puffer.data());
 }
 
+template <class Schreiber>
+void Kanäle::schreibe(int nummer, std::size_t höchstens, Schreiber&& schreiber) {
+    Zeilenstift stift(Platz(nummer, höchstens));
+    schreiber(stift);
+    geschrieben(nummer, stift.Ende());
+}
+
 void Kanäle::schreibe_Zeile(int nummer, const Text& text) {
-    Kanal& kanal = zum_Schreiben(nummer);
-    // No character is longer on the page than in UTF-8.
-    Zeile_beenden(kanal, nach_1252(text, Platz_für_Zeile(kanal, text.size())));
+    schreibe(nummer, text.size() + Zeilenstift::Zahlenzeile, [&](Zeilenstift& stift) { stift.Zeile(text); });
 }
 
 void Kanäle::schreibe_Rohzeile(int nummer, const std::string& bytes) {
-    Kanal& kanal = zum_Schreiben(nummer);
-    Zeile_beenden(kanal, std::copy(bytes.begin(), bytes.end(), Platz_für_Zeile(kanal, bytes.size())));
+    char* ziel = std::copy(bytes.begin(), bytes.end(), Platz(nummer, bytes.size() + 2));
+    *ziel++ = '\r';
+    *ziel++ = '\n';
+    geschrieben(nummer, ziel);
 }
 
 void Kanäle::schreibe_Zahl(int nummer, std::int64_t wert) {
-    Kanal& kanal = zum_Schreiben(nummer);
-    char* ziel = Platz_für_Zeile(kanal, längste_Zahl + 2);
-    if (wert >= 0) *ziel++ = ' ';
-    ziel = std::to_chars(ziel, ziel + längste_Zahl, wert).ptr;
-    *ziel++ = ' ';
-    Zeile_beenden(kanal, ziel);
+    schreibe(nummer, Zeilenstift::Zahlenzeile, [&](Zeilenstift& stift) { stift.Zahl(wert); });
 }
 
 void Kanäle::schreibe_reine_Zahl(int nummer, std::int64_t wert) {
-    Kanal& kanal = zum_Schreiben(nummer);
-    char* ziel = Platz_für_Zeile(kanal, längste_Zahl);
-    Zeile_beenden(kanal, std::to_chars(ziel, ziel + längste_Zahl, wert).ptr);
+    schreibe(nummer, Zeilenstift::Zahlenzeile, [&](Zeilenstift& stift) { stift.reine_Zahl(wert); });
 }
 
 void Kanäle::schreibe_Bytes(int nummer, std::string_view bytes) {

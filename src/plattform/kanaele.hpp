@@ -60,6 +60,10 @@ public:
     void schreibe_reine_Zahl(int nummer, std::int64_t wert);
     // The file's own bytes as they are, line ends included.
     void schreibe_Bytes(int nummer, std::string_view bytes);
+    // For many lines at once: room for so many bytes behind what was written, and how far it has been filled (see
+    // Zeilenstift). Nothing else may be written to the channel in between.
+    char* Platz(int nummer, std::size_t höchstens);
+    void geschrieben(int nummer, const char* ende);
 
 private:
     struct Kanal;
@@ -74,8 +78,8 @@ private:
     std::string_view Wert(Kanal& kanal, std::size_t höchstens = std::string_view::npos);
     std::string_view Satz(Kanal& kanal, std::size_t höchstens);
     void ausschreiben(Kanal& kanal);
-    char* Platz_für_Zeile(Kanal& kanal, std::size_t länge);
-    static void Zeile_beenden(Kanal& kanal, char* ende);
+    template <class Schreiber>
+    void schreibe(int nummer, std::size_t höchstens, Schreiber&& schreiber);
 
     Dateisystem& dateien_;
     std::vector<std::unique_ptr<Kanal>> kanäle_;  // number n at n - 1, null where free
