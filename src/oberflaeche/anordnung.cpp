@@ -5,6 +5,7 @@
 
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/elemente.hpp"
+#include "oberflaeche/fenster.hpp"
 
 namespace tonkartei {
 namespace {
@@ -23,6 +24,11 @@ int Zugabe(const Element& element) {
         case Elementart::Liste: return 30 * Twips_je_Pixel;
         default: return 0;
     }
+}
+
+// The window that fills a frame.
+Fenster* Inhalt_von(const Element& element) {
+    return element.art() == Elementart::Rahmen ? static_cast<const Rahmen&>(element).Inhalt : nullptr;
 }
 
 }  // namespace
@@ -148,6 +154,10 @@ Größe Anordnung::messen(const Knoten& knoten) const {
         case Knoten::Sorte::Abstand: break;
         case Knoten::Sorte::Element: {
             maß = ansicht_.Wunschgröße(*knoten.element_);
+            if (Fenster* inhalt = Inhalt_von(*knoten.element_)) {
+                const Bereich rand = ansicht_.Rahmenrand(*knoten.element_);
+                maß = {inhalt->Mindestgröße().breite + rand.breite, inhalt->Mindestgröße().höhe + rand.höhe};
+            }
             const int punkte = knoten.element_->schrift();
             if (knoten.zeichen_ > 0)
                 maß.breite = std::max(knoten.dehnung_x_ > 0 ? 0 : maß.breite,

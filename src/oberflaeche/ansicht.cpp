@@ -106,6 +106,7 @@ void Ansicht::Fenster_vergessen(Fenster& fenster) {
 }
 
 void Ansicht::Fenster_nach_vorn(Fenster& fenster) {
+    if (Fenster* ganzes = fenster.Elternfenster(); ganzes != nullptr && ganzes->sichtbar()) Fenster_nach_vorn(*ganzes);
     entfernen(fenster_, &fenster);
     fenster_.insert(fenster_.begin(), &fenster);
 }

@@ -21,6 +21,7 @@ public:
     Ausrichtung ausrichtung = Ausrichtung::links;
     bool umbrechen = false;   // wraps at the width
     bool eingerahmt = false;  // sunken frame, for values
+    bool Ziffern = false;     // digits of a clock, of seven segments each
     // The text is data: "&" marks nothing unless doubled.
     bool wie_Daten = false;
 };
@@ -104,6 +105,10 @@ public:
     Ereignis<> Geändert;
     Ereignis<> Gescrollt;  // the hand alone
     bool senkrecht = false;
+    // Grows downward or to the left, and not upward or to the right.
+    bool umgekehrt = false;
+    // With a grip for a hand that has other things to look at.
+    bool griffig = false;
     void Startwerte_merken() override;
     void Startwerte_setzen() override;
 
@@ -138,6 +143,8 @@ public:
         : Element(f, Elementart::Rahmen, std::move(name), std::move(beschriftung), index) {}
     // Drawn opaque above what lies under it.
     bool deckend = false;
+    // The window that fills it as a part of this one (`Fenster::einbetten`).
+    Fenster* Inhalt = nullptr;
 };
 
 class Balken : public Element {

@@ -36,8 +36,9 @@ void Fenster::laden() {
     const Größe mindest = Mindestgröße();
     lage_.breite = std::max(wunsch.breite, mindest.breite);
     lage_.höhe = std::max(wunsch.höhe, mindest.höhe);
-    zentrieren();
+    if (platz_ == nullptr) zentrieren();
     neu_anordnen();
+    if (platz_ != nullptr) platz_->fenster().neu_anordnen();
     beim_Laden();
     if (geladen_) ansicht_.Fenster_geändert(*this);
 }
@@ -165,17 +166,42 @@ Element* Fenster::element(const Text& name, int index) const {
 
 void Fenster::neu_anordnen() {
     if (!geladen_ || !anordnung_ || ordnet_) return;
-    ordnet_ = true;
     const Größe mindest = anordnung_->Mindestgröße();
-    if (mindest.breite > lage_.breite || mindest.höhe > lage_.höhe) {
+    const bool zu_klein = mindest.breite > lage_.breite || mindest.höhe > lage_.höhe;
+    if (Fenster* ganzes = Elternfenster(); zu_klein && ganzes != nullptr && ganzes->geladen_ && !ganzes->ordnet_) {
+        ganzes->neu_anordnen();  // which gives this part its room, and comes back
+        return;
+    }
+    ordnet_ = true;
+    if (zu_klein) {
         lage_.breite = std::max(lage_.breite, mindest.breite);
         lage_.höhe = std::max(lage_.höhe, mindest.höhe);
         ansicht_.Fenster_geändert(*this);
     }
     anordnung_->anordnen({lage_.breite, lage_.höhe});
+    Eingebettete_anordnen();
     ordnet_ = false;
     bei_neuer_Anordnung();
 }
+
+void Fenster::Eingebettete_anordnen() {
+    for (const Element* e : elemente_) {
+        Fenster* teil = e->art() == Elementart::Rahmen ? static_cast<const Rahmen*>(e)->Inhalt : nullptr;
+        if (teil == nullptr || !teil->geladen_ || teil->ordnet_) continue;
+        const Bereich rand = ansicht_.Rahmenrand(*e);
+        teil->lage_ = {e->links() + rand.links, e->oben() + rand.oben, e->breite() - rand.breite, e->höhe() - rand.höhe};
+        teil->neu_anordnen();
+        teil->bei_neuer_Größe();
+        ansicht_.Fenster_geändert(*teil);
+    }
+}
+
+void Fenster::einbetten(Rahmen& platz) {
+    platz_ = &platz;
+    platz.Inhalt = this;
+}
+
+Fenster* Fenster::Elternfenster() const noexcept { return platz_ == nullptr ? nullptr : &platz_->fenster(); }
 
 void Fenster::malen() {
     if (sichtbar()) ansicht_.Fenster_malen(*this);

@@ -13,6 +13,7 @@
 namespace tonkartei {
 
 class Ansicht;
+class Rahmen;
 
 enum class Fensterzustand { normal, minimiert };
 
@@ -82,6 +83,12 @@ public:
     // Repaints now, runs no input.
     void malen();
 
+    // Makes it a part of another window, filling that frame, which lies free of other frames: no title bar, no place of its
+    // own (`lage` is then within the other window), never without it. Before the first loading.
+    void einbetten(Rahmen& platz);
+    // The window that it is a part of; null: none.
+    Fenster* Elternfenster() const noexcept;
+
     // Default and cancel button: Return and Escape, where the control itself does not use them.
     Element* Vorgabeknopf = nullptr;
     Element* Abbruchknopf = nullptr;
@@ -89,6 +96,8 @@ public:
     bool größenveränderlich = true;
     // No title bar, always in front of the others (splash, progress).
     bool ohne_Rand = false;
+    // Colour of the ground; controls without colours of their own go along with it, light on dark.
+    Farbe hintergrund = Farbe_Standard;
     Ereignis<> Mausbewegung;  // the mouse moves over free ground of the window
     Ereignis<const std::vector<Text>&> Dateien_abgelegt;
 
@@ -112,11 +121,13 @@ protected:
 private:
     friend class Element;
     friend class Ansicht;
+    void Eingebettete_anordnen();
 
     Ansicht& ansicht_;
     Text name_, titel_, start_titel_;
     std::vector<Element*> elemente_;
     const Menü* menü_ = nullptr;
+    Rahmen* platz_ = nullptr;
     std::unique_ptr<Anordnung> anordnung_;
     Bereich lage_{};
     bool geladen_ = false, sichtbar_ = false, modal_ = false, aktiv_ = true, immer_oben_ = false, startwerte_da_ = false;

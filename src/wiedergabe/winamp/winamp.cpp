@@ -23,23 +23,23 @@ constexpr Long Beenden_wenn_gestoppt = 3;
 }  // namespace
 
 WinAmp::WinAmp(Text Klasse, Einstellungen& einstellungen, WinAmp_Steuerung& steuerung, Fenstersuche& suche, Rechner& rechner)
-    : Klasse_(std::move(Klasse)), einstellungen_(einstellungen), steuerung_(steuerung), suche_(suche), rechner_(rechner) {}
+    : Klasse_(std::move(Klasse)), einstellungen_(einstellungen), fenster_(steuerung), suche_(suche), rechner_(rechner) {}
 
 void WinAmp::nachsehen() {
-    WinAmp_Hwnd = suche_.Fenster_suchen_global(Klasse_);
+    WinAmp_Hwnd = fenster_.Fenster = suche_.Fenster_suchen_global(Klasse_);
     WinAmp_da = WinAmp_Hwnd != 0;
     if (!WinAmp_da) return;
-    WinAmp_Status = steuerung_.WinAmp_Status_lesen(WinAmp_Hwnd).value_or(WinAmp_Status);
+    WinAmp_Status = fenster_.Status();
     if (einstellungen_.WinAmp_verstecken && !WinAmp_versteckt) verstecken();
 }
 
 void WinAmp::verstecken() {
-    steuerung_.verstecken(WinAmp_Hwnd);
+    fenster_.verstecken();
     WinAmp_versteckt = true;
 }
 
 void WinAmp::vor_dem_Start() {
-    if (WinAmp_da && WinAmp_versteckt) steuerung_.zeigen(WinAmp_Hwnd);
+    if (WinAmp_da && WinAmp_versteckt) fenster_.zeigen();
     WinAmp_versteckt = false;
 }
 
@@ -51,38 +51,28 @@ void WinAmp::nach_dem_Start() {
 }
 
 void WinAmp::Befehl(std::int32_t Code) {
-    if (WinAmp_da) steuerung_.WinAmp_Befehl(Code, WinAmp_Hwnd);
+    if (WinAmp_da) fenster_.Befehl(Code);
 }
 
 void WinAmp::springen(double Sekunden) {
     using Grenze = std::numeric_limits<Long>;
-    if (WinAmp_da)
-        steuerung_.WinAmp_springen(WinAmp_Hwnd, gerundet(std::clamp<double>(Sekunden * 1000, Grenze::min(), Grenze::max())));
+    if (WinAmp_da) fenster_.springen(gerundet(std::clamp<double>(Sekunden * 1000, Grenze::min(), Grenze::max())));
 }
 
-Long WinAmp::Position() {
-    if (!WinAmp_da) return 0;
-    return Position_ = steuerung_.WinAmp_Position_lesen(WinAmp_Hwnd).value_or(Position_);
-}
+Long WinAmp::Position() { return WinAmp_da ? fenster_.Position() : 0; }
 
-Long WinAmp::Länge() {
-    if (!WinAmp_da) return 0;
-    return Länge_ = steuerung_.WinAmp_Länge_lesen(WinAmp_Hwnd).value_or(Länge_);
-}
+Long WinAmp::Länge() { return WinAmp_da ? fenster_.Länge() : 0; }
 
 void WinAmp::Lautstärke_stellen(Long Wert) {
     Wert = std::clamp<Long>(Wert, 0, Lautstärke_maximal);
-    if (WinAmp_da) {
-        Long lautstärke = gerundet(Wert * Lautstärke_je_Reglerschritt);
-        steuerung_.WinAmp_Lautstärke_setzen(WinAmp_Hwnd, lautstärke);
-    }
+    if (WinAmp_da) fenster_.Lautstärke(gerundet(Wert * Lautstärke_je_Reglerschritt));
     einstellungen_.WinAmp_Lautstärke = Wert;
 }
 
 void WinAmp::Verstecken_umgeschaltet() {
     if (!WinAmp_da) return;
-    if (einstellungen_.WinAmp_verstecken && !WinAmp_versteckt) steuerung_.verstecken(WinAmp_Hwnd);
-    if (!einstellungen_.WinAmp_verstecken && WinAmp_versteckt) steuerung_.zeigen(WinAmp_Hwnd);
+    if (einstellungen_.WinAmp_verstecken && !WinAmp_versteckt) fenster_.verstecken();
+    if (!einstellungen_.WinAmp_verstecken && WinAmp_versteckt) fenster_.zeigen();
 }
 
 void WinAmp::Hauptfenster_minimiert() {
@@ -91,22 +81,21 @@ void WinAmp::Hauptfenster_minimiert() {
 
 void WinAmp::Hauptfenster_normal() {
     if (!WinAmp_da || !WinAmp_versteckt || einstellungen_.WinAmp_verstecken) return;
-    steuerung_.zeigen(WinAmp_Hwnd);
+    fenster_.zeigen();
     WinAmp_versteckt = false;
 }
 
 void WinAmp::für_Dateiarbeit_anhalten() {
     if (!WinAmp_da) return;
-    steuerung_.WinAmp_Befehl(WinAmp_Code_Stop, WinAmp_Hwnd);
+    fenster_.Befehl(WinAmp_Code_Stop);
     rechner_.Sleep(Loslassen_ms);
 }
 
 void WinAmp::am_Programmende() {
     if (!WinAmp_da) return;
-    if (WinAmp_versteckt) steuerung_.zeigen(WinAmp_Hwnd);
+    if (WinAmp_versteckt) fenster_.zeigen();
     const Long regel = einstellungen_.WinAmp_beenden;
-    if (regel == Beenden_immer || (regel == Beenden_wenn_gestoppt && WinAmp_Status == Status_gestoppt))
-        steuerung_.Fenster_schließen(WinAmp_Hwnd);
+    if (regel == Beenden_immer || (regel == Beenden_wenn_gestoppt && WinAmp_Status == Status_gestoppt)) fenster_.schließen();
 }
 
 }  // namespace tonkartei

@@ -1,7 +1,7 @@
 // A player of one window class as last seen: its window, what it is doing, whether the program hid it.
 #pragma once
 
-#include "wiedergabe/winamp/winamp_steuerung.hpp"
+#include "wiedergabe/winamp/spielerfenster.hpp"
 
 namespace tonkartei {
 
@@ -65,10 +65,9 @@ private:
 
     const Text Klasse_;
     Einstellungen& einstellungen_;
-    WinAmp_Steuerung& steuerung_;
+    Spielerfenster fenster_;
     Fenstersuche& suche_;
     Rechner& rechner_;
-    Long Position_ = 0, Länge_ = 0;
 };
 
 }  // namespace tonkartei
