@@ -11,8 +11,9 @@ namespace tonkartei {
 Alben_Befehle::Alben_Befehle(Modell& modell, Alben_Datei& datei, Album_wählen& auswahl, Album_Start& start, Ansicht& ansicht)
     : modell_(modell), datei_(datei), auswahl_(auswahl), start_(start), ansicht_(ansicht) {}
 
-bool Alben_Befehle::Ansicht_öffnen() {
-    if (Alben_offen()) return false;
+bool Alben_Befehle::Ansicht_öffnen() { return !Alben_offen() && Alben_bereit(); }
+
+bool Alben_Befehle::Alben_bereit() {
     if (modell_.Alben_geladen) return true;
     Text text;
     if (datei_.Album_Datei_vorhanden()) {

@@ -19,6 +19,8 @@ public:
 
     // The album tab was chosen: makes the albums ready. False, mostly after a box, when the tab has nothing to show.
     bool Ansicht_öffnen();
+    // The albums are loaded, or are read now. False after a box, when there are none to be had.
+    bool Alben_bereit();
     // "Album spielen...": asks for an album and hands it to the player.
     void Menü_starte_Album();
 

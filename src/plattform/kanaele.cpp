@@ -145,11 +145,13 @@ std::string_view Kanäle::Wert(Kanal& kanal, std::size_t höchstens) {
     return ohne_Blanks_dahinter(Satz(kanal, höchstens));
 }
 
-// Up to a comma or line end, which is consumed.
-std::string_view Kanäle::Satz(Kanal& kanal, std::size_t höchstens) {
+// Up to a line end, or up to a comma as well, which is consumed.
+std::string_view Kanäle::Satz(Kanal& kanal, std::size_t höchstens, bool Komma_trennt) {
     std::size_t länge = 0;
     bool zu_lang = false;
-    const auto am_Wertende = [](char zeichen) { return zeichen == ',' || zeichen == '\r' || zeichen == '\n'; };
+    const auto am_Wertende = [Komma_trennt](char zeichen) {
+        return (zeichen == ',' && Komma_trennt) || zeichen == '\r' || zeichen == '\n';
+    };
     for (;;) {
         while (kanal.stelle + länge < kanal.ende && !am_Wertende(kanal.puffer[kanal.stelle + länge])) ++länge;
         if (länge > höchstens) {
@@ -183,6 +185,11 @@ std::optional<std::string_view> Kanäle::nächster_Satz(int nummer, std::size_t 
     Kanal& kanal = zum_Lesen(nummer);
     if (kanal.stelle == kanal.ende && !nachfüllen(kanal)) return std::nullopt;
     return Satz(kanal, höchstens);
+}
+std::optional<std::string_view> Kanäle::nächste_Rohzeile(int nummer, std::size_t höchstens) {
+    Kanal& kanal = zum_Lesen(nummer);
+    if (kanal.stelle == kanal.ende && !nachfüllen(kanal)) return std::nullopt;
+    return Satz(kanal, höchstens, false);
 }
 Long Kanäle::lese_Long(int nummer) { return gerundet(Zahlwert(Wert(zum_Lesen(nummer)))); }
 Byte Kanäle::lese_Byte(int nummer) { return gerundet_Byte(Zahlwert(Wert(zum_Lesen(nummer)))); }

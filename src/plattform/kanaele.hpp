@@ -48,6 +48,8 @@ public:
     std::optional<std::string_view> nächster_Rohwert(int nummer, std::size_t höchstens);
     // The same with the blanks around it, for records that count by columns.
     std::optional<std::string_view> nächster_Satz(int nummer, std::size_t höchstens);
+    // A whole line with the file's own bytes, whatever ends it; the rest as with values.
+    std::optional<std::string_view> nächste_Rohzeile(int nummer, std::size_t höchstens);
     // A value taken as a number, rounded; overflow (6) outside the type, 0 for what is no number.
     Long lese_Long(int nummer);
     Byte lese_Byte(int nummer);
@@ -76,7 +78,7 @@ private:
     std::string_view Zeile(Kanal& kanal);
     bool am_Wert(Kanal& kanal);
     std::string_view Wert(Kanal& kanal, std::size_t höchstens = std::string_view::npos);
-    std::string_view Satz(Kanal& kanal, std::size_t höchstens);
+    std::string_view Satz(Kanal& kanal, std::size_t höchstens, bool Komma_trennt = true);
     void ausschreiben(Kanal& kanal);
     template <class Schreiber>
     void schreibe(int nummer, std::size_t höchstens, Schreiber&& schreiber);

@@ -9,12 +9,14 @@ namespace tonkartei {
 
 class Albenverwaltung;
 class Kategorie_Wahl;
+class Kontextmenüs;
 class Lied_Befehle;
 class Playlist;
 class Sitzung;
 struct Albenraum;
 struct Ausgaberaum;
 struct Austausch;
+struct DJ_Raum;
 struct Datenbankraum;
 struct Displayraum;
 struct Hinzufügen;
@@ -35,6 +37,7 @@ void Austausch_anschließen(Austausch& austausch, Playlist& playlist, Tonkartei&
 void Lieder_anschließen(Liederraum& lieder, Lied_Befehle& befehle, const Haus& haus, Playlist& playlist, Tonkartei& fenster);
 void Statistik_anschließen(Statistikraum& statistik, Tonkartei& fenster);
 void Ausgabe_anschließen(Ausgaberaum& ausgabe, Tonkartei& fenster);
+void DJ_anschließen(DJ_Raum& dj, Haus& haus, Kontextmenüs& menüs, Tonkartei& fenster);
 void Display_anschließen(Displayraum& display, Tonkartei& fenster);
 
 }  // namespace tonkartei

@@ -93,8 +93,15 @@ std::vector<Menüzeile> Kontextmenüs::Tabelle() {
     };
     return {{"Lied_Menü", "Lied", ohne_Index, nullptr, std::move(lied)},
             {"Playlist_Menü", "Playlist", ohne_Index, nullptr, std::move(playlist)},
-            {"Tray_Menü", "Tonkartei", ohne_Index, nullptr, std::move(tray)}};
+            {"Tray_Menü", "Tonkartei", ohne_Index, nullptr, std::move(tray)},
+            {"DJ_Listen_Menü", "Liste laden", ohne_Index, nullptr, {}}};
 }
+
+void Kontextmenüs::füllen(const Text& menü, const std::vector<Menüzeile>& einträge) {
+    for (const Menüzeile& eintrag : einträge) menü_(menü).anfügen(eintrag);
+}
+
+void Kontextmenüs::zeigen(const Text& menü) { ansicht().Menü_zeigen(menü_(menü)); }
 
 // The control or command that an entry stands for; null for what is always there.
 const Element* Kontextmenüs::Vorbild(const Text& eintrag) const {

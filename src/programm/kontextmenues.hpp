@@ -20,6 +20,9 @@ public:
     // Of the song under the mouse, which becomes the chosen one; -1 for none.
     void Lied_zeigen(int zeile);
     void Tray_zeigen();
+    // A pop-up menu whose entries come from a room of its own: filled once, then shown at will.
+    void füllen(const Text& menü, const std::vector<Menüzeile>& einträge);
+    void zeigen(const Text& menü);
     // The same as Lied_zeigen, in the window Playlist.
     void Playlist_zeigen(int zeile);
     // Marks, names and numbers of the entries as the window's controls and the menu bar have them.

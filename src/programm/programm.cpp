@@ -40,6 +40,7 @@ void Programm::Teile::anschließen() {
     Statistik_anschließen(statistik_, fenster_);
     Ausgabe_anschließen(ausgabe_, fenster_);
     Display_anschließen(display_, fenster_);
+    DJ_anschließen(dj_, haus_, kontextmenüs_, fenster_);
 }
 
 void Programm::Teile::starten() {
@@ -96,6 +97,7 @@ bool Programm::Teile::darf_schließen(Schließgrund grund) {
 
 void Programm::Teile::wird_geschlossen() {
     wiedergabe_.Takt.anhalten();
+    dj_.fenster.mit_dem_Programm_schließen();
     fenster_.SysTray.sichtbar(false);
     haus_.ansicht.Ereignisse_laufen_lassen();
     wiedergabe_.Spieler.am_Programmende();

@@ -7,6 +7,7 @@
 #include "austausch/austausch.hpp"
 #include "datenbank/datenbankraum.hpp"
 #include "display/displayraum.hpp"
+#include "dj/djraum.hpp"
 #include "kategorien/kategorienraum.hpp"
 #include "lieder/liederraum.hpp"
 #include "playlist/playlist.hpp"
@@ -53,6 +54,7 @@ private:
     Statistikraum statistik_{haus_, wiedergabe_, playlist_};
     Ausgaberaum ausgabe_{haus_, fenster_.Lieder};
     Displayraum display_{haus_};
+    DJ_Raum dj_{haus_, wiedergabe_, alben_};
 
     Splash splash_{datenbank_};
     Infofenster infofenster_{haus_.ansicht, haus_.modell};

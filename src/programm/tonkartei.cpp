@@ -98,6 +98,7 @@ void Tonkartei::Tray_nachführen() {
 }
 
 void Tonkartei::hervorholen() {
+    if (Vertreter != nullptr && Vertreter->sichtbar()) return Vertreter->nach_vorn();
     zustand(Fensterzustand::normal);
     zeigen();
 }

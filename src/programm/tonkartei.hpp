@@ -36,6 +36,9 @@ public:
     Traysymbol SysTray{*this, "SysTray"};
     Hauptmenü Menüleiste;
 
+    // The window that stands in its place: brought forth instead of it.
+    Fenster* Vertreter = nullptr;
+
     Bereiche bereiche() { return {Lieder, Kategorien, Wiedergabe}; }
 
     // The first place on the screen, by start parameters and settings.
