@@ -238,6 +238,8 @@ private:
         for (const auto& e : b->protokoll())
             if (e["art"] == "prozess")
                 z.push_back("start " + e["befehl"].get<std::string>());
+            else if (e["art"] == "nachricht" && e["msg"] == 16)
+                z.push_back(e["fenster"].get<std::string>() + " zu");
             else if (e["art"] == "nachricht")
                 z.push_back(e["fenster"].get<std::string>() + " " + e["w"].dump() + "/" + e["l"].dump());
             else if (e["art"] == "pause")

@@ -17,7 +17,7 @@ public:
         Text Klasse;
         Text Datei;
         int Status = 0;    // as answered: 1 playing, 3 paused, 0 stopped
-        int Position = 0;  // milliseconds
+        int Position = -1;  // milliseconds; negative while there is nothing to play
         int Länge = 0;     // seconds
         int Lautstärke = 255;
         bool sichtbar = true;
