@@ -100,22 +100,24 @@ void DJ_Spieler::Player_schalten(int n, bool An) {
 
 void DJ_Spieler::Player_Lied_laden(int n, Long Nr) {
     Player_schalten(n, false);
-    Player_Datei_laden(n, modell_.Lied_Pfad(Nr));
+    if (!Player_Datei_laden(n, modell_.Lied_Pfad(Nr))) return;
     Spieler(n).Lied = Nr;
     felder_[n].Player_Artist.beschriftung(modell_.Lieder[Nr].Artist);
     felder_[n].Player_Titel.beschriftung(modell_.Lieder[Nr].Titel);
 }
 
-void DJ_Spieler::Player_Datei_laden(int n, const Text& Datei) {
+bool DJ_Spieler::Player_Datei_laden(int n, const Text& Datei) {
     // The desk may be closed in the middle of a load, or of what led to it.
-    if (!offen_) return;
+    if (!offen_) return false;
     Einzelner& einer = Spieler(n);
-    einer.prozess.wechseln(Datei);
-    if (!offen_) return einer.prozess.beenden();
+    const bool geladen = einer.prozess.wechseln(Datei);
+    if (!offen_) einer.prozess.beenden();
+    if (!offen_ || !geladen) return false;
     Player_Lautstärke_anwenden(n);
     // Takes back what the new process has already played.
     einer.Sprung = 0;
     einer.Datei = Datei;
+    return true;
 }
 
 void DJ_Spieler::Nächstes_Lied(int n) {
@@ -151,7 +153,7 @@ void DJ_Spieler::alle_Lautstärken_anwenden() {
 void DJ_Spieler::kopieren(int von, int nach) {
     // A copy, as the load may be told anew in the middle of it.
     const Text datei = Spieler(von).Datei;
-    Player_Datei_laden(nach, datei);
+    if (!Player_Datei_laden(nach, datei)) return;
     felder_[nach].Player_Artist.beschriftung(felder_[von].Player_Artist.beschriftung());
     felder_[nach].Player_Titel.beschriftung(felder_[von].Player_Titel.beschriftung());
 }
@@ -162,7 +164,7 @@ void DJ_Spieler::Dateien_abgelegt(int n, const std::vector<Text>& pfade) {
         const Text datei = getrimmt(pfad);
         if (datei.size() <= 4 || groß(rechts(datei, 4)) != ".MP3" || !dateien_.Datei_da(datei)) continue;
         Player_schalten(n, false);
-        Player_Datei_laden(n, datei);
+        if (!Player_Datei_laden(n, datei)) return;
         Text titel, artist;
         mp3_.Lied_Tag_lesen(datei, titel, artist);
         felder_[n].Player_Artist.beschriftung(artist);

@@ -34,7 +34,8 @@ public:
     void Player_schalten(int Player, bool An);
     // Loading does not start the song.
     void Player_Lied_laden(int Player, Long Nr);
-    void Player_Datei_laden(int Player, const Text& Datei);
+    // False when the desk was closed meanwhile, or another load came in between and is what counts.
+    bool Player_Datei_laden(int Player, const Text& Datei);
     // The first song of the playlist, which stays there until it plays; else one by chance.
     void Nächstes_Lied(int Player);
     // Out of the search list; without a song there the player keeps its own.

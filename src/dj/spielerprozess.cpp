@@ -32,12 +32,15 @@ bool Spielerprozess::starten(const Text& Datei) {
     return Fenster.Fenster != 0;
 }
 
-void Spielerprozess::wechseln(const Text& Datei) {
+bool Spielerprozess::wechseln(const Text& Datei) {
+    const int dieser = ++Wechsel_;
     Fenster.Lautstärke(0);
     Fenster.schließen();
     starten(Datei);
+    if (dieser != Wechsel_) return false;
     rechner_.Sleep(Anspielen_ms);
     Fenster.Befehl(WinAmp_Code_Pause);
+    return true;
 }
 
 void Spielerprozess::beenden() {
