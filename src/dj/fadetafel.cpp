@@ -38,7 +38,7 @@ Fadetafel::Fadetafel(Fenster& f)
     Fadezeit_Scroll.tooltip("Länge eines Fades");
     Autozeit_Scroll.tooltip("Zeit vor dem Ende des Liedes, zu der ein automatischer Fade beginnt");
     // The longer time at the right, though the sliders' values run the other way.
-    for (Regler* regler : {&Fadezeit_Scroll, &Autozeit_Scroll}) regler->umgekehrt = true;
+    for (Regler* regler : {&Fadezeit_Scroll, &Autozeit_Scroll}) regler->umgekehrt = regler->griffig = true;
     for (Schriftfeld* feld : {&Fadezeit, &Autozeit}) feld->ausrichtung = Schriftfeld::Ausrichtung::rechts;
     Fadezeit_Scroll.Geändert.verbinden([this] { Fadezeit_geändert(); });
     Autozeit_Scroll.Geändert.verbinden([this] { Autozeit_geändert(); });

@@ -108,7 +108,7 @@ Knoten Listen::anordnung() {
     }
     std::vector<Knoten> listen, tasten, reiter;
     for (int i = 1; i <= 3; ++i) {
-        listen.push_back(Knoten(Liste[i]).zeichen(30).zeilen(10).Platz_halten().dehnen(1, 1));
+        listen.push_back(Knoten(Liste[i]).zeichen(26).zeilen(10).Platz_halten().dehnen(1, 1));
         reiter.push_back(Knoten(Listen_Mode[i]).dehnen(1));
     }
     for (int i = 1; i <= 5; ++i) tasten.push_back(Knoten(Listen_Taste[i]).Platz_halten());

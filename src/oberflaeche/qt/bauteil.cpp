@@ -62,7 +62,7 @@ void Bauteil::Farben_zeigen() {
         if (widget_->testAttribute(Qt::WA_SetPalette)) widget_->setPalette(QPalette());
         return;
     }
-    QPalette farben = QApplication::palette();
+    QPalette farben = fenster_.palette();
     if (element_.farbe() != Farbe_Standard)
         for (const auto rolle : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
             farben.setColor(rolle, Qt_Farbe(element_.farbe()));
@@ -81,6 +81,14 @@ void Bauteil::Lage_zeigen() {
     if (widget_->parentWidget() != eltern) widget_->setParent(eltern);
     widget_->setGeometry(Pixel(element_.lage()));
     widget_->setVisible(element_.sichtbar());
+}
+
+// A frame that takes drops stands for all that is in it.
+Element& Bauteil::Ablageziel(Element& element) {
+    Element* ziel = &element;
+    for (Element* rahmen = element.rahmen(); rahmen != nullptr; rahmen = rahmen->rahmen())
+        if (rahmen->nimmt_Ablage()) ziel = rahmen;
+    return *ziel;
 }
 
 bool Bauteil::darf() const { return umfeld_.hört() && element_.bedienbar() && umfeld_.erreichbar(element_.fenster()); }
@@ -106,6 +114,7 @@ bool Bauteil::eventFilter(QObject* wer, QEvent* was) {
         case QEvent::FocusIn:
             if (wer == widget_ && umfeld_.hört()) Fokus_bekommen(static_cast<QFocusEvent&>(*was).reason());
             return false;
+        case QEvent::DragLeave: Zielrahmen_.reset(); return false;
         case QEvent::DragEnter:
         case QEvent::DragMove:
         case QEvent::Drop: return wer == fläche_ && Ablage(*was);
@@ -181,6 +190,7 @@ void Bauteil::ziehen() {
     umfeld_.gezogen = &element_;
     umfeld_.gezogen_auf = nullptr;
     {
+        const auto hinweise = Ziele_zeigen();
         auto* zug = new QDrag(fläche_);
         auto* daten = new QMimeData;
         daten->setData(QString::fromLatin1(Ziehart), QByteArray::fromStdString(element_.Ziehmarke));
@@ -194,6 +204,18 @@ void Bauteil::ziehen() {
     if (ziel != nullptr) umfeld_.von_Hand([&] { ziel->Abgelegt(element_); });
 }
 
+// Where a drag could end, in all windows, as long as the marks are kept.
+std::vector<std::unique_ptr<QWidget>> Bauteil::Ziele_zeigen() const {
+    std::vector<std::unique_ptr<QWidget>> rahmen;
+    for (const auto& [fenster, widget] : umfeld_.fenster) {
+        if (!widget || !widget->isVisible() || !umfeld_.erreichbar(*fenster)) continue;
+        for (Element* ziel : fenster->elemente())
+            if (ziel != &element_ && ziel->Abgelegt.hat_Hörer() && ziel->bedienbar() && &Ablageziel(*ziel) == ziel)
+                rahmen.push_back(widget->Zielrahmen_um(*ziel, false));
+    }
+    return rahmen;
+}
+
 bool Bauteil::Ablage(QEvent& ereignis) {
     auto& fall = static_cast<QDropEvent&>(ereignis);
     const bool eigenes = umfeld_.gezogen != nullptr && element_.Abgelegt.hat_Hörer() &&
@@ -201,7 +223,11 @@ bool Bauteil::Ablage(QEvent& ereignis) {
     const bool dateien = umfeld_.gezogen == nullptr && element_.Dateien_abgelegt.hat_Hörer() && hat_Pfade(*fall.mimeData());
     if (!darf() || (!eigenes && !dateien)) return false;
     fall.acceptProposedAction();
-    if (ereignis.type() != QEvent::Drop) return true;
+    if (ereignis.type() != QEvent::Drop) {
+        if (!Zielrahmen_) Zielrahmen_ = fenster_.Zielrahmen_um(Ablageziel(element_), true);
+        return true;
+    }
+    Zielrahmen_.reset();
     if (eigenes)
         umfeld_.gezogen_auf = &element_;
     else

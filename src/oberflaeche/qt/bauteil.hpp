@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QWidget>
 #include <memory>
+#include <vector>
 
 #include "oberflaeche/element.hpp"
 
@@ -62,12 +63,15 @@ private:
     void Fokus_bekommen(int grund);
     bool Ablage(QEvent& ereignis);
     void ziehen();
+    std::vector<std::unique_ptr<QWidget>> Ziele_zeigen() const;
+    static Element& Ablageziel(Element& element);
     bool darf() const;
 
     Element& element_;
     QPointer<QWidget> widget_;
     QPointer<QWidget> fläche_;
     QPoint druckpunkt_;
+    std::unique_ptr<QWidget> Zielrahmen_;  // while something is dragged over it that it takes
     bool unten_ = false;
 };
 

@@ -10,7 +10,7 @@
 #include "oberflaeche/qt/bauteile.hpp"
 #include "oberflaeche/qt/bilder.hpp"
 #include "oberflaeche/qt/fensterwidget.hpp"
-#include "oberflaeche/qt/stil.hpp"
+#include "oberflaeche/qt/toene.hpp"
 
 namespace tonkartei {
 namespace {
@@ -28,6 +28,12 @@ public:
     QToolButton *auf, *ab;
 
 protected:
+    void changeEvent(QEvent* was) override {
+        QWidget::changeEvent(was);
+        if (was->type() != QEvent::PaletteChange) return;
+        bemalen(*auf, "auf");
+        bemalen(*ab, "ab");
+    }
     void keyPressEvent(QKeyEvent* was) override {
         if (was->key() == Qt::Key_Up)
             auf->click();
@@ -45,9 +51,13 @@ protected:
     }
 
 private:
+    static void bemalen(QToolButton& knopf, const char* bild) {
+        const Töne t = Töne::von(knopf.palette());
+        knopf.setIcon(Bildsymbol(bild, t.Schrift, t.Linie));
+    }
     static QToolButton* Pfeil(const char* bild) {
         auto* knopf = new QToolButton;
-        knopf->setIcon(Bildsymbol(bild, QColor::fromRgb(Ton::Schrift), QColor::fromRgb(Ton::Linie)));
+        bemalen(*knopf, bild);
         knopf->setIconSize(QSize(16, 16));
         knopf->setFocusPolicy(Qt::NoFocus);
         knopf->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

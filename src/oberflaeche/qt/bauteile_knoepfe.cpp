@@ -11,7 +11,7 @@
 #include "oberflaeche/qt/bauteile.hpp"
 #include "oberflaeche/qt/bilder.hpp"
 #include "oberflaeche/qt/fensterwidget.hpp"
-#include "oberflaeche/qt/stil.hpp"
+#include "oberflaeche/qt/toene.hpp"
 #include "oberflaeche/qt/umrechnung.hpp"
 #include "oberflaeche/qt/widgets.hpp"
 
@@ -80,11 +80,12 @@ private:
         Knopfartiges::Aussehen_zeigen();
         const auto& knopf = static_cast<const Knopf&>(element());
         if (auto* w = qobject_cast<QPushButton*>(knopf_)) w->setDefault(knopf.fenster().Vorgabeknopf == &knopf);
-        const QColor farbe = knopf.farbe() == Farbe_Standard ? QColor::fromRgb(Ton::Schrift) : Qt_Farbe(knopf.farbe());
+        const Töne t = Töne::von(fenster_.palette());
+        const QColor farbe = knopf.farbe() == Farbe_Standard ? t.Schrift : Qt_Farbe(knopf.farbe());
         if (bild_ == knopf.Bild && bildfarbe_ == farbe) return;
         bild_ = knopf.Bild;
         bildfarbe_ = farbe;
-        const QIcon bild = bild_.empty() ? QIcon() : Bildsymbol(bild_, farbe, QColor::fromRgb(Ton::Linie));
+        const QIcon bild = bild_.empty() ? QIcon() : Bildsymbol(bild_, farbe, t.Linie);
         knopf_->setIcon(bild);
         knopf_->setIconSize(QSize(16, 16));
         if (!bild.isNull()) knopf_->setText(QString());

@@ -11,6 +11,7 @@
 #include "oberflaeche/qt/bauteile.hpp"
 #include "oberflaeche/qt/fensterwidget.hpp"
 #include "oberflaeche/qt/umrechnung.hpp"
+#include "oberflaeche/qt/widgets.hpp"
 
 namespace tonkartei {
 namespace {
@@ -79,10 +80,26 @@ private:
     }
     static QAbstractSlider* Widget(const Regler& regler) {
         const auto richtung = regler.senkrecht ? Qt::Vertical : Qt::Horizontal;
-        if (regler.form() == Regler::Form::Schieber) return new QSlider(richtung);
+        if (regler.form() == Regler::Form::Schieber) {
+            auto* schieber = new Schieberbild(richtung);
+            schieber->griffig = regler.griffig;
+            // Qt lets upright sliders grow upward, which is our usual way as well.
+            schieber->setInvertedAppearance(regler.umgekehrt);
+            schieber->setInvertedControls(regler.umgekehrt);
+            return schieber;
+        }
         auto* w = new Bildlaufleiste(richtung);
         w->setFocusPolicy(Qt::StrongFocus);
         return w;
+    }
+    void Aussehen_zeigen() override {
+        Bauteil::Aussehen_zeigen();
+        auto* schieber = dynamic_cast<Schieberbild*>(schieber_);
+        if (schieber == nullptr) return;
+        const auto eigene = [](Farbe farbe) { return farbe == Farbe_Standard ? QColor() : Qt_Farbe(farbe); };
+        schieber->farben = {eigene(element().hintergrund()), eigene(element().farbe())};
+        schieber->setAutoFillBackground(false);
+        schieber->update();
     }
     void Wert_zeigen() override {
         const auto& regler = static_cast<const Regler&>(element());

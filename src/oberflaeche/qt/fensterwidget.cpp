@@ -16,7 +16,7 @@
 #include "oberflaeche/hand.hpp"
 #include "oberflaeche/qt/ablage.hpp"
 #include "oberflaeche/qt/menueleiste.hpp"
-#include "oberflaeche/qt/stil.hpp"
+#include "oberflaeche/qt/toene.hpp"
 #include "oberflaeche/qt/umrechnung.hpp"
 
 namespace tonkartei {
@@ -40,6 +40,28 @@ Qt::WindowFlags Flaggen(const Fenster& fenster) {
     return f;
 }
 
+// Lies above what it marks and lets everything through.
+class Zielrahmen : public QWidget {
+public:
+    Zielrahmen(QWidget* boden, const QRect& platz, bool stark) : QWidget(boden), stark_(stark) {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setGeometry(platz.adjusted(-2, -2, 2, 2));
+        show();
+        raise();
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter maler(this);
+        maler.setRenderHint(QPainter::Antialiasing);
+        maler.setPen(QPen(palette().color(QPalette::Highlight), stark_ ? 3 : 1.5, stark_ ? Qt::SolidLine : Qt::DashLine));
+        maler.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), 5, 5);
+    }
+
+private:
+    bool stark_;
+};
+
 // Up, so that nothing is cut off.
 int aufgerundet(int twips) { return (twips + Twips_je_Pixel - 1) / Twips_je_Pixel; }
 
@@ -49,6 +71,7 @@ Fensterwidget::Fensterwidget(Umfeld& umfeld, Fenster& fenster)
     : umfeld_(umfeld), fenster_(fenster), boden_(new QWidget(this)), flaggen_(Flaggen(fenster)) {
     setWindowFlags(flaggen_);
     setObjectName(Anzeigetext(fenster.Name()));
+    if (fenster_.hintergrund != Farbe_Standard) setPalette(Farbtafel(Töne::für(Qt_Farbe(fenster_.hintergrund))));
     setAcceptDrops(true);
     setMouseTracking(true);
     boden_->setMouseTracking(true);
@@ -58,7 +81,19 @@ Fensterwidget::Fensterwidget(Umfeld& umfeld, Fenster& fenster)
     }
 }
 
-Fensterwidget::~Fensterwidget() = default;
+Fensterwidget::~Fensterwidget() {
+    // Windows that are parts of this one have an owner of their own.
+    const auto kinder = boden_->children();
+    for (QObject* kind : kinder)
+        if (auto* teil = dynamic_cast<Fensterwidget*>(kind)) teil->setParent(nullptr);
+}
+
+std::unique_ptr<QWidget> Fensterwidget::Zielrahmen_um(const Element& element, bool stark) const {
+    const Bauteil* teil = bauteil(element);
+    if (teil == nullptr || teil->widget() == nullptr) return nullptr;
+    const QRect platz(teil->widget()->mapTo(boden_, QPoint(0, 0)), teil->widget()->size());
+    return std::make_unique<Zielrahmen>(boden_, platz, stark);
+}
 
 void Fensterwidget::vormerken() {
     if (vorgemerkt_) return;
@@ -172,12 +207,28 @@ bool Fensterwidget::abgleichen() {
 void Fensterwidget::Fenster_zeigen() {
     const QString titel = Anzeigetext(fenster_.titel());
     if (windowTitle() != titel) setWindowTitle(titel);
+    if (Teil_zeigen()) return;
     if (const Qt::WindowFlags flaggen = Flaggen(fenster_); flaggen != flaggen_) {
         flaggen_ = flaggen;
         setWindowFlags(flaggen);  // hides it; shown again below
     }
     Maße_zeigen();
     Sichtbarkeit_zeigen();
+}
+
+// A part of another window lies on its ground, and has neither place nor order of its own.
+bool Fensterwidget::Teil_zeigen() {
+    const Fenster* ganzes = fenster_.Elternfenster();
+    if (ganzes == nullptr) return false;
+    Fensterwidget* eltern = umfeld_.widget(*ganzes);
+    if (eltern == nullptr) return true;
+    if (parentWidget() != eltern->boden_) setParent(eltern->boden_, Qt::Widget);
+    setAutoFillBackground(true);
+    setGeometry(Pixel(fenster_.lage()));
+    Boden_legen();
+    setVisible(fenster_.sichtbar());
+    raise();
+    return true;
 }
 
 void Fensterwidget::Maße_zeigen() {
@@ -197,6 +248,7 @@ void Fensterwidget::Maße_zeigen() {
 }
 
 void Fensterwidget::Sichtbarkeit_zeigen() {
+    if (fenster_.Elternfenster() != nullptr) return setVisible(fenster_.sichtbar());
     const bool minimiert = fenster_.zustand() == Fensterzustand::minimiert;
     if (!fenster_.sichtbar()) {
         gezeigt_ = false;
@@ -222,7 +274,7 @@ void Fensterwidget::Sichtbarkeit_zeigen() {
     }
     gezeigt_ = true;
     const auto& reihe = umfeld_.ansicht.fenster();
-    const bool vorn = !reihe.empty() && reihe.front() == &fenster_;
+    const bool vorn = !reihe.empty() && (reihe.front() == &fenster_ || reihe.front()->Elternfenster() == &fenster_);
     if (vorn && (neu || umfeld_.vorderstes != &fenster_) && !minimiert) {
         umfeld_.vorderstes = &fenster_;
         if (umfeld_.stapelt) raise();
@@ -250,9 +302,10 @@ bool Fensterwidget::event(QEvent* was) {
     }
     // What the model has changed meanwhile is on the widgets before they are painted or worked.
     if (was->type() == QEvent::UpdateRequest && vorgemerkt_) abgleichen();
-    if (was->type() == QEvent::WindowActivate && umfeld_.hört()) {
+    if (was->type() == QEvent::WindowActivate && umfeld_.hört() && fenster_.Elternfenster() == nullptr) {
         umfeld_.vorderstes = &fenster_;
-        if (fenster_.sichtbar() && umfeld_.ansicht.fenster().front() != &fenster_)
+        const Fenster* vorderes = umfeld_.ansicht.fenster().empty() ? nullptr : umfeld_.ansicht.fenster().front();
+        if (fenster_.sichtbar() && vorderes != &fenster_ && (vorderes == nullptr || vorderes->Elternfenster() != &fenster_))
             umfeld_.ansicht.Fenster_nach_vorn(fenster_);
     }
     return QWidget::event(was);
@@ -266,6 +319,7 @@ void Fensterwidget::closeEvent(QCloseEvent* was) {
 void Fensterwidget::moveEvent(QMoveEvent* was) {
     QWidget::moveEvent(was);
     // A place that the model has set meanwhile wins; so does the one it keeps while minimised.
+    if (fenster_.Elternfenster() != nullptr) return;
     if (!umfeld_.hört() || fenster_geändert_ || !isVisible() || isMinimized()) return;
     const QPoint bisher(Pixel(fenster_.lage().links), Pixel(fenster_.lage().oben));
     if (pos() != bisher) umfeld_.von_Hand([this] { fenster_.von_Hand_bewegt(Twips(pos().x()), Twips(pos().y())); });
@@ -274,6 +328,7 @@ void Fensterwidget::moveEvent(QMoveEvent* was) {
 void Fensterwidget::resizeEvent(QResizeEvent* was) {
     QWidget::resizeEvent(was);
     Boden_legen();
+    if (fenster_.Elternfenster() != nullptr) return;
     if (!umfeld_.hört() || fenster_geändert_ || !isVisible() || isMinimized()) return;
     const QSize innen = boden_->size();
     const QSize bisher(Pixel(fenster_.lage().breite), Pixel(fenster_.lage().höhe));
@@ -321,7 +376,7 @@ void Fensterwidget::dropEvent(QDropEvent* was) {
 void Fensterwidget::paintEvent(QPaintEvent*) {
     if (!fenster_.ohne_Rand) return;
     QPainter maler(this);
-    maler.setPen(QColor::fromRgb(Ton::Linie));
+    maler.setPen(Töne::von(palette()).Linie);
     maler.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 

@@ -28,6 +28,9 @@ public:
     QWidget* Boden_für(const Element& element) const;
     Bauteil* bauteil(const Element& element) const;
     Fenster& fenster() const noexcept { return fenster_; }
+    QWidget* boden() const noexcept { return boden_; }
+    // A mark around a control that takes what is being dragged, while it lives; strong where the drag is.
+    std::unique_ptr<QWidget> Zielrahmen_um(const Element& element, bool stark) const;
 
 protected:
     bool event(QEvent* was) override;
@@ -49,6 +52,7 @@ private:
     void Sichtbarkeit_zeigen();
     void Boden_legen();
     int Menühöhe() const;
+    bool Teil_zeigen();
     bool darf() const { return umfeld_.hört() && umfeld_.erreichbar(fenster_); }
 
     Umfeld& umfeld_;

@@ -61,7 +61,7 @@ struct Maße::Innen {
     Schriftbild schrift;
     QLineEdit eingabe;
     QComboBox auswahl;
-    QSlider schieber{Qt::Horizontal};
+    Schieberbild schieber{Qt::Horizontal};
     QScrollBar bildlauf{Qt::Horizontal};
     QProgressBar balken;
     mutable std::unordered_map<const Element*, Eintrag> bekannte;
@@ -94,6 +94,7 @@ struct Maße::Innen {
                 const auto& feld = static_cast<const Schriftfeld&>(e);
                 schrift.setFont(font);
                 schrift.eingerahmt = feld.eingerahmt;
+                schrift.ziffern = feld.Ziffern;
                 schrift.setWordWrap(feld.umbrechen);
                 QString text = Anzeigeabsätze(feld.beschriftung());
                 if (feld.wie_Daten) text.replace(QLatin1String("&&"), QLatin1String("&"));
@@ -109,6 +110,11 @@ struct Maße::Innen {
                 return QSize(maße.horizontalAdvance(QLatin1Char('n')) * 24, 5 * Zeilenhöhe_Pixel(e.schrift()) + 4);
             case Elementart::Regler: {
                 const auto& regler = static_cast<const Regler&>(e);
+                if (regler.griffig) {
+                    schieber.setFont(font);
+                    const int quer = Schieberbild::Griffhöhe(schieber) + 4, länge = 120;
+                    return regler.senkrecht ? QSize(quer, länge) : QSize(länge, quer);
+                }
                 const int dicke =
                     regler.form() == Regler::Form::Schieber ? schieber.sizeHint().height() : bildlauf.sizeHint().height();
                 return regler.senkrecht ? QSize(dicke, 100) : QSize(100, dicke);
@@ -150,10 +156,10 @@ Größe Maße::Wunschgröße(const Element& e) const {
         merkmal.zahl = knopf.klein;
     } else if (e.art() == Elementart::Schrift) {
         const auto& feld = static_cast<const Schriftfeld&>(e);
-        merkmal.zahl = feld.eingerahmt + 2 * feld.umbrechen + 4 * feld.wie_Daten;
+        merkmal.zahl = feld.eingerahmt + 2 * feld.umbrechen + 4 * feld.wie_Daten + 8 * feld.Ziffern;
     } else if (e.art() == Elementart::Regler) {
         const auto& regler = static_cast<const Regler&>(e);
-        merkmal.zahl = regler.senkrecht + 2 * static_cast<int>(regler.form());
+        merkmal.zahl = regler.senkrecht + 2 * static_cast<int>(regler.form()) + 8 * regler.griffig;
     } else if (e.art() == Elementart::Reiter) {
         for (const Text& tab : static_cast<const Reiter&>(e).tabs()) merkmal.text += tab + "\n";
     } else if (e.art() == Elementart::Auswahl) {

@@ -11,6 +11,7 @@
 
 #include "oberflaeche/qt/bilder.hpp"
 #include "oberflaeche/qt/stil.hpp"
+#include "oberflaeche/qt/toene.hpp"
 
 namespace tonkartei {
 
@@ -44,8 +45,8 @@ Qt_Umgebung::Qt_Umgebung(int& argc, char** argv) {
     // The model decides when the program ends.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(new Stil);
-    QApplication::setPalette(Farbtafel());
-    QToolTip::setPalette(Farbtafel());
+    QApplication::setPalette(Farbtafel(Töne::hell()));
+    QToolTip::setPalette(Farbtafel(Töne::hell()));
     if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
         // No desktop that would say a font: always the same one, so that pictures can be compared.
         QFont schrift(QStringLiteral("DejaVu Sans"));

@@ -9,23 +9,14 @@
 
 #include "oberflaeche/qt/bilder.hpp"
 #include "oberflaeche/qt/stil.hpp"
+#include "oberflaeche/qt/toene.hpp"
 #include "oberflaeche/qt/umrechnung.hpp"
+#include "oberflaeche/qt/ziffern.hpp"
 
 namespace tonkartei {
 namespace {
 
 constexpr int modeste_Breite = 360;  // of texts that wrap
-constexpr double lesbar = 4.5;       // contrast of a text and its ground
-
-// Ratio of brightness as the eye sees it, 1 to 21.
-double Kontrast(const QColor& a, const QColor& b) {
-    const auto helligkeit = [](const QColor& f) {
-        const auto anteil = [](double w) { return w <= 0.03928 ? w / 12.92 : std::pow((w + 0.055) / 1.055, 2.4); };
-        return 0.2126 * anteil(f.redF()) + 0.7152 * anteil(f.greenF()) + 0.0722 * anteil(f.blueF()) + 0.05;
-    };
-    const double ha = helligkeit(a), hb = helligkeit(b);
-    return std::max(ha, hb) / std::min(ha, hb);
-}
 
 }  // namespace
 
@@ -59,6 +50,7 @@ void Schriftbild::zeigen(const QString& text, bool zugriff) {
 QMargins Schriftbild::ränder() const { return eingerahmt ? QMargins(6, 3, 6, 3) : QMargins(0, 1, 0, 1); }
 
 QSize Schriftbild::sizeHint() const {
+    if (ziffern) return Zifferngröße(text(), QFontMetrics(font()).height());
     int flaggen = Qt::AlignLeft | (zugriff_ ? Qt::TextShowMnemonic : 0);
     const QFontMetrics maße(font());
     QRect platz = maße.boundingRect(QRect(0, 0, 1 << 20, 1 << 20), flaggen, text());
@@ -70,9 +62,9 @@ QSize Schriftbild::sizeHint() const {
 
 void Schriftbild::paintEvent(QPaintEvent*) {
     QPainter maler(this);
+    const Töne t = Töne::von(palette());
     if (eingerahmt)
-        Tafel_malen(maler, QRectF(rect()), füllung.isValid() ? füllung : QColor::fromRgb(Ton::Wert),
-                    QColor::fromRgb(Ton::Linie_zart), 3);
+        Tafel_malen(maler, QRectF(rect()), füllung.isValid() ? füllung : t.Wert, t.Linie_zart, 3);
     else if (füllung.isValid())
         maler.fillRect(rect(), füllung);
     const QRect platz = rect().marginsRemoved(ränder());
@@ -85,9 +77,13 @@ void Schriftbild::paintEvent(QPaintEvent*) {
         zeile = fontMetrics().elidedText(zeile, Qt::ElideRight, platz.width(), flaggen);
     QPalette farben = palette();
     // On a dark ground of its own it stays readable.
-    if (füllung.isValid() && Kontrast(farben.color(foregroundRole()), füllung) < lesbar)
+    if (füllung.isValid() && Kontrast(farben.color(foregroundRole()), füllung) < Kontrast_Text)
         farben.setColor(foregroundRole(), füllung.lightnessF() < 0.5F ? Qt::white : Qt::black);
+    else if (!füllung.isValid() && isEnabled())
+        farben.setColor(foregroundRole(), lesbar_auf(*this, farben.color(foregroundRole())));
+    if (ziffern) return Ziffern_malen(maler, rect(), text(), farben.color(foregroundRole()));
     style()->drawItemText(&maler, platz, flaggen, farben, isEnabled(), zeile, foregroundRole());
+    if (hasFocus()) Tafel_malen(maler, QRectF(rect()), Qt::transparent, t.Akzent, 3);
 }
 
 Rahmenbild::Rahmenbild(QWidget* eltern) : QGroupBox(eltern) {}
@@ -99,12 +95,13 @@ QMargins Rahmenbild::ränder(bool mit_Titel, bool deckend, int titelhöhe) {
 
 void Rahmenbild::paintEvent(QPaintEvent*) {
     QPainter maler(this);
+    const Töne t = Töne::von(palette());
     const bool mit_Titel = !title().isEmpty();
     if (!mit_Titel && !deckend) {
         if (füllung.isValid()) maler.fillRect(rect(), füllung);
         return;
     }
-    const QColor grund = füllung.isValid() ? füllung : QColor::fromRgb(mit_Titel ? Ton::Wert : Ton::Grund);
+    const QColor grund = füllung.isValid() ? füllung : mit_Titel ? t.Wert : t.Grund;
     QRect tafel = rect();
     if (mit_Titel) {
         const int höhe = fontMetrics().height();
@@ -114,7 +111,7 @@ void Rahmenbild::paintEvent(QPaintEvent*) {
                               QPalette::WindowText);
     }
     if (deckend) maler.fillRect(rect(), palette().color(QPalette::Window));
-    Tafel_malen(maler, QRectF(tafel), grund, QColor::fromRgb(mit_Titel ? Ton::Linie_zart : Ton::Linie), mit_Titel ? 5 : 3);
+    Tafel_malen(maler, QRectF(tafel), grund, mit_Titel ? t.Linie_zart : t.Linie, mit_Titel ? 5 : 3);
 }
 
 Reiterbild::Reiterbild(QWidget* eltern) : QTabBar(eltern) {
@@ -124,7 +121,7 @@ Reiterbild::Reiterbild(QWidget* eltern) : QTabBar(eltern) {
 }
 
 void Reiterbild::paintEvent(QPaintEvent* was) {
-    QPainter(this).fillRect(0, height() - 1, width(), 1, QColor::fromRgb(Ton::Linie));
+    QPainter(this).fillRect(0, height() - 1, width(), 1, Töne::von(palette()).Linie);
     QTabBar::paintEvent(was);
 }
 
@@ -137,8 +134,8 @@ void Bildwidget::Name(const Text& name) {
 void Bildwidget::paintEvent(QPaintEvent*) {
     QPainter maler(this);
     if (eingerahmt)
-        Tafel_malen(maler, QRectF(rect()), füllung.isValid() ? füllung : QColor::fromRgb(Ton::Feld),
-                    QColor::fromRgb(Ton::Linie), 3);
+        Tafel_malen(maler, QRectF(rect()), füllung.isValid() ? füllung : Töne::von(palette()).Feld,
+                    Töne::von(palette()).Linie, 3);
     else if (füllung.isValid())
         maler.fillRect(rect(), füllung);
     Raster_malen(maler);
@@ -152,7 +149,7 @@ void Bildwidget::Linien(std::vector<Linie> linien) {
 }
 
 void Bildwidget::Raster_malen(QPainter& maler) const {
-    maler.setPen(QColor::fromRgb(Ton::Linie_zart));
+    maler.setPen(Töne::von(palette()).Linie_zart);
     for (int i = 1; i < spalten; ++i) maler.drawLine(width() * i / spalten, 1, width() * i / spalten, height() - 2);
     for (int i = 1; i < zeilen; ++i) maler.drawLine(1, height() * i / zeilen, width() - 2, height() * i / zeilen);
 }

@@ -9,6 +9,7 @@
 #include <QListView>
 #include <QMargins>
 #include <QRadioButton>
+#include <QSlider>
 #include <QTabBar>
 #include <vector>
 
@@ -38,6 +39,21 @@ protected:
     void nextCheckState() override {}
 };
 
+// Colours of a slider that say something of their own; invalid: the usual ones.
+struct Schieberfarben {
+    QColor Rinne, Weg;
+};
+
+class Schieberbild : public QSlider {
+public:
+    using QSlider::QSlider;
+    bool griffig = false;
+    Schieberfarben farben;
+    // Across and along the groove; they follow the font.
+    static int Griffbreite(const QWidget& w) { return w.fontMetrics().height() * 5 / 4; }
+    static int Griffhöhe(const QWidget& w) { return w.fontMetrics().height() * 9 / 5; }
+};
+
 // List that takes the focus without choosing a line.
 class Listenbild : public QListView {
 public:
@@ -55,7 +71,8 @@ public:
     // With `zugriff` a "&" marks the access key of the buddy.
     void zeigen(const QString& text, bool zugriff);
     bool eingerahmt = false;
-    QColor füllung;  // invalid: none
+    bool ziffern = false;  // of seven segments
+    QColor füllung;        // invalid: none
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
