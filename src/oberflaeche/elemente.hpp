@@ -32,6 +32,12 @@ public:
         : Element(f, Elementart::Knopf, std::move(name), std::move(beschriftung), index) {}
     // Name of a picture of the program that is shown instead of the caption; empty: none.
     Text Bild;
+    // Another picture, while the window is up.
+    void bild(Text neu) {
+        if (Bild == neu) return;
+        Bild = std::move(neu);
+        melden(Änderung_Aussehen);
+    }
     // Drawn flat and small, for rows of tool buttons.
     bool klein = false;
 };

@@ -17,6 +17,7 @@ struct Albenraum;
 struct Ausgaberaum;
 struct Austausch;
 struct DJ_Raum;
+struct DJ_alt_Raum;
 struct Datenbankraum;
 struct Displayraum;
 struct Hinzufügen;
@@ -38,6 +39,7 @@ void Lieder_anschließen(Liederraum& lieder, Lied_Befehle& befehle, const Haus& 
 void Statistik_anschließen(Statistikraum& statistik, Tonkartei& fenster);
 void Ausgabe_anschließen(Ausgaberaum& ausgabe, Tonkartei& fenster);
 void DJ_anschließen(DJ_Raum& dj, Haus& haus, Kontextmenüs& menüs, Tonkartei& fenster);
+void DJ_alt_anschließen(DJ_alt_Raum& dj, Datenbankraum& datenbank, Wiedergabe& wiedergabe, Tonkartei& fenster);
 void Display_anschließen(Displayraum& display, Tonkartei& fenster);
 
 }  // namespace tonkartei

@@ -41,6 +41,7 @@ void Programm::Teile::anschließen() {
     Ausgabe_anschließen(ausgabe_, fenster_);
     Display_anschließen(display_, fenster_);
     DJ_anschließen(dj_, haus_, kontextmenüs_, fenster_);
+    DJ_alt_anschließen(dj_alt_, datenbank_, wiedergabe_, fenster_);
 }
 
 void Programm::Teile::starten() {
@@ -98,6 +99,7 @@ bool Programm::Teile::darf_schließen(Schließgrund grund) {
 void Programm::Teile::wird_geschlossen() {
     wiedergabe_.Takt.anhalten();
     dj_.fenster.mit_dem_Programm_schließen();
+    dj_alt_.fenster.mit_dem_Programm_schließen();
     fenster_.SysTray.sichtbar(false);
     haus_.ansicht.Ereignisse_laufen_lassen();
     wiedergabe_.Spieler.am_Programmende();

@@ -7,6 +7,7 @@
 #include "austausch/austausch.hpp"
 #include "datenbank/datenbankraum.hpp"
 #include "display/displayraum.hpp"
+#include "dj/alt/djraum_alt.hpp"
 #include "dj/djraum.hpp"
 #include "kategorien/kategorienraum.hpp"
 #include "lieder/liederraum.hpp"
@@ -55,6 +56,7 @@ private:
     Ausgaberaum ausgabe_{haus_, fenster_.Lieder};
     Displayraum display_{haus_};
     DJ_Raum dj_{haus_, wiedergabe_, alben_};
+    DJ_alt_Raum dj_alt_{haus_, wiedergabe_};
 
     Splash splash_{datenbank_};
     Infofenster infofenster_{haus_.ansicht, haus_.modell};

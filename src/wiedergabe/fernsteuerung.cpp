@@ -1,6 +1,5 @@
 #include "wiedergabe/fernsteuerung.hpp"
 
-#include <cmath>
 #include <initializer_list>
 
 #include "datenbank/einstellungen.hpp"
@@ -14,25 +13,7 @@ namespace {
 
 constexpr int enge_Lücke = 3 * Twips_je_Pixel;
 
-// "nn:ss"; whole hours are dropped, and so is a sign: a player may tell any number, and the text must stay this short.
-Text Spielzeit(long long Sekunden) {
-    const long long s = (Sekunden < 0 ? -Sekunden : Sekunden) % 3600;
-    return Zahl_mit_Nullen(s / 60, 2) + ":" + Zahl_mit_Nullen(s % 60, 2);
-}
-
 }  // namespace
-
-void Griff::drücken(const Zeitpunkt& jetzt) {
-    gehalten_ = true;
-    seit_ = jetzt;
-}
-
-bool Griff::loslassen(const Zeitpunkt& jetzt) {
-    // A release that belongs to no press here, such as one after a box took the press over, is nothing.
-    const bool klick = gehalten_ && jetzt == seit_;
-    gehalten_ = false;
-    return klick;
-}
 
 Fernsteuerung::Fernsteuerung(Fenster& f, Einstellungen& einstellungen, WinAmp& winamp, Rechner& rechner, const Element& ecke)
     : WinAmp_Show(f, "WinAmp_Show", "griff"),
@@ -142,13 +123,9 @@ void Fernsteuerung::Lautstärke_geändert() {
     if (!setzt_Einstellungen_) winamp_.Lautstärke_stellen(WinAmp_Vol.wert());
 }
 
-// Hundredths of the bar, then the second: both steps round, and both reckon in single precision.
 void Fernsteuerung::Leiste_angeklickt(int x) {
-    const float Breite = static_cast<float>(WinAmp_Position.breite()) / 100.0F;
-    if (Breite <= 0) return;
-    const Long Prozent = gerundet(static_cast<float>(x) / Breite);
-    const float Schritt = static_cast<float>(WinAmp_Position.max()) / 100.0F;
-    winamp_.springen(std::nearbyint(Schritt * static_cast<float>(Prozent)));
+    if (WinAmp_Position.breite() <= 0) return;
+    winamp_.springen(Sekunde_am_Klick(x, WinAmp_Position.breite(), WinAmp_Position.max()));
 }
 
 void Fernsteuerung::anzeigen() {

@@ -6,25 +6,12 @@
 #include "oberflaeche/elemente.hpp"
 #include "plattform/rechner.hpp"
 #include "wiedergabe/fernsteuerung_bewegung.hpp"
+#include "wiedergabe/griff.hpp"
 
 namespace tonkartei {
 
 class WinAmp;
 struct Einstellungen;
-
-// Something that is pressed and let go: what is short counts as a click. The clock tells whole seconds, and that is the
-// measure: a press across a change of the second is none, however short, one of 0.9 seconds within a second is.
-class Griff {
-public:
-    bool gehalten() const noexcept { return gehalten_; }
-    void drücken(const Zeitpunkt& jetzt);
-    // True for a click.
-    bool loslassen(const Zeitpunkt& jetzt);
-
-private:
-    bool gehalten_ = false;
-    Zeitpunkt seit_;
-};
 
 class Fernsteuerung {
 public:

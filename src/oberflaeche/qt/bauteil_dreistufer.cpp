@@ -51,11 +51,11 @@ protected:
     }
 
 private:
-    static void bemalen(QToolButton& knopf, const char* bild) {
-        const Töne t = Töne::von(knopf.palette());
+    void bemalen(QToolButton& knopf, const char* bild) {
+        const Töne t = Töne::von(palette());
         knopf.setIcon(Bildsymbol(bild, t.Schrift, t.Linie));
     }
-    static QToolButton* Pfeil(const char* bild) {
+    QToolButton* Pfeil(const char* bild) {
         auto* knopf = new QToolButton;
         bemalen(*knopf, bild);
         knopf->setIconSize(QSize(16, 16));

@@ -82,13 +82,13 @@ private:
         if (auto* w = qobject_cast<QPushButton*>(knopf_)) w->setDefault(knopf.fenster().Vorgabeknopf == &knopf);
         const Töne t = Töne::von(fenster_.palette());
         const QColor farbe = knopf.farbe() == Farbe_Standard ? t.Schrift : Qt_Farbe(knopf.farbe());
+        if (!knopf.Bild.empty()) knopf_->setText(QString());
         if (bild_ == knopf.Bild && bildfarbe_ == farbe) return;
         bild_ = knopf.Bild;
         bildfarbe_ = farbe;
         const QIcon bild = bild_.empty() ? QIcon() : Bildsymbol(bild_, farbe, t.Linie);
         knopf_->setIcon(bild);
         knopf_->setIconSize(QSize(16, 16));
-        if (!bild.isNull()) knopf_->setText(QString());
     }
 
     Text bild_;

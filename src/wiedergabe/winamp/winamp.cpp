@@ -91,6 +91,10 @@ void WinAmp::für_Dateiarbeit_anhalten() {
     rechner_.Sleep(Loslassen_ms);
 }
 
+void WinAmp::schließen() {
+    if (WinAmp_da) fenster_.schließen();
+}
+
 void WinAmp::am_Programmende() {
     if (!WinAmp_da) return;
     if (WinAmp_versteckt) fenster_.zeigen();

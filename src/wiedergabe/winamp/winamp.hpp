@@ -57,6 +57,9 @@ public:
     // Lets go of the file it plays, and waits until that is done.
     void für_Dateiarbeit_anhalten();
 
+    // Whatever the rule of the settings says.
+    void schließen();
+
     // Shows a hidden player and closes it as the rule of the settings says.
     void am_Programmende();
 
