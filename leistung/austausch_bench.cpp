@@ -61,8 +61,8 @@ struct Sammlungen : Fenster {
     std::size_t abgleichen() {
         static_cast<Wählend&>(ansicht()).Ordner = probe.ordner.pfad("andere");
         austausch.abgleich.befehl.Menü_Live_abgleich();
-        return static_cast<std::size_t>(austausch.abgleich.fenster.fehlende.Anzahl() +
-                                        austausch.abgleich.fenster.andere.Anzahl());
+        const auto& fenster = austausch.abgleich.fenster;
+        return static_cast<std::size_t>(fenster.fehlende.Anzahl()) + static_cast<std::size_t>(fenster.andere.Anzahl());
     }
     std::size_t durch_Datei_vergleichen() {
         austausch.vergleich.befehl.Datenbank_vergleichen();
@@ -72,7 +72,7 @@ struct Sammlungen : Fenster {
         Album album;
         album.Titel_Anzahl = Album_Titel_maximal;
         for (int t = 1; t <= Album_Titel_maximal; ++t) {
-            const Lied& lied = haus.modell.Lieder[anzahl_ / Album_Titel_maximal * t];
+            const Lied& lied = haus.modell.Lieder[static_cast<long long>(anzahl_) / Album_Titel_maximal * t];
             album.Lieder[t] = {lied.Artist, lied.Titel, 0, false, 0};
         }
         Long summe = 0;

@@ -22,8 +22,8 @@ public:
     // was, when the player could not be started, of which the user has been told, or was not found.
     bool starten(const Text& Datei);
     // Closes the process and starts the next one, which is paused half a second later, whether it had begun by then or not.
-    // Its volume is the one at which the old one was closed, 0. False when another song was loaded meanwhile: that one stays,
-    // as the later order, and is left alone.
+    // Its volume is the one at which the old one was closed, 0. False when another song was loaded meanwhile: that one
+    // stays, as the later order, and is left alone.
     bool wechseln(const Text& Datei);
     // With whatever else bears its class.
     void beenden();

@@ -1,11 +1,11 @@
 // The whole program in real time with the real player, which plays into nothing. What takes time takes it at once: the
 // scenes run beside each other, each with a program and a player of its own.
-#include <signal.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstring>
 #include <thread>
 
@@ -36,6 +36,8 @@ protected:
                  .umgebung = {"XDG_RUNTIME_DIR=" + ordner.pfad("lauf"), "XDG_STATE_HOME=" + ordner.pfad("zustand"),
                               "XDG_DATA_HOME=" + ordner.pfad("daten"), "TONKARTEI_TON=null"}});
     }
+
+public:
     ~Abspielen() override {
         if (b && b->bereit() != "ende") hand("klick Tonkartei.MP_Beenden");
     }

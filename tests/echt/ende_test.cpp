@@ -1,11 +1,11 @@
 // The real program, off-screen, told to end by the system: an end from outside like any other.
 #include <gtest/gtest.h>
-#include <signal.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <thread>
 

@@ -16,9 +16,9 @@ public:
         Hwnd Elter = 0;
         Text Klasse;
         Text Datei;
-        int Status = 0;    // as answered: 1 playing, 3 paused, 0 stopped
+        int Status = 0;     // as answered: 1 playing, 3 paused, 0 stopped
         int Position = -1;  // milliseconds; negative while there is nothing to play
-        int Länge = 0;     // seconds
+        int Länge = 0;      // seconds
         int Lautstärke = 255;
         bool sichtbar = true;
         bool hängt = false;  // is there, but answers no message and heeds none
