@@ -30,6 +30,8 @@ public:
     void öffnen(const Bereich& Hauptfenster);
     // With the end of the program: the main window stays where it is.
     void mit_dem_Programm_schließen();
+    // Twice a second while it is open.
+    void DJ_Tick();
     // At an end by run-time error; sends what it can.
     void Spieler_beenden() { spieler_.beenden(); }
 
@@ -44,7 +46,6 @@ protected:
 
 private:
     Knoten Pult();
-    void DJ_Tick();
 
     DJ_Spieler spieler_;
     Überblendung überblendung_;

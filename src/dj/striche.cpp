@@ -6,23 +6,19 @@
 
 namespace tonkartei {
 
-// More dashes are wider, so the count is found by halving instead of trying them all: a page of header lines costs a hundred
-// measurements and not thousands.
+// More dashes are wider, and all alike: the count is guessed from a row of them, and only the last step is tried out.
+// Measuring a text is dear, and a page of header lines would need thousands of tries.
 int Striche_bis(const Ansicht& ansicht, int Breite, const Text& Text_dahinter, int Schrift) {
-    const auto reicht = [&](int anzahl) { return ansicht.Textbreite(Striche(anzahl) + Text_dahinter, Schrift) >= Breite; };
-    if (reicht(0)) return 0;
+    constexpr int Probe = 64;
+    const int fehlt = Breite - ansicht.Textbreite(Text_dahinter, Schrift);
+    const int je_Probe = ansicht.Textbreite(Striche(Probe), Schrift);
     // A font without width would never get there.
-    if (ansicht.Textbreite("-", Schrift) <= 0) return 0;
-    int zu_wenig = 0, genug = 64;
-    while (!reicht(genug)) {
-        zu_wenig = genug;
-        genug *= 2;
-    }
-    while (genug - zu_wenig > 1) {
-        const int mitte = (zu_wenig + genug) / 2;
-        (reicht(mitte) ? genug : zu_wenig) = mitte;
-    }
-    return genug;
+    if (fehlt <= 0 || je_Probe <= 0) return 0;
+    const auto reicht = [&](int anzahl) { return ansicht.Textbreite(Striche(anzahl) + Text_dahinter, Schrift) >= Breite; };
+    int anzahl = static_cast<int>(static_cast<long long>(fehlt) * Probe / je_Probe);
+    while (!reicht(anzahl)) ++anzahl;
+    while (anzahl > 0 && reicht(anzahl - 1)) --anzahl;
+    return anzahl;
 }
 
 int Strich_Anzahl(const Ansicht& ansicht, int Breite, const Text& Text_dahinter, int Schrift) {
