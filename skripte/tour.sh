@@ -1,8 +1,8 @@
 #!/bin/bash
 # Plays the main job without a screen, with real files, the real player and the real windows drawn off-screen: a new
 # collection, songs added, sorted, searched, cut by categories, played and counted; then the counts, albums, the playlist,
-# the editor of categories, the menus, the statistics, the text export and the display after a new start; then all windows
-# once more at twice the scale. Prints what happens and leaves a picture of every window in build/tour. Fails when something
+# the editor of categories, the menus, the statistics, the text export, the display and the DJ desks after a new start; then
+# all windows once more at twice the scale. Prints what happens and leaves a picture of every window in build/tour. Fails when something
 # is not as it should.
 set -eu
 wurzel=$(cd "$(dirname "$0")/.." && pwd)
@@ -258,6 +258,8 @@ auswertungen() {
     tu "klick Display_Setup.Abbruch"
 }
 
+# shellcheck source=skripte/tour_pulte.sh
+. "$wurzel/skripte/tour_pulte.sh"
 # shellcheck source=skripte/tour_austausch.sh
 . "$wurzel/skripte/tour_austausch.sh"
 
@@ -341,6 +343,7 @@ ende
 [ -f "$arbeit/sammlungen/Tour/MP3_Info.MDB" ] || { echo "no info file was saved"; fehler=1; }
 [ ! -e "$arbeit/sammlungen/Tour/MP3_Info.DBG" ] || { echo "the access file stayed behind"; fehler=1; }
 austausch "" Tour
+pulte "" Tour
 
 echo "== The same windows at twice the scale"
 export QT_SCALE_FACTOR=2
@@ -355,6 +358,7 @@ dialoge "@2x" Doppelt
 auswertungen "@2x" Doppelt
 ende
 austausch "@2x" Doppelt
+pulte "@2x" Doppelt
 
 echo
 if [ "$fehler" -ne 0 ]; then

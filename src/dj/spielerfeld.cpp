@@ -92,8 +92,8 @@ Knoten Spielerfeld::anordnung() {
                                        Knoten(Player_Taste_Pause).mindestens(900, 600).Platz_halten()});
     const Knoten Kopien = Zeile({Player_Taste_nach1, Player_Taste_nach2, Player_Taste_nach3, Player_Taste_nach4});
     const Knoten links =
-        Spalte({Zeile({Knoten(Player_Label).zeichen(1), Knoten(Lied).lücke(0).dehnen(1), Knoten(Uhr).lücke(30)}),
-                Feder(0, 2), Knoten(Player_Position).dehnen(1), Feder(0, 2),
+        Spalte({Zeile({Knoten(Player_Label).zeichen(1), Knoten(Lied).lücke(0).dehnen(1)}), Feder(0, 1),
+                Zeile({Knoten(Player_Position).dehnen(1), Knoten(Uhr).lücke(30)}), Feder(0, 1),
                 Zeile({Start, Player_Taste_Playlist, Player_Taste_Random, Feder(), Knoten(Kopien).lücke(45)}), Feder(0, 1),
                 Zeile({Player_Auto_1x, Player_Auto_Immer, Player_Auto_Label, Feder()})});
     return Gruppe(Player_Rahmen, Zeile({Knoten(links).dehnen(1, 1), Knoten(Player_Lautstärke).dehnen(0, 1)}).rand(120));

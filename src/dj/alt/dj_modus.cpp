@@ -37,8 +37,8 @@ DJ_Modus::DJ_Modus(Haus& haus, Wiedergabe& wiedergabe)
 
 Knoten DJ_Modus::anordnung() {
     return Spalte({Zeile({Knoten(Titel1_Platz).dehnen(1), Knoten(Titel2_Platz).dehnen(1)}),
-                   Zeile({Knoten(Mixer_Platz).dehnen(2, 1), Knoten(Liste_Platz).dehnen(2, 1),
-                          Knoten(Kategorien_Platz).dehnen(1, 1), Knoten(Wunsch_Platz).dehnen(2, 1)})
+                   Zeile({Knoten(Mixer_Platz).dehnen(1, 1), Knoten(Liste_Platz).dehnen(4, 1),
+                          Knoten(Kategorien_Platz).dehnen(0, 1), Knoten(Wunsch_Platz).dehnen(1, 1)})
                        .dehnen(1, 1)})
         .rand(120);
 }

@@ -2,6 +2,7 @@
 #include <QComboBox>
 #include <QListView>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <QTabBar>
 
 #include "oberflaeche/hand.hpp"
@@ -16,11 +17,24 @@
 namespace tonkartei {
 namespace {
 
+// Of a line that begins with a row of dashes the end is what matters: the dashes give way to it.
+class Zeilenmaler : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& zeile) const override {
+        QStyledItemDelegate::initStyleOption(option, zeile);
+        if (option->text.startsWith(QLatin1String("----------"))) option->textElideMode = Qt::ElideLeft;
+    }
+};
+
 class Listen_Bauteil : public Bauteil {
 public:
     Listen_Bauteil(Umfeld& umfeld, Fensterwidget& fenster, Listenfeld& liste)
         : Bauteil(umfeld, fenster, liste), liste_(liste), modell_(liste), ansicht_(new Listenbild) {
         ansicht_->setModel(&modell_);
+        ansicht_->setItemDelegate(new Zeilenmaler(ansicht_));
         ansicht_->setUniformItemSizes(true);
         ansicht_->setEditTriggers(QAbstractItemView::NoEditTriggers);
         ansicht_->setSelectionMode(QAbstractItemView::SingleSelection);
