@@ -4,7 +4,7 @@ namespace tonkartei {
 namespace {
 
 constexpr Farbe Rahmenfarbe = RGB(40, 40, 75);
-constexpr int große_Schrift = 26, Ziffernschrift = 34, Titelschrift = 14;
+constexpr int große_Schrift = 26, Ziffernschrift = 36, Titelschrift = 14;
 
 }  // namespace
 
@@ -88,13 +88,13 @@ std::vector<Element*> Spielerfeld::alle() {
 Knoten Spielerfeld::anordnung() {
     const Knoten Lied = Spalte({Knoten(Player_Artist).zeichen(9).dehnen(1), Knoten(Player_Titel).zeichen(9).dehnen(1)});
     const Knoten Uhr = Zeile({Knoten(Player_Minus).zeichen(1), Player_Minuten, Player_Doppelpunkt, Player_Sekunden});
-    const Knoten Start = Überlagerung({Knoten(Player_Taste_Play).mindestens(900, 600).Platz_halten(),
-                                       Knoten(Player_Taste_Pause).mindestens(900, 600).Platz_halten()});
+    const Knoten Start = Überlagerung({Knoten(Player_Taste_Play).mindestens(1200, 720).Platz_halten(),
+                                       Knoten(Player_Taste_Pause).mindestens(1200, 720).Platz_halten()});
     const Knoten Kopien = Zeile({Player_Taste_nach1, Player_Taste_nach2, Player_Taste_nach3, Player_Taste_nach4});
     const Knoten links =
         Spalte({Zeile({Knoten(Player_Label).zeichen(1), Knoten(Lied).lücke(0).dehnen(1)}), Feder(0, 1),
-                Zeile({Knoten(Player_Position).dehnen(1), Knoten(Uhr).lücke(30)}), Feder(0, 1),
-                Zeile({Start, Player_Taste_Playlist, Player_Taste_Random, Feder(), Knoten(Kopien).lücke(45)}), Feder(0, 1),
+                Zeile({Start, Feder(), Knoten(Uhr).lücke(30)}), Feder(0, 1), Knoten(Player_Position).dehnen(1), Feder(0, 1),
+                Zeile({Player_Taste_Playlist, Player_Taste_Random, Feder(), Knoten(Kopien).lücke(45)}), Feder(0, 1),
                 Zeile({Player_Auto_1x, Player_Auto_Immer, Player_Auto_Label, Feder()})});
     return Gruppe(Player_Rahmen, Zeile({Knoten(links).dehnen(1, 1), Knoten(Player_Lautstärke).dehnen(0, 1)}).rand(120));
 }
