@@ -16,6 +16,7 @@
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/hand.hpp"
 #include "oberflaeche/qt/ablage.hpp"
+#include "oberflaeche/qt/farben.hpp"
 #include "oberflaeche/qt/fensterwidget.hpp"
 #include "oberflaeche/qt/stil.hpp"
 #include "oberflaeche/qt/umfeld.hpp"
@@ -41,6 +42,8 @@ void Bauteil::aufnehmen(QWidget* widget, QWidget* fläche) {
 }
 
 void Bauteil::zeigen(unsigned änderung) {
+    // First, since its colours depend on where it lies.
+    if (widget_ != nullptr && (änderung & Änderung_Lage) != 0) einordnen();
     if ((änderung & Änderung_Zeilen) != 0) Zeilen_zeigen();
     if ((änderung & Änderung_Aussehen) != 0) Aussehen_zeigen();
     if ((änderung & Änderung_Lage) != 0) Lage_zeigen();
@@ -57,28 +60,56 @@ void Bauteil::Aussehen_zeigen() {
 }
 
 void Bauteil::Farben_zeigen() {
-    if (malt_Grund_nicht()) widget_->setAutoFillBackground(element_.hintergrund() != Farbe_Standard);
-    if (element_.farbe() == Farbe_Standard && element_.hintergrund() == Farbe_Standard) {
-        if (widget_->testAttribute(Qt::WA_SetPalette)) widget_->setPalette(QPalette());
-        return;
-    }
-    QPalette farben = QApplication::palette();
-    if (element_.farbe() != Farbe_Standard)
-        for (const auto rolle : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
-            farben.setColor(rolle, Qt_Farbe(element_.farbe()));
+    const bool eigener_Grund = element_.hintergrund() != Farbe_Standard;
+    if (malt_Grund_nicht()) widget_->setAutoFillBackground(eigener_Grund);
+    // What is not set here comes from what the control lies on.
+    QPalette farben;
     // A frame paints its ground by itself: as a palette it would pass to everything inside. Of a drop-down list the field
     // alone has the colour.
     const Elementart art = element_.art();
-    if (element_.hintergrund() != Farbe_Standard && art != Elementart::Rahmen)
+    if (eigener_Grund && art != Elementart::Rahmen)
         for (const auto rolle : {QPalette::Window, QPalette::Button, QPalette::Base})
             if (art != Elementart::Auswahl || rolle == QPalette::Button)
                 farben.setColor(rolle, Qt_Farbe(element_.hintergrund()));
-    widget_->setPalette(farben);
+    if (fenster_.eigener_Grund())
+        lesbare_Schrift(farben);
+    else if (element_.farbe() != Farbe_Standard)
+        for (const auto rolle : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
+            farben.setColor(rolle, Qt_Farbe(element_.farbe()));
+    if (farben.resolveMask() != 0 || widget_->testAttribute(Qt::WA_SetPalette)) widget_->setPalette(farben);
+}
+
+// On a ground of the window's own, texts keep the colour that they are given as far as it can be read there.
+void Bauteil::lesbare_Schrift(QPalette& farben) const {
+    const Töne ton = Töne::von(fenster_.Boden_für(element_)->palette());
+    const QColor außen = fenster_.Grund_unter(element_.rahmen());
+    const QColor gewünscht = element_.farbe() == Farbe_Standard ? ton.Schrift : Qt_Farbe(element_.farbe());
+    const auto grund = [&](QPalette::ColorRole rolle) {
+        const bool im_Feld = rolle == QPalette::Text && element_.art() == Elementart::Auswahl;
+        if (element_.hintergrund() != Farbe_Standard && !im_Feld) return Qt_Farbe(element_.hintergrund());
+        switch (element_.art()) {
+            case Elementart::Knopf:
+            case Elementart::Auswahl:
+            case Elementart::Eingabe:
+            case Elementart::Liste: return ton.Feld;
+            default: return außen;
+        }
+    };
+    for (const auto rolle : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text}) {
+        const QColor lesbar = abgesetzt(gewünscht, grund(rolle));
+        if (lesbar == ton.Schrift) continue;
+        const bool ruht_auf_Eigenem = element_.art() != Elementart::Knopf && element_.art() != Elementart::Auswahl;
+        farben.setColor(rolle, lesbar);
+        farben.setColor(QPalette::Disabled, rolle, abgesetzt(ton.blass, ruht_auf_Eigenem ? grund(rolle) : ton.Grund));
+    }
+}
+
+void Bauteil::einordnen() {
+    QWidget* eltern = fenster_.Boden_für(element_);
+    if (widget_->parentWidget() != eltern) widget_->setParent(eltern);
 }
 
 void Bauteil::Lage_zeigen() {
-    QWidget* eltern = fenster_.Boden_für(element_);
-    if (widget_->parentWidget() != eltern) widget_->setParent(eltern);
     widget_->setGeometry(Pixel(element_.lage()));
     widget_->setVisible(element_.sichtbar());
 }

@@ -51,12 +51,14 @@ protected:
     virtual bool klickt_selbst() const { return false; }
     // The left button went down there.
     virtual void gedrückt(QPoint) {}
-    void Farben_zeigen();
+    virtual void Farben_zeigen();
 
     Umfeld& umfeld_;
     Fensterwidget& fenster_;
 
 private:
+    void einordnen();
+    void lesbare_Schrift(QPalette& farben) const;
     bool Maus(QMouseEvent& ereignis);
     bool Taste_gedrückt(QKeyEvent& ereignis);
     void Fokus_bekommen(int grund);

@@ -9,21 +9,22 @@
 #include "oberflaeche/hand.hpp"
 #include "oberflaeche/qt/bauteile.hpp"
 #include "oberflaeche/qt/bilder.hpp"
+#include "oberflaeche/qt/farben.hpp"
 #include "oberflaeche/qt/fensterwidget.hpp"
-#include "oberflaeche/qt/stil.hpp"
 
 namespace tonkartei {
 namespace {
 
 class Stufenwidget : public QWidget {
 public:
-    Stufenwidget() : auf(Pfeil("auf")), ab(Pfeil("ab")) {
+    Stufenwidget() : auf(Pfeil()), ab(Pfeil()) {
         setFocusPolicy(Qt::StrongFocus);
         auto* zeile = new QHBoxLayout(this);
         zeile->setContentsMargins(2, 2, 2, 2);
         zeile->setSpacing(2);
         zeile->addWidget(auf);
         zeile->addWidget(ab);
+        Pfeile_färben();
     }
     QToolButton *auf, *ab;
 
@@ -44,10 +45,19 @@ protected:
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &rand, &maler, this);
     }
 
+    void changeEvent(QEvent* was) override {
+        if (was->type() == QEvent::PaletteChange) Pfeile_färben();
+        QWidget::changeEvent(was);
+    }
+
 private:
-    static QToolButton* Pfeil(const char* bild) {
+    void Pfeile_färben() {
+        const Töne ton = Töne::von(palette());
+        auf->setIcon(Bildsymbol("auf", ton.Schrift, ton.Linie));
+        ab->setIcon(Bildsymbol("ab", ton.Schrift, ton.Linie));
+    }
+    static QToolButton* Pfeil() {
         auto* knopf = new QToolButton;
-        knopf->setIcon(Bildsymbol(bild, QColor::fromRgb(Ton::Schrift), QColor::fromRgb(Ton::Linie)));
         knopf->setIconSize(QSize(16, 16));
         knopf->setFocusPolicy(Qt::NoFocus);
         knopf->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

@@ -5,6 +5,7 @@
 #include "oberflaeche/elemente.hpp"
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/qt/bauteile.hpp"
+#include "oberflaeche/qt/farben.hpp"
 #include "oberflaeche/qt/fensterwidget.hpp"
 #include "oberflaeche/qt/umrechnung.hpp"
 #include "oberflaeche/qt/widgets.hpp"
@@ -68,12 +69,32 @@ private:
         bild_->setTitle(Anzeigetext(element().beschriftung()));
         bild_->update();
     }
+    // In a window with a ground of its own, what lies in a coloured frame goes along with the frame.
+    void Farben_zeigen() override {
+        const bool innen_anders = fenster_.eigener_Grund() && element().hintergrund() != Farbe_Standard;
+        if (!fenster_.eigener_Grund()) {
+            Bauteil::Farben_zeigen();
+        } else {
+            const QColor außen = fenster_.Grund_unter(element().rahmen());
+            const QColor schrift = element().farbe() == Farbe_Standard
+                                       ? Töne::von(fenster_.Boden_für(element())->palette()).Schrift
+                                       : Qt_Farbe(element().farbe());
+            bild_->titelfarbe = abgesetzt(schrift, außen);
+            bild_->umgebung = außen;
+            bild_->setPalette(innen_anders ? Farbtafel_für(element().hintergrund()) : QPalette());
+        }
+        if (const Farbe grund = innen_anders ? element().hintergrund() : Farbe_Standard; grund != innen_) {
+            innen_ = grund;
+            fenster_.Inhalt_neu_färben(element());
+        }
+    }
     void Lage_zeigen() override {
         Bauteil::Lage_zeigen();
         if (bild_->deckend) bild_->raise();
     }
 
     Rahmenbild* bild_;
+    Farbe innen_ = Farbe_Standard;
 };
 
 class Flächen_Bauteil : public Bauteil {

@@ -12,11 +12,12 @@
 #include <algorithm>
 #include <set>
 
+#include "oberflaeche/elemente.hpp"
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/hand.hpp"
 #include "oberflaeche/qt/ablage.hpp"
+#include "oberflaeche/qt/farben.hpp"
 #include "oberflaeche/qt/menueleiste.hpp"
-#include "oberflaeche/qt/stil.hpp"
 #include "oberflaeche/qt/umrechnung.hpp"
 
 namespace tonkartei {
@@ -96,6 +97,35 @@ Bauteil* Fensterwidget::bauteil(const Element& element) const {
     return eintrag == bauteile_.end() ? nullptr : eintrag->second.get();
 }
 
+bool Fensterwidget::eigener_Grund() const {
+    for (const Fenster* f = &fenster_; f != nullptr; f = f->Elternfenster())
+        if (f->hintergrund != Farbe_Standard) return true;
+    return false;
+}
+
+QColor Fensterwidget::Grund_unter(const Element* rahmen) const {
+    for (; rahmen != nullptr; rahmen = rahmen->rahmen()) {
+        if (rahmen->hintergrund() != Farbe_Standard) return Qt_Farbe(rahmen->hintergrund());
+        const Töne ton = Töne::von(Boden_für(*rahmen)->palette());
+        if (!rahmen->beschriftung().empty()) return ton.Wert;
+        if (static_cast<const Rahmen*>(rahmen)->deckend) return ton.Grund;
+    }
+    return palette().color(QPalette::Window);
+}
+
+void Fensterwidget::Inhalt_neu_färben(const Element& rahmen) {
+    for (Element* element : fenster_.elemente())
+        for (const Element* r = element->rahmen(); r != nullptr; r = r->rahmen())
+            if (r == &rahmen) Element_merken(*element, Änderung_Aussehen);
+}
+
+void Fensterwidget::Grund_zeigen() {
+    if (grund_ == fenster_.hintergrund) return;
+    grund_ = fenster_.hintergrund;
+    setPalette(grund_ == Farbe_Standard ? QPalette() : Farbtafel_für(grund_));
+    alles_ = true;
+}
+
 void Fensterwidget::Bauteile_machen() {
     const auto& elemente = fenster_.elemente();
     if (gesehene_ == elemente.size()) return;
@@ -124,6 +154,7 @@ bool Fensterwidget::abgleichen() {
         return false;
     }
     gleicht_ab_ = true;
+    Grund_zeigen();
     bool etwas = fenster_geändert_ || menü_geändert_ || alles_ || !geänderte_.empty();
     Bauteile_machen();
     if (menü_ && (menü_geändert_ || alles_)) menü_->zeigen();
@@ -321,7 +352,7 @@ void Fensterwidget::dropEvent(QDropEvent* was) {
 void Fensterwidget::paintEvent(QPaintEvent*) {
     if (!fenster_.ohne_Rand) return;
     QPainter maler(this);
-    maler.setPen(QColor::fromRgb(Ton::Linie));
+    maler.setPen(Töne::von(palette()).Linie);
     maler.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 

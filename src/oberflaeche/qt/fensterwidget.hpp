@@ -29,6 +29,13 @@ public:
     Bauteil* bauteil(const Element& element) const;
     Fenster& fenster() const noexcept { return fenster_; }
 
+    // It, or a window that it is a part of, has a ground of its own.
+    bool eigener_Grund() const;
+    // What is seen inside that frame, or without one in the window, where nothing lies on it.
+    QColor Grund_unter(const Element* rahmen) const;
+    // What lies in the frame gets colours anew.
+    void Inhalt_neu_färben(const Element& rahmen);
+
 protected:
     bool event(QEvent* was) override;
     void closeEvent(QCloseEvent* was) override;
@@ -45,6 +52,7 @@ private:
     void vormerken();
     void Bauteile_machen();
     void Fenster_zeigen();
+    void Grund_zeigen();
     void Maße_zeigen();
     void Sichtbarkeit_zeigen();
     void Boden_legen();
@@ -59,6 +67,7 @@ private:
     std::size_t gesehene_ = 0;
     std::map<Element*, unsigned> geänderte_;
     Element* fokus_ = nullptr;
+    Farbe grund_ = Farbe_Standard;
     bool alles_ = true, fenster_geändert_ = false, menü_geändert_ = false, vorgemerkt_ = false, gleicht_ab_ = false;
     bool gezeigt_ = false;
     Qt::WindowFlags flaggen_;

@@ -15,6 +15,7 @@
 
 #include "oberflaeche/elemente.hpp"
 #include "oberflaeche/listen.hpp"
+#include "oberflaeche/qt/schieberbild.hpp"
 #include "oberflaeche/qt/stil.hpp"
 #include "oberflaeche/qt/umrechnung.hpp"
 #include "oberflaeche/qt/widgets.hpp"
@@ -109,6 +110,8 @@ struct Maße::Innen {
                 return QSize(maße.horizontalAdvance(QLatin1Char('n')) * 24, 5 * Zeilenhöhe_Pixel(e.schrift()) + 4);
             case Elementart::Regler: {
                 const auto& regler = static_cast<const Regler&>(e);
+                if (regler.griffig && regler.form() == Regler::Form::Schieber)
+                    return Schieberbild::Mindestmaß(regler.senkrecht ? Qt::Vertical : Qt::Horizontal, maße);
                 const int dicke =
                     regler.form() == Regler::Form::Schieber ? schieber.sizeHint().height() : bildlauf.sizeHint().height();
                 return regler.senkrecht ? QSize(dicke, 100) : QSize(100, dicke);
@@ -153,7 +156,7 @@ Größe Maße::Wunschgröße(const Element& e) const {
         merkmal.zahl = feld.eingerahmt + 2 * feld.umbrechen + 4 * feld.wie_Daten;
     } else if (e.art() == Elementart::Regler) {
         const auto& regler = static_cast<const Regler&>(e);
-        merkmal.zahl = regler.senkrecht + 2 * static_cast<int>(regler.form());
+        merkmal.zahl = regler.senkrecht + 2 * static_cast<int>(regler.form()) + 4 * regler.griffig;
     } else if (e.art() == Elementart::Reiter) {
         for (const Text& tab : static_cast<const Reiter&>(e).tabs()) merkmal.text += tab + "\n";
     } else if (e.art() == Elementart::Auswahl) {

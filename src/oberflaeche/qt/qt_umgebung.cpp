@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "oberflaeche/qt/bilder.hpp"
+#include "oberflaeche/qt/farben.hpp"
 #include "oberflaeche/qt/stil.hpp"
 
 namespace tonkartei {

@@ -10,38 +10,29 @@
 #include <cmath>
 
 #include "oberflaeche/qt/bilder.hpp"
+#include "oberflaeche/qt/farben.hpp"
+#include "oberflaeche/qt/schieberbild.hpp"
+#include "oberflaeche/qt/stil_teile.hpp"
 
 namespace tonkartei {
 namespace {
-
-bool hat(const QStyleOption& option, QStyle::StateFlag flagge) { return option.state.testFlag(flagge); }
-
-struct Sicherung {
-    QPainter& maler;
-    explicit Sicherung(QPainter& m) : maler(m) {
-        maler.save();
-        maler.setRenderHint(QPainter::Antialiasing);
-    }
-    ~Sicherung() { maler.restore(); }
-    Sicherung(const Sicherung&) = delete;
-    Sicherung& operator=(const Sicherung&) = delete;
-};
 
 void Knopf_malen(const QStyleOption& option, QPainter& maler, bool vorgabe) {
     const bool aktiv = hat(option, QStyle::State_Enabled);
     const bool gedrückt = hat(option, QStyle::State_Sunken) || hat(option, QStyle::State_On);
     const bool darüber = aktiv && hat(option, QStyle::State_MouseOver);
     const bool fokus = aktiv && hat(option, QStyle::State_HasFocus);
+    const Töne ton = Töne::von(option.palette);
     QColor füllung = option.palette.color(QPalette::Button);
     if (!aktiv)
-        füllung = QColor::fromRgb(Ton::Grund);
+        füllung = ton.Grund;
     else if (gedrückt)
-        füllung = füllung.rgb() == Ton::Feld ? QColor::fromRgb(Ton::gedrückt) : füllung.darker(115);
+        füllung = füllung == ton.Feld ? ton.gedrückt : füllung.darker(115);
     else if (darüber)
-        füllung = füllung.rgb() == Ton::Feld ? QColor::fromRgb(Ton::Akzent_hell) : füllung;
-    const QRgb linie = !aktiv ? Ton::Linie_zart : fokus || darüber || vorgabe ? Ton::Akzent : Ton::Linie;
-    Tafel_malen(maler, QRectF(option.rect), füllung, QColor::fromRgb(linie));
-    if (fokus) Tafel_malen(maler, QRectF(option.rect).adjusted(1, 1, -1, -1), Qt::transparent, QColor::fromRgb(linie), 3);
+        füllung = füllung == ton.Feld ? ton.Akzent_hell : füllung;
+    const QColor linie = !aktiv ? ton.Linie_zart : fokus || darüber || vorgabe ? ton.Akzent : ton.Linie;
+    Tafel_malen(maler, QRectF(option.rect), füllung, linie);
+    if (fokus) Tafel_malen(maler, QRectF(option.rect).adjusted(1, 1, -1, -1), Qt::transparent, linie, 3);
 }
 
 void Kästchen_malen(const QStyleOption& option, QPainter& maler, bool rund) {
@@ -50,13 +41,12 @@ void Kästchen_malen(const QStyleOption& option, QPainter& maler, bool rund) {
     const bool darüber = aktiv && (hat(option, QStyle::State_MouseOver) || hat(option, QStyle::State_HasFocus));
     const double kante = std::min(option.rect.width(), option.rect.height());
     const QRectF platz(QRectF(option.rect).center() - QPointF(kante / 2, kante / 2), QSizeF(kante, kante));
-    const QColor füllung = QColor::fromRgb(!aktiv                              ? (an ? Ton::blass : Ton::Grund)
-                                           : hat(option, QStyle::State_Sunken) ? (an ? Ton::Akzent_dunkel : Ton::gedrückt)
-                                           : an                                ? Ton::Akzent
-                                                                               : Ton::Feld);
-    const QColor linie = QColor::fromRgb(!aktiv          ? (an ? Ton::blass : Ton::Linie_zart)
-                                         : an || darüber ? Ton::Akzent
-                                                         : 0xff9aa6b3);
+    const Töne ton = Töne::von(option.palette);
+    const QColor füllung = !aktiv                              ? (an ? ton.blass : ton.Grund)
+                           : hat(option, QStyle::State_Sunken) ? (an ? ton.Akzent_dunkel : ton.gedrückt)
+                           : an                                ? ton.Akzent
+                                                               : ton.Feld;
+    const QColor linie = !aktiv ? (an ? ton.blass : ton.Linie_zart) : an || darüber ? ton.Akzent : ton.Kante;
     Tafel_malen(maler, platz, füllung, linie, rund ? kante / 2 : 3);
     if (!an) return;
     const Sicherung sicherung(maler);
@@ -64,99 +54,35 @@ void Kästchen_malen(const QStyleOption& option, QPainter& maler, bool rund) {
     maler.scale(kante / 14, kante / 14);
     if (rund) {
         maler.setPen(Qt::NoPen);
-        maler.setBrush(Qt::white);
+        maler.setBrush(ton.auf_Akzent);
         maler.drawEllipse(QPointF(7, 7), 2.7, 2.7);
     } else {
-        maler.setPen(QPen(Qt::white, 1.9, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        maler.setPen(QPen(ton.auf_Akzent, 1.9, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         maler.drawPolyline(QPolygonF({{3.6, 7.2}, {6, 9.7}, {10.5, 4.4}}));
     }
 }
 
-// An angle in the middle of the area: 0 points down, 1 left, 2 up, 3 right.
-void Winkel_malen(QPainter& maler, const QRectF& platz, int richtung, const QColor& farbe) {
-    const Sicherung sicherung(maler);
-    maler.setPen(QPen(farbe, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    maler.setBrush(Qt::NoBrush);
-    maler.translate(platz.center());
-    maler.rotate(90 * richtung);
-    maler.drawPolyline(QPolygonF({{-3.2, -1.6}, {0, 1.8}, {3.2, -1.6}}));
-}
-
 QColor Zeichenfarbe(const QStyleOption& option) {
-    return QColor::fromRgb(!hat(option, QStyle::State_Enabled) ? Ton::Linie : 0xff55626f);
-}
-
-void Schieber_malen(const QProxyStyle& stil, const QStyleOptionSlider& option, QPainter& maler, const QWidget* widget) {
-    const bool aktiv = hat(option, QStyle::State_Enabled);
-    const QRectF rinne(stil.subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, widget));
-    const QRectF griff(stil.subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, widget));
-    const Sicherung sicherung(maler);
-    maler.setPen(Qt::NoPen);
-    QRectF bahn, gefüllt;
-    if (option.orientation == Qt::Horizontal) {
-        bahn = QRectF(rinne.left() + 1, rinne.center().y() - 2, rinne.width() - 2, 4);
-        gefüllt = bahn;
-        gefüllt.setRight(griff.center().x());
-    } else {
-        bahn = QRectF(rinne.center().x() - 2, rinne.top() + 1, 4, rinne.height() - 2);
-        gefüllt = bahn;
-        if (option.upsideDown)
-            gefüllt.setTop(griff.center().y());
-        else
-            gefüllt.setBottom(griff.center().y());
-    }
-    maler.setBrush(QColor::fromRgb(Ton::Linie));
-    maler.drawRoundedRect(bahn, 2, 2);
-    maler.setBrush(QColor::fromRgb(aktiv ? Ton::Akzent : Ton::blass));
-    maler.drawRoundedRect(gefüllt, 2, 2);
-    const double halb = std::min(griff.width(), griff.height()) / 2 - 1;
-    const bool betont = aktiv && (hat(option, QStyle::State_HasFocus) || hat(option, QStyle::State_MouseOver) ||
-                                  option.activeSubControls.testFlag(QStyle::SC_SliderHandle));
-    maler.setPen(QPen(QColor::fromRgb(!aktiv ? Ton::Linie : Ton::Akzent), betont ? 2 : 1.3));
-    maler.setBrush(QColor::fromRgb(hat(option, QStyle::State_Sunken) && aktiv ? Ton::gedrückt : Ton::Feld));
-    maler.drawEllipse(griff.center(), halb, halb);
-}
-
-void Bildlauf_malen(const QProxyStyle& stil, const QStyleOptionSlider& option, QPainter& maler, const QWidget* widget) {
-    const bool liegend = option.orientation == Qt::Horizontal;
-    const bool beweglich = option.maximum > option.minimum && hat(option, QStyle::State_Enabled);
-    const bool eigener_Grund = widget != nullptr && widget->autoFillBackground();
-    maler.fillRect(option.rect, eigener_Grund ? option.palette.color(QPalette::Window) : QColor(0xee, 0xf1, 0xf4));
-    const auto teil = [&](QStyle::SubControl was) {
-        return QRectF(stil.subControlRect(QStyle::CC_ScrollBar, &option, was, widget));
-    };
-    const QColor zeichen = QColor::fromRgb(beweglich ? 0xff55626f : Ton::Linie);
-    Winkel_malen(maler, teil(QStyle::SC_ScrollBarSubLine), liegend ? 1 : 2, zeichen);
-    Winkel_malen(maler, teil(QStyle::SC_ScrollBarAddLine), liegend ? 3 : 0, zeichen);
-    if (!beweglich) return;
-    const bool griff = option.activeSubControls.testFlag(QStyle::SC_ScrollBarSlider);
-    const QRgb farbe = !griff ? 0xffb9c3cd : hat(option, QStyle::State_Sunken) ? 0xff7d8b99 : 0xff9eabb8;
-    const QRectF schieber =
-        teil(QStyle::SC_ScrollBarSlider).adjusted(liegend ? 0 : 3, liegend ? 3 : 0, liegend ? 0 : -3, liegend ? -3 : 0);
-    const double rundung = std::min(schieber.width(), schieber.height()) / 2;
-    const Sicherung sicherung(maler);
-    maler.setPen(Qt::NoPen);
-    maler.setBrush(QColor::fromRgb(farbe));
-    maler.drawRoundedRect(schieber, rundung, rundung);
+    const Töne ton = Töne::von(option.palette);
+    return hat(option, QStyle::State_Enabled) ? ton.Zeichen : ton.Linie;
 }
 
 void Reiter_malen(const QStyleOptionTab& option, QPainter& maler) {
     const bool gewählt = hat(option, QStyle::State_Selected);
     const bool darüber = hat(option, QStyle::State_Enabled) && hat(option, QStyle::State_MouseOver);
     const QRectF platz(option.rect);
+    const Töne ton = Töne::von(option.palette);
     const Sicherung sicherung(maler);
     if (darüber && !gewählt) {
         QPainterPath pfad;
         pfad.addRoundedRect(platz.adjusted(2, 2, -2, 6), 4, 4);
         maler.setClipRect(platz);
-        maler.fillPath(pfad, QColor::fromRgb(Ton::Akzent_hell));
+        maler.fillPath(pfad, ton.Akzent_hell);
     }
     maler.setRenderHint(QPainter::Antialiasing, false);
-    maler.fillRect(QRectF(platz.left(), platz.bottom() - 1, platz.width(), 1), QColor::fromRgb(Ton::Linie));
-    if (gewählt)
-        maler.fillRect(QRectF(platz.left() + 2, platz.bottom() - 3, platz.width() - 4, 3), QColor::fromRgb(Ton::Akzent));
-    if (hat(option, QStyle::State_HasFocus))
-        Tafel_malen(maler, platz.adjusted(3, 3, -3, -5), Qt::transparent, QColor::fromRgb(Ton::Linie), 3);
+    maler.fillRect(QRectF(platz.left(), platz.bottom() - 1, platz.width(), 1), ton.Linie);
+    if (gewählt) maler.fillRect(QRectF(platz.left() + 2, platz.bottom() - 3, platz.width() - 4, 3), ton.Akzent);
+    if (hat(option, QStyle::State_HasFocus)) Tafel_malen(maler, platz.adjusted(3, 3, -3, -5), Qt::transparent, ton.Linie, 3);
 }
 
 void Balken_malen(const QStyleOptionProgressBar& option, QPainter& maler) {
@@ -168,7 +94,7 @@ void Balken_malen(const QStyleOptionProgressBar& option, QPainter& maler) {
     form.addRoundedRect(gefüllt, 3, 3);
     gefüllt.setWidth(gefüllt.width() * (option.progress - option.minimum) / spanne);
     maler.setClipRect(gefüllt);
-    maler.fillPath(form, QColor::fromRgb(Ton::Akzent));
+    maler.fillPath(form, Töne::von(option.palette).Akzent);
 }
 
 }  // namespace
@@ -195,7 +121,7 @@ void Stil::drawPrimitive(PrimitiveElement was, const QStyleOption* option, QPain
                 Knopf_malen(*option, *maler, false);
             else
                 Tafel_malen(*maler, QRectF(option->rect), option->palette.color(QPalette::Button),
-                            QColor::fromRgb(Ton::Linie_zart));
+                            Töne::von(option->palette).Linie_zart);
             return;
         case PE_FrameDefaultButton:
         case PE_FrameFocusRect: return;  // the frames themselves show the focus
@@ -204,20 +130,17 @@ void Stil::drawPrimitive(PrimitiveElement was, const QStyleOption* option, QPain
             if (widget != nullptr && qobject_cast<const QAbstractSpinBox*>(widget->parentWidget()) != nullptr) return;
             const bool aktiv = hat(*option, State_Enabled);
             const bool fokus = aktiv && hat(*option, State_HasFocus);
-            const QColor füllung =
-                aktiv && !hat(*option, State_ReadOnly) ? option->palette.color(QPalette::Base) : QColor::fromRgb(Ton::Wert);
-            Tafel_malen(*maler, QRectF(option->rect), füllung,
-                        QColor::fromRgb(fokus   ? Ton::Akzent
-                                        : aktiv ? Ton::Linie
-                                                : Ton::Linie_zart),
-                        3);
+            const Töne ton = Töne::von(option->palette);
+            const QColor füllung = aktiv && !hat(*option, State_ReadOnly) ? option->palette.color(QPalette::Base) : ton.Wert;
+            Tafel_malen(*maler, QRectF(option->rect), füllung, fokus ? ton.Akzent : aktiv ? ton.Linie : ton.Linie_zart, 3);
             return;
         }
         case PE_FrameLineEdit: return;  // drawn with the panel
         case PE_Frame:
         case PE_FrameTabWidget: {
             const bool fokus = hat(*option, State_HasFocus);
-            Tafel_malen(*maler, QRectF(option->rect), Qt::transparent, QColor::fromRgb(fokus ? Ton::Akzent : Ton::Linie), 2);
+            const Töne ton = Töne::von(option->palette);
+            Tafel_malen(*maler, QRectF(option->rect), Qt::transparent, fokus ? ton.Akzent : ton.Linie, 2);
             return;
         }
         case PE_IndicatorCheckBox: Kästchen_malen(*option, *maler, false); return;
@@ -231,9 +154,11 @@ void Stil::drawControl(ControlElement was, const QStyleOption* option, QPainter*
         case CE_TabBarTabShape:
             if (const auto* reiter = qstyleoption_cast<const QStyleOptionTab*>(option)) return Reiter_malen(*reiter, *maler);
             break;
-        case CE_ProgressBarGroove:
-            Tafel_malen(*maler, QRectF(option->rect), QColor::fromRgb(Ton::Feld), QColor::fromRgb(Ton::Linie));
+        case CE_ProgressBarGroove: {
+            const Töne ton = Töne::von(option->palette);
+            Tafel_malen(*maler, QRectF(option->rect), ton.Feld, ton.Linie);
             return;
+        }
         case CE_ProgressBarContents:
             if (const auto* balken = qstyleoption_cast<const QStyleOptionProgressBar*>(option))
                 return Balken_malen(*balken, *maler);
@@ -284,6 +209,17 @@ QRect Stil::subElementRect(SubElement was, const QStyleOption* option, const QWi
     return was == SE_LineEditContents ? platz.adjusted(2, 0, -2, 0) : platz;
 }
 
+QRect Stil::subControlRect(ComplexControl was, const QStyleOptionComplex* option, SubControl teil,
+                           const QWidget* widget) const {
+    if (was == CC_Slider && (teil == SC_SliderHandle || teil == SC_SliderGroove)) {
+        const auto* regler = qstyleoption_cast<const QStyleOptionSlider*>(option);
+        const auto* bild = dynamic_cast<const Schieberbild*>(widget);
+        if (regler != nullptr && bild != nullptr && bild->griffig)
+            return teil == SC_SliderHandle ? bild->Griff(*regler) : option->rect;
+    }
+    return QProxyStyle::subControlRect(was, option, teil, widget);
+}
+
 int Stil::styleHint(StyleHint was, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* zurück) const {
     switch (was) {
         case SH_UnderlineShortcut: return 1;
@@ -299,41 +235,12 @@ int Stil::styleHint(StyleHint was, const QStyleOption* option, const QWidget* wi
 }
 
 QIcon Stil::standardIcon(StandardPixmap was, const QStyleOption* option, const QWidget* widget) const {
+    const QColor akzent = Töne::von(option == nullptr ? QApplication::palette() : option->palette).Akzent;
     switch (was) {
-        case SP_MessageBoxInformation: return Bildsymbol("auskunft", QColor::fromRgb(Ton::Akzent), {});
-        case SP_MessageBoxQuestion: return Bildsymbol("frage", QColor::fromRgb(Ton::Akzent), {});
+        case SP_MessageBoxInformation: return Bildsymbol("auskunft", akzent, {});
+        case SP_MessageBoxQuestion: return Bildsymbol("frage", akzent, {});
         default: return QProxyStyle::standardIcon(was, option, widget);
     }
-}
-
-QPalette Farbtafel() {
-    QPalette p;
-    const auto setzen = [&p](QPalette::ColorRole rolle, QRgb farbe) { p.setColor(rolle, QColor::fromRgb(farbe)); };
-    setzen(QPalette::Window, Ton::Grund);
-    setzen(QPalette::WindowText, Ton::Schrift);
-    setzen(QPalette::Base, Ton::Feld);
-    setzen(QPalette::AlternateBase, Ton::Wert);
-    setzen(QPalette::Text, Ton::Schrift);
-    setzen(QPalette::PlaceholderText, Ton::blass);
-    setzen(QPalette::Button, Ton::Feld);
-    setzen(QPalette::ButtonText, Ton::Schrift);
-    setzen(QPalette::BrightText, Ton::Feld);
-    setzen(QPalette::Light, Ton::Feld);
-    setzen(QPalette::Midlight, Ton::Grund);
-    setzen(QPalette::Mid, Ton::Linie);
-    setzen(QPalette::Dark, 0xff9aa6b3);
-    setzen(QPalette::Shadow, 0xff6b7783);
-    setzen(QPalette::Highlight, Ton::Akzent);
-    setzen(QPalette::HighlightedText, Ton::Feld);
-    setzen(QPalette::Link, Ton::Akzent);
-    setzen(QPalette::LinkVisited, Ton::Akzent_dunkel);
-    setzen(QPalette::ToolTipBase, 0xfffffbe8);
-    setzen(QPalette::ToolTipText, Ton::Schrift);
-    for (const auto rolle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        p.setColor(QPalette::Disabled, rolle, QColor::fromRgb(Ton::blass));
-    p.setColor(QPalette::Disabled, QPalette::Base, QColor::fromRgb(Ton::Wert));
-    p.setColor(QPalette::Disabled, QPalette::Highlight, QColor::fromRgb(Ton::Linie));
-    return p;
 }
 
 QFont Schrift(int punkte, bool fett) {

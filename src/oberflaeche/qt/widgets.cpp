@@ -5,9 +5,9 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <algorithm>
-#include <cmath>
 
 #include "oberflaeche/qt/bilder.hpp"
+#include "oberflaeche/qt/farben.hpp"
 #include "oberflaeche/qt/stil.hpp"
 #include "oberflaeche/qt/umrechnung.hpp"
 
@@ -15,17 +15,6 @@ namespace tonkartei {
 namespace {
 
 constexpr int modeste_Breite = 360;  // of texts that wrap
-constexpr double lesbar = 4.5;       // contrast of a text and its ground
-
-// Ratio of brightness as the eye sees it, 1 to 21.
-double Kontrast(const QColor& a, const QColor& b) {
-    const auto helligkeit = [](const QColor& f) {
-        const auto anteil = [](double w) { return w <= 0.03928 ? w / 12.92 : std::pow((w + 0.055) / 1.055, 2.4); };
-        return 0.2126 * anteil(f.redF()) + 0.7152 * anteil(f.greenF()) + 0.0722 * anteil(f.blueF()) + 0.05;
-    };
-    const double ha = helligkeit(a), hb = helligkeit(b);
-    return std::max(ha, hb) / std::min(ha, hb);
-}
 
 }  // namespace
 
@@ -70,9 +59,9 @@ QSize Schriftbild::sizeHint() const {
 
 void Schriftbild::paintEvent(QPaintEvent*) {
     QPainter maler(this);
+    const Töne ton = Töne::von(palette());
     if (eingerahmt)
-        Tafel_malen(maler, QRectF(rect()), füllung.isValid() ? füllung : QColor::fromRgb(Ton::Wert),
-                    QColor::fromRgb(Ton::Linie_zart), 3);
+        Tafel_malen(maler, QRectF(rect()), füllung.isValid() ? füllung : ton.Wert, ton.Linie_zart, 3);
     else if (füllung.isValid())
         maler.fillRect(rect(), füllung);
     const QRect platz = rect().marginsRemoved(ränder());
@@ -85,7 +74,7 @@ void Schriftbild::paintEvent(QPaintEvent*) {
         zeile = fontMetrics().elidedText(zeile, Qt::ElideRight, platz.width(), flaggen);
     QPalette farben = palette();
     // On a dark ground of its own it stays readable.
-    if (füllung.isValid() && Kontrast(farben.color(foregroundRole()), füllung) < lesbar)
+    if (füllung.isValid() && Kontrast(farben.color(foregroundRole()), füllung) < lesbarer_Text)
         farben.setColor(foregroundRole(), füllung.lightnessF() < 0.5F ? Qt::white : Qt::black);
     style()->drawItemText(&maler, platz, flaggen, farben, isEnabled(), zeile, foregroundRole());
 }
@@ -104,17 +93,20 @@ void Rahmenbild::paintEvent(QPaintEvent*) {
         if (füllung.isValid()) maler.fillRect(rect(), füllung);
         return;
     }
-    const QColor grund = füllung.isValid() ? füllung : QColor::fromRgb(mit_Titel ? Ton::Wert : Ton::Grund);
+    const Töne ton = Töne::von(palette());
+    const QColor grund = füllung.isValid() ? füllung : mit_Titel ? ton.Wert : ton.Grund;
     QRect tafel = rect();
+    QPalette farben = palette();
+    if (titelfarbe.isValid()) farben.setColor(QPalette::WindowText, titelfarbe);
     if (mit_Titel) {
         const int höhe = fontMetrics().height();
         tafel.setTop(höhe + 4);
         style()->drawItemText(&maler, QRect(2, 0, width() - 4, höhe + 2),
-                              Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, palette(), isEnabled(), title(),
+                              Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, farben, isEnabled(), title(),
                               QPalette::WindowText);
     }
-    if (deckend) maler.fillRect(rect(), palette().color(QPalette::Window));
-    Tafel_malen(maler, QRectF(tafel), grund, QColor::fromRgb(mit_Titel ? Ton::Linie_zart : Ton::Linie), mit_Titel ? 5 : 3);
+    if (deckend) maler.fillRect(rect(), umgebung.isValid() ? umgebung : farben.color(QPalette::Window));
+    Tafel_malen(maler, QRectF(tafel), grund, mit_Titel ? ton.Linie_zart : ton.Linie, mit_Titel ? 5 : 3);
 }
 
 Reiterbild::Reiterbild(QWidget* eltern) : QTabBar(eltern) {
@@ -124,7 +116,7 @@ Reiterbild::Reiterbild(QWidget* eltern) : QTabBar(eltern) {
 }
 
 void Reiterbild::paintEvent(QPaintEvent* was) {
-    QPainter(this).fillRect(0, height() - 1, width(), 1, QColor::fromRgb(Ton::Linie));
+    QPainter(this).fillRect(0, height() - 1, width(), 1, Töne::von(palette()).Linie);
     QTabBar::paintEvent(was);
 }
 
@@ -136,9 +128,9 @@ void Bildwidget::Name(const Text& name) {
 
 void Bildwidget::paintEvent(QPaintEvent*) {
     QPainter maler(this);
+    const Töne ton = Töne::von(palette());
     if (eingerahmt)
-        Tafel_malen(maler, QRectF(rect()), füllung.isValid() ? füllung : QColor::fromRgb(Ton::Feld),
-                    QColor::fromRgb(Ton::Linie), 3);
+        Tafel_malen(maler, QRectF(rect()), füllung.isValid() ? füllung : ton.Feld, ton.Linie, 3);
     else if (füllung.isValid())
         maler.fillRect(rect(), füllung);
     Raster_malen(maler);
@@ -152,7 +144,7 @@ void Bildwidget::Linien(std::vector<Linie> linien) {
 }
 
 void Bildwidget::Raster_malen(QPainter& maler) const {
-    maler.setPen(QColor::fromRgb(Ton::Linie_zart));
+    maler.setPen(Töne::von(palette()).Linie_zart);
     for (int i = 1; i < spalten; ++i) maler.drawLine(width() * i / spalten, 1, width() * i / spalten, height() - 2);
     for (int i = 1; i < zeilen; ++i) maler.drawLine(1, height() * i / zeilen, width() - 2, height() * i / zeilen);
 }

@@ -74,6 +74,8 @@ public:
     explicit Rahmenbild(QWidget* eltern = nullptr);
     bool deckend = false;
     QColor füllung;
+    // Of the title, and of what it lies on, where the frame's palette is that of its inside; invalid: the palette's.
+    QColor titelfarbe, umgebung;
 
     // What the border takes from the inside.
     static QMargins ränder(bool mit_Titel, bool deckend, int titelhöhe);
