@@ -83,7 +83,6 @@ void Bauteil::Farben_zeigen() {
 void Bauteil::lesbare_Schrift(QPalette& farben) const {
     const Töne ton = Töne::von(fenster_.Boden_für(element_)->palette());
     const QColor außen = fenster_.Grund_unter(element_.rahmen());
-    const QColor gewünscht = element_.farbe() == Farbe_Standard ? ton.Schrift : Qt_Farbe(element_.farbe());
     const auto grund = [&](QPalette::ColorRole rolle) {
         const bool im_Feld = rolle == QPalette::Text && element_.art() == Elementart::Auswahl;
         if (element_.hintergrund() != Farbe_Standard && !im_Feld) return Qt_Farbe(element_.hintergrund());
@@ -96,11 +95,15 @@ void Bauteil::lesbare_Schrift(QPalette& farben) const {
         }
     };
     for (const auto rolle : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text}) {
-        const QColor lesbar = abgesetzt(gewünscht, grund(rolle));
+        const QColor darunter = grund(rolle);
+        const QColor gewünscht = element_.farbe() != Farbe_Standard              ? Qt_Farbe(element_.farbe())
+                                 : ist_dunkel(darunter) == ist_dunkel(ton.Grund) ? ton.Schrift
+                                                                                 : Töne::zu(darunter).Schrift;
+        const QColor lesbar = abgesetzt(gewünscht, darunter);
         if (lesbar == ton.Schrift) continue;
         const bool ruht_auf_Eigenem = element_.art() != Elementart::Knopf && element_.art() != Elementart::Auswahl;
         farben.setColor(rolle, lesbar);
-        farben.setColor(QPalette::Disabled, rolle, abgesetzt(ton.blass, ruht_auf_Eigenem ? grund(rolle) : ton.Grund));
+        farben.setColor(QPalette::Disabled, rolle, abgesetzt(ton.blass, ruht_auf_Eigenem ? darunter : ton.Grund));
     }
 }
 

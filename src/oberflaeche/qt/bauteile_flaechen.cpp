@@ -18,6 +18,7 @@ public:
     Schrift_Bauteil(Umfeld& umfeld, Fensterwidget& fenster, Schriftfeld& feld)
         : Bauteil(umfeld, fenster, feld), bild_(new Schriftbild) {
         bild_->eingerahmt = feld.eingerahmt;
+        bild_->ziffern = feld.Ziffern;
         bild_->setWordWrap(feld.umbrechen);
         aufnehmen(bild_);
     }

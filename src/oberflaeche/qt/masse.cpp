@@ -95,6 +95,7 @@ struct Maße::Innen {
                 const auto& feld = static_cast<const Schriftfeld&>(e);
                 schrift.setFont(font);
                 schrift.eingerahmt = feld.eingerahmt;
+                schrift.ziffern = feld.Ziffern;
                 schrift.setWordWrap(feld.umbrechen);
                 QString text = Anzeigeabsätze(feld.beschriftung());
                 if (feld.wie_Daten) text.replace(QLatin1String("&&"), QLatin1String("&"));
@@ -153,7 +154,7 @@ Größe Maße::Wunschgröße(const Element& e) const {
         merkmal.zahl = knopf.klein;
     } else if (e.art() == Elementart::Schrift) {
         const auto& feld = static_cast<const Schriftfeld&>(e);
-        merkmal.zahl = feld.eingerahmt + 2 * feld.umbrechen + 4 * feld.wie_Daten;
+        merkmal.zahl = feld.eingerahmt + 2 * feld.umbrechen + 4 * feld.wie_Daten + 8 * feld.Ziffern;
     } else if (e.art() == Elementart::Regler) {
         const auto& regler = static_cast<const Regler&>(e);
         merkmal.zahl = regler.senkrecht + 2 * static_cast<int>(regler.form()) + 4 * regler.griffig;

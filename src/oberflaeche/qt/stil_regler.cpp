@@ -84,8 +84,11 @@ void Schieber_malen(const QProxyStyle& stil, const QStyleOptionSlider& option, Q
         else
             gefüllt.setBottom(griff.center().y());
     }
-    maler.setBrush(bild != nullptr && bild->rinne.isValid() ? bild->rinne : ton.Linie);
+    const bool eigene_Rinne = bild != nullptr && bild->rinne.isValid();
+    if (eigene_Rinne) maler.setPen(ton.Linie);  // it may be the colour of the ground
+    maler.setBrush(eigene_Rinne ? bild->rinne : ton.Linie);
     maler.drawRoundedRect(bahn, dick / 2, dick / 2);
+    maler.setPen(Qt::NoPen);
     maler.setBrush(!aktiv ? ton.blass : bild != nullptr && bild->füllung.isValid() ? bild->füllung : ton.Akzent);
     maler.drawRoundedRect(gefüllt, dick / 2, dick / 2);
     const bool betont = aktiv && (hat(option, QStyle::State_HasFocus) || hat(option, QStyle::State_MouseOver) ||

@@ -10,6 +10,7 @@
 #include "oberflaeche/qt/farben.hpp"
 #include "oberflaeche/qt/stil.hpp"
 #include "oberflaeche/qt/umrechnung.hpp"
+#include "oberflaeche/qt/ziffern.hpp"
 
 namespace tonkartei {
 namespace {
@@ -48,6 +49,7 @@ void Schriftbild::zeigen(const QString& text, bool zugriff) {
 QMargins Schriftbild::ränder() const { return eingerahmt ? QMargins(6, 3, 6, 3) : QMargins(0, 1, 0, 1); }
 
 QSize Schriftbild::sizeHint() const {
+    if (ziffern) return Zifferngröße(text(), fontMetrics()).grownBy(ränder());
     int flaggen = Qt::AlignLeft | (zugriff_ ? Qt::TextShowMnemonic : 0);
     const QFontMetrics maße(font());
     QRect platz = maße.boundingRect(QRect(0, 0, 1 << 20, 1 << 20), flaggen, text());
@@ -76,7 +78,10 @@ void Schriftbild::paintEvent(QPaintEvent*) {
     // On a dark ground of its own it stays readable.
     if (füllung.isValid() && Kontrast(farben.color(foregroundRole()), füllung) < lesbarer_Text)
         farben.setColor(foregroundRole(), füllung.lightnessF() < 0.5F ? Qt::white : Qt::black);
-    style()->drawItemText(&maler, platz, flaggen, farben, isEnabled(), zeile, foregroundRole());
+    if (ziffern)
+        Ziffern_malen(maler, QRectF(platz), text(), farben.color(foregroundRole()), alignment());
+    else
+        style()->drawItemText(&maler, platz, flaggen, farben, isEnabled(), zeile, foregroundRole());
 }
 
 Rahmenbild::Rahmenbild(QWidget* eltern) : QGroupBox(eltern) {}

@@ -55,6 +55,7 @@ public:
     // With `zugriff` a "&" marks the access key of the buddy.
     void zeigen(const QString& text, bool zugriff);
     bool eingerahmt = false;
+    bool ziffern = false;
     QColor füllung;  // invalid: none
 
     QSize sizeHint() const override;
