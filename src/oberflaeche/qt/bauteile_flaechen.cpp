@@ -62,6 +62,9 @@ public:
         bild_->deckend = rahmen.deckend;
         aufnehmen(bild_);
     }
+    ~Rahmen_Bauteil() override {
+        if (widget() != nullptr) Teile_lösen(*bild_);
+    }
 
 private:
     void Aussehen_zeigen() override {

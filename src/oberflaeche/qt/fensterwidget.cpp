@@ -32,6 +32,7 @@ QEvent::Type Abgleich() {
 }
 
 Qt::WindowFlags Flaggen(const Fenster& fenster) {
+    if (fenster.Elternfenster() != nullptr) return Qt::Widget;
     Qt::WindowFlags f = Qt::Window;
     if (fenster.ohne_Rand) return f | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint;
     f |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
@@ -47,7 +48,11 @@ int aufgerundet(int twips) { return (twips + Twips_je_Pixel - 1) / Twips_je_Pixe
 }  // namespace
 
 Fensterwidget::Fensterwidget(Umfeld& umfeld, Fenster& fenster)
-    : umfeld_(umfeld), fenster_(fenster), boden_(new QWidget(this)), flaggen_(Flaggen(fenster)) {
+    : umfeld_(umfeld),
+      fenster_(fenster),
+      teil_(fenster.Elternfenster() != nullptr),
+      boden_(new QWidget(this)),
+      flaggen_(Flaggen(fenster)) {
     setWindowFlags(flaggen_);
     setObjectName(Anzeigetext(fenster.Name()));
     setAcceptDrops(true);
@@ -59,7 +64,7 @@ Fensterwidget::Fensterwidget(Umfeld& umfeld, Fenster& fenster)
     }
 }
 
-Fensterwidget::~Fensterwidget() = default;
+Fensterwidget::~Fensterwidget() { Teile_lösen(*this); }
 
 void Fensterwidget::vormerken() {
     if (vorgemerkt_) return;
@@ -95,35 +100,6 @@ QWidget* Fensterwidget::Boden_für(const Element& element) const {
 Bauteil* Fensterwidget::bauteil(const Element& element) const {
     const auto eintrag = bauteile_.find(&element);
     return eintrag == bauteile_.end() ? nullptr : eintrag->second.get();
-}
-
-bool Fensterwidget::eigener_Grund() const {
-    for (const Fenster* f = &fenster_; f != nullptr; f = f->Elternfenster())
-        if (f->hintergrund != Farbe_Standard) return true;
-    return false;
-}
-
-QColor Fensterwidget::Grund_unter(const Element* rahmen) const {
-    for (; rahmen != nullptr; rahmen = rahmen->rahmen()) {
-        if (rahmen->hintergrund() != Farbe_Standard) return Qt_Farbe(rahmen->hintergrund());
-        const Töne ton = Töne::von(Boden_für(*rahmen)->palette());
-        if (!rahmen->beschriftung().empty()) return ton.Wert;
-        if (static_cast<const Rahmen*>(rahmen)->deckend) return ton.Grund;
-    }
-    return palette().color(QPalette::Window);
-}
-
-void Fensterwidget::Inhalt_neu_färben(const Element& rahmen) {
-    for (Element* element : fenster_.elemente())
-        for (const Element* r = element->rahmen(); r != nullptr; r = r->rahmen())
-            if (r == &rahmen) Element_merken(*element, Änderung_Aussehen);
-}
-
-void Fensterwidget::Grund_zeigen() {
-    if (grund_ == fenster_.hintergrund) return;
-    grund_ = fenster_.hintergrund;
-    setPalette(grund_ == Farbe_Standard ? QPalette() : Farbtafel_für(grund_));
-    alles_ = true;
 }
 
 void Fensterwidget::Bauteile_machen() {
@@ -175,18 +151,19 @@ bool Fensterwidget::abgleichen() {
         for (const auto& [element, änderung] : jetzt)
             if (Bauteil* teil = bauteil(*element)) teil->zeigen(änderung);
     }
-    if (neu_gereiht) {
-        QWidget* vorheriges = nullptr;
-        for (Element* element : fenster_.elemente()) {
-            const Bauteil* teil = bauteil(*element);
-            if (teil == nullptr || teil->widget() == nullptr || teil->widget()->focusPolicy() == Qt::NoFocus) continue;
-            if (vorheriges != nullptr) setTabOrder(vorheriges, teil->widget());
-            vorheriges = teil->widget();
-        }
-    }
     if (fenster_geändert_) {
         fenster_geändert_ = false;
         Fenster_zeigen();
+    }
+    jedes_Teil([&etwas](Fensterwidget& teil, const Element& platz) {
+        // The frame may have come only now.
+        if (teil.parentWidget() == nullptr) teil.fenster_geändert_ = true;
+        if (!platz.fenster().geladen()) return;
+        etwas = teil.abgleichen() || etwas;
+    });
+    if (neu_gereiht) {
+        QWidget* vorheriges = nullptr;
+        ganzes().Tabfolge(vorheriges);
     }
     if (fokus_ != nullptr && isVisible()) {
         const Bauteil* teil = bauteil(*fokus_);
@@ -201,6 +178,10 @@ bool Fensterwidget::abgleichen() {
 }
 
 void Fensterwidget::Fenster_zeigen() {
+    if (teil_) {
+        Teil_zeigen();
+        return;
+    }
     const QString titel = Anzeigetext(fenster_.titel());
     if (windowTitle() != titel) setWindowTitle(titel);
     if (const Qt::WindowFlags flaggen = Flaggen(fenster_); flaggen != flaggen_) {
@@ -229,7 +210,7 @@ void Fensterwidget::Maße_zeigen() {
 
 void Fensterwidget::Sichtbarkeit_zeigen() {
     const bool minimiert = fenster_.zustand() == Fensterzustand::minimiert;
-    if (!fenster_.sichtbar()) {
+    if (teil_ || !fenster_.sichtbar()) {
         gezeigt_ = false;
         if (umfeld_.vorderstes == &fenster_) umfeld_.vorderstes = nullptr;
         hide();
@@ -252,8 +233,7 @@ void Fensterwidget::Sichtbarkeit_zeigen() {
         show();
     }
     gezeigt_ = true;
-    const auto& reihe = umfeld_.ansicht.fenster();
-    const bool vorn = !reihe.empty() && reihe.front() == &fenster_;
+    const bool vorn = umfeld_.vorderes() == &fenster_;
     if (vorn && (neu || umfeld_.vorderstes != &fenster_) && !minimiert) {
         umfeld_.vorderstes = &fenster_;
         if (umfeld_.stapelt) raise();
@@ -280,11 +260,10 @@ bool Fensterwidget::event(QEvent* was) {
         return true;
     }
     // What the model has changed meanwhile is on the widgets before they are painted or worked.
-    if (was->type() == QEvent::UpdateRequest && vorgemerkt_) abgleichen();
-    if (was->type() == QEvent::WindowActivate && umfeld_.hört()) {
+    if (was->type() == QEvent::UpdateRequest) Vorgemerktes_zeigen();
+    if (was->type() == QEvent::WindowActivate && umfeld_.hört() && !teil_) {
         umfeld_.vorderstes = &fenster_;
-        if (fenster_.sichtbar() && umfeld_.ansicht.fenster().front() != &fenster_)
-            umfeld_.ansicht.Fenster_nach_vorn(fenster_);
+        if (fenster_.sichtbar() && umfeld_.vorderes() != &fenster_) umfeld_.ansicht.Fenster_nach_vorn(fenster_);
     }
     return QWidget::event(was);
 }
@@ -297,7 +276,7 @@ void Fensterwidget::closeEvent(QCloseEvent* was) {
 void Fensterwidget::moveEvent(QMoveEvent* was) {
     QWidget::moveEvent(was);
     // A place that the model has set meanwhile wins; so does the one it keeps while minimised.
-    if (!umfeld_.hört() || fenster_geändert_ || !isVisible() || isMinimized()) return;
+    if (teil_ || !umfeld_.hört() || fenster_geändert_ || !isVisible() || isMinimized()) return;
     const QPoint bisher(Pixel(fenster_.lage().links), Pixel(fenster_.lage().oben));
     if (pos() != bisher) umfeld_.von_Hand([this] { fenster_.von_Hand_bewegt(Twips(pos().x()), Twips(pos().y())); });
 }
@@ -305,7 +284,7 @@ void Fensterwidget::moveEvent(QMoveEvent* was) {
 void Fensterwidget::resizeEvent(QResizeEvent* was) {
     QWidget::resizeEvent(was);
     Boden_legen();
-    if (!umfeld_.hört() || fenster_geändert_ || !isVisible() || isMinimized()) return;
+    if (teil_ || !umfeld_.hört() || fenster_geändert_ || !isVisible() || isMinimized()) return;
     const QSize innen = boden_->size();
     const QSize bisher(Pixel(fenster_.lage().breite), Pixel(fenster_.lage().höhe));
     if (innen != bisher) umfeld_.von_Hand([&] { fenster_.von_Hand_bemessen(Twips(innen.width()), Twips(innen.height())); });
@@ -313,7 +292,7 @@ void Fensterwidget::resizeEvent(QResizeEvent* was) {
 
 void Fensterwidget::changeEvent(QEvent* was) {
     QWidget::changeEvent(was);
-    if (was->type() != QEvent::WindowStateChange || !umfeld_.hört() || fenster_geändert_ || !gezeigt_) return;
+    if (was->type() != QEvent::WindowStateChange || teil_ || !umfeld_.hört() || fenster_geändert_ || !gezeigt_) return;
     const auto zustand = isMinimized() ? Fensterzustand::minimiert : Fensterzustand::normal;
     if (zustand == fenster_.zustand()) return;
     umfeld_.von_Hand([this, zustand] { fenster_.von_Hand_Zustand(zustand); });
@@ -350,7 +329,7 @@ void Fensterwidget::dropEvent(QDropEvent* was) {
 }
 
 void Fensterwidget::paintEvent(QPaintEvent*) {
-    if (!fenster_.ohne_Rand) return;
+    if (teil_ || !fenster_.ohne_Rand) return;
     QPainter maler(this);
     maler.setPen(Töne::von(palette()).Linie);
     maler.drawRect(rect().adjusted(0, 0, -1, -1));

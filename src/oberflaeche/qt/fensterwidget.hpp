@@ -1,7 +1,9 @@
-// A window on the screen: menu bar on top, below it the ground that the controls lie on.
+// A window on the screen: menu bar on top, below it the ground that the controls lie on. A part of another window is a
+// child of the frame that it fills: it comes, goes and is painted with it.
 #pragma once
 
 #include <QWidget>
+#include <functional>
 #include <map>
 #include <memory>
 
@@ -33,6 +35,8 @@ public:
     bool eigener_Grund() const;
     // What is seen inside that frame, or without one in the window, where nothing lies on it.
     QColor Grund_unter(const Element* rahmen) const;
+    // Whoever takes it in dies first: it is hidden until there is a place for it again.
+    void lösen();
     // What lies in the frame gets colours anew.
     void Inhalt_neu_färben(const Element& rahmen);
 
@@ -50,8 +54,15 @@ protected:
 
 private:
     void vormerken();
+    void Vorgemerktes_zeigen();
+    bool einsetzen();
+    void Tabfolge(QWidget*& vorheriges) const;
+    Fensterwidget& ganzes();
+    void jedes_Teil(const std::function<void(Fensterwidget&, const Element& platz)>& tat) const;
     void Bauteile_machen();
     void Fenster_zeigen();
+    void Teil_zeigen();
+    void neu_färben();
     void Grund_zeigen();
     void Maße_zeigen();
     void Sichtbarkeit_zeigen();
@@ -61,6 +72,7 @@ private:
 
     Umfeld& umfeld_;
     Fenster& fenster_;
+    const bool teil_;  // of another window
     QWidget* boden_ = nullptr;
     std::unique_ptr<Menüleiste> menü_;
     std::map<const Element*, std::unique_ptr<Bauteil>> bauteile_;
@@ -72,5 +84,8 @@ private:
     bool gezeigt_ = false;
     Qt::WindowFlags flaggen_;
 };
+
+// Takes the parts of windows out of a widget that dies; who owns them is somebody else.
+void Teile_lösen(const QWidget& widget);
 
 }  // namespace tonkartei

@@ -41,6 +41,8 @@ struct Umfeld {
     // A hand may work its controls: it is enabled, and no modal window blocks it.
     bool erreichbar(const Fenster& fenster) const;
     Fensterwidget* widget(const Fenster& fenster) const;
+    // The foremost that is no part of another; null: none.
+    const Fenster* vorderes() const;
 
     std::map<const Fenster*, std::unique_ptr<Fensterwidget>> fenster;
 };
