@@ -1,22 +1,14 @@
 #include "oberflaeche/qt/bauteil.hpp"
 
 #include <QApplication>
-#include <QDrag>
-#include <QDropEvent>
 #include <QFile>
 #include <QKeyEvent>
-#include <QMimeData>
 #include <QMouseEvent>
-#include <QPixmap>
 #include <QTextDocument>
-#include <QTimer>
-#include <QUrl>
 #include <QWidget>
 
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/hand.hpp"
-#include "oberflaeche/qt/ablage.hpp"
-#include "oberflaeche/qt/farben.hpp"
 #include "oberflaeche/qt/fensterwidget.hpp"
 #include "oberflaeche/qt/stil.hpp"
 #include "oberflaeche/qt/umfeld.hpp"
@@ -59,54 +51,6 @@ void Bauteil::Aussehen_zeigen() {
     Farben_zeigen();
 }
 
-void Bauteil::Farben_zeigen() {
-    const bool eigener_Grund = element_.hintergrund() != Farbe_Standard;
-    if (malt_Grund_nicht()) widget_->setAutoFillBackground(eigener_Grund);
-    // What is not set here comes from what the control lies on.
-    QPalette farben;
-    // A frame paints its ground by itself: as a palette it would pass to everything inside. Of a drop-down list the field
-    // alone has the colour.
-    const Elementart art = element_.art();
-    if (eigener_Grund && art != Elementart::Rahmen)
-        for (const auto rolle : {QPalette::Window, QPalette::Button, QPalette::Base})
-            if (art != Elementart::Auswahl || rolle == QPalette::Button)
-                farben.setColor(rolle, Qt_Farbe(element_.hintergrund()));
-    if (fenster_.eigener_Grund())
-        lesbare_Schrift(farben);
-    else if (element_.farbe() != Farbe_Standard)
-        for (const auto rolle : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
-            farben.setColor(rolle, Qt_Farbe(element_.farbe()));
-    if (farben.resolveMask() != 0 || widget_->testAttribute(Qt::WA_SetPalette)) widget_->setPalette(farben);
-}
-
-// On a ground of the window's own, texts keep the colour that they are given as far as it can be read there.
-void Bauteil::lesbare_Schrift(QPalette& farben) const {
-    const Töne ton = Töne::von(fenster_.Boden_für(element_)->palette());
-    const QColor außen = fenster_.Grund_unter(element_.rahmen());
-    const auto grund = [&](QPalette::ColorRole rolle) {
-        const bool im_Feld = rolle == QPalette::Text && element_.art() == Elementart::Auswahl;
-        if (element_.hintergrund() != Farbe_Standard && !im_Feld) return Qt_Farbe(element_.hintergrund());
-        switch (element_.art()) {
-            case Elementart::Knopf:
-            case Elementart::Auswahl:
-            case Elementart::Eingabe:
-            case Elementart::Liste: return ton.Feld;
-            default: return außen;
-        }
-    };
-    for (const auto rolle : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text}) {
-        const QColor darunter = grund(rolle);
-        const QColor gewünscht = element_.farbe() != Farbe_Standard              ? Qt_Farbe(element_.farbe())
-                                 : ist_dunkel(darunter) == ist_dunkel(ton.Grund) ? ton.Schrift
-                                                                                 : Töne::zu(darunter).Schrift;
-        const QColor lesbar = abgesetzt(gewünscht, darunter);
-        if (lesbar == ton.Schrift) continue;
-        const bool ruht_auf_Eigenem = element_.art() != Elementart::Knopf && element_.art() != Elementart::Auswahl;
-        farben.setColor(rolle, lesbar);
-        farben.setColor(QPalette::Disabled, rolle, abgesetzt(ton.blass, ruht_auf_Eigenem ? darunter : ton.Grund));
-    }
-}
-
 void Bauteil::einordnen() {
     QWidget* eltern = fenster_.Boden_für(element_);
     if (widget_->parentWidget() != eltern) widget_->setParent(eltern);
@@ -143,6 +87,9 @@ bool Bauteil::eventFilter(QObject* wer, QEvent* was) {
         case QEvent::DragEnter:
         case QEvent::DragMove:
         case QEvent::Drop: return wer == fläche_ && Ablage(*was);
+        case QEvent::DragLeave:
+            if (wer == fläche_) umfeld_.marken.verlassen();
+            return false;
         default: return false;
     }
 }
@@ -205,45 +152,6 @@ bool Bauteil::Maus(QMouseEvent& ereignis) {
             return schluckt;
         default: return false;
     }
-}
-
-void Bauteil::ziehen() {
-    if (umfeld_.gezogen != nullptr) return;
-    umfeld_.von_Hand([this] { element_.Ziehen_beginnt(); });
-    if (element_.Ziehmarke.empty() || !umfeld_.hört()) return;
-    unten_ = false;
-    umfeld_.gezogen = &element_;
-    umfeld_.gezogen_auf = nullptr;
-    {
-        auto* zug = new QDrag(fläche_);
-        auto* daten = new QMimeData;
-        daten->setData(QString::fromLatin1(Ziehart), QByteArray::fromStdString(element_.Ziehmarke));
-        zug->setMimeData(daten);
-        zug->exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
-    }
-    // Only now, with Qt's drag over: what the drop sets off may ask and wait.
-    Element* ziel = umfeld_.gezogen_auf;
-    umfeld_.gezogen = nullptr;
-    umfeld_.gezogen_auf = nullptr;
-    if (ziel != nullptr) umfeld_.von_Hand([&] { ziel->Abgelegt(element_); });
-}
-
-bool Bauteil::Ablage(QEvent& ereignis) {
-    auto& fall = static_cast<QDropEvent&>(ereignis);
-    const bool eigenes = umfeld_.gezogen != nullptr && element_.Abgelegt.hat_Hörer() &&
-                         fall.mimeData()->hasFormat(QString::fromLatin1(Ziehart));
-    const bool dateien = umfeld_.gezogen == nullptr && element_.Dateien_abgelegt.hat_Hörer() && hat_Pfade(*fall.mimeData());
-    if (!darf() || (!eigenes && !dateien)) return false;
-    fall.acceptProposedAction();
-    if (ereignis.type() != QEvent::Drop) return true;
-    if (eigenes)
-        umfeld_.gezogen_auf = &element_;
-    else
-        // Later, so that the program from which the files come need not wait.
-        QTimer::singleShot(0, this, [this, pfade = Pfade_aus(*fall.mimeData())] {
-            umfeld_.von_Hand([&] { Hand::Dateien_ablegen(element_, pfade); });
-        });
-    return true;
 }
 
 void Bauteil::Fokus_bekommen(int grund) {

@@ -33,6 +33,9 @@ public:
     // Follows the model; bits of Änderung.
     void zeigen(unsigned änderung);
 
+    // What is dragged from elsewhere in the program can be dropped on it just now.
+    bool ist_Ziel() const { return element_.Abgelegt.hat_Hörer() && darf(); }
+
     bool eventFilter(QObject* wer, QEvent* was) override;
 
 protected:
@@ -63,6 +66,7 @@ private:
     bool Taste_gedrückt(QKeyEvent& ereignis);
     void Fokus_bekommen(int grund);
     bool Ablage(QEvent& ereignis);
+    QWidget* Zielwidget() const;
     void ziehen();
     bool darf() const;
 

@@ -74,6 +74,18 @@ void Fensterwidget::Teil_zeigen() {
     setVisible(gezeigt_);
 }
 
+std::vector<QWidget*> Fensterwidget::Ziele(const Element& quelle) {
+    std::vector<QWidget*> ziele;
+    ganzes().Ziele_sammeln(quelle, ziele);
+    return ziele;
+}
+
+void Fensterwidget::Ziele_sammeln(const Element& quelle, std::vector<QWidget*>& ziele) const {
+    for (const auto& [element, teil] : bauteile_)
+        if (element != &quelle && teil->widget() != nullptr && teil->ist_Ziel()) ziele.push_back(teil->widget());
+    jedes_Teil([&](const Fensterwidget& innen, const Element&) { innen.Ziele_sammeln(quelle, ziele); });
+}
+
 bool Fensterwidget::eigener_Grund() const {
     for (const Fenster* f = &fenster_; f != nullptr; f = f->Elternfenster())
         if (f->hintergrund != Farbe_Standard) return true;

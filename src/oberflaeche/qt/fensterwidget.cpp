@@ -316,11 +316,16 @@ void Fensterwidget::mouseMoveEvent(QMouseEvent*) {
 }
 
 void Fensterwidget::dragEnterEvent(QDragEnterEvent* was) {
-    if (darf() && umfeld_.gezogen == nullptr && fenster_.Dateien_abgelegt.hat_Hörer() && hat_Pfade(*was->mimeData()))
+    if (darf() && umfeld_.gezogen == nullptr && fenster_.Dateien_abgelegt.hat_Hörer() && hat_Pfade(*was->mimeData())) {
         was->acceptProposedAction();
+        umfeld_.marken.zeigen(*boden_);
+    }
 }
 
+void Fensterwidget::dragLeaveEvent(QDragLeaveEvent*) { umfeld_.marken.verlassen(); }
+
 void Fensterwidget::dropEvent(QDropEvent* was) {
+    umfeld_.marken.verlassen();
     if (!darf() || umfeld_.gezogen != nullptr || !fenster_.Dateien_abgelegt.hat_Hörer()) return;
     was->acceptProposedAction();
     QTimer::singleShot(0, this, [this, pfade = Pfade_aus(*was->mimeData())] {

@@ -6,6 +6,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <vector>
 
 #include "oberflaeche/qt/bauteil.hpp"
 #include "oberflaeche/qt/umfeld.hpp"
@@ -37,6 +38,8 @@ public:
     QColor Grund_unter(const Element* rahmen) const;
     // Whoever takes it in dies first: it is hidden until there is a place for it again.
     void lösen();
+    // All that a drag from there can be dropped on, in the whole window.
+    std::vector<QWidget*> Ziele(const Element& quelle);
     // What lies in the frame gets colours anew.
     void Inhalt_neu_färben(const Element& rahmen);
 
@@ -49,11 +52,13 @@ protected:
     void keyPressEvent(QKeyEvent* was) override;
     void mouseMoveEvent(QMouseEvent* was) override;
     void dragEnterEvent(QDragEnterEvent* was) override;
+    void dragLeaveEvent(QDragLeaveEvent* was) override;
     void dropEvent(QDropEvent* was) override;
     void paintEvent(QPaintEvent* was) override;
 
 private:
     void vormerken();
+    void Ziele_sammeln(const Element& quelle, std::vector<QWidget*>& ziele) const;
     void Vorgemerktes_zeigen();
     bool einsetzen();
     void Tabfolge(QWidget*& vorheriges) const;
