@@ -193,6 +193,24 @@ TEST_F(Desktop, KeysGoToHandlersFirst) {
     EXPECT_EQ(abbruch, 1);
 }
 
+TEST_F(Desktop, ALabelThatCanBeClickedIsWorkedByKeys) {
+    int klicks = 0;
+    fenster.Lied_Titel.Klick.verbinden([&] { ++klicks; });
+    fenster.Lied_Titel.beschriftung("klick mich");
+    abgleichen();
+    ansicht.fokus(fenster.Suche);
+    abgleichen();
+    auto& schrift = widget<QWidget>(fenster.Lied_Titel);
+    const QImage vorher = schrift.grab().toImage();
+    schrift.setFocus(Qt::TabFocusReason);
+    EXPECT_NE(schrift.grab().toImage(), vorher);
+    EXPECT_EQ(ansicht.fokus(), &fenster.Suche) << "to the model it is no control that takes the focus";
+    Taste_auf(schrift, Qt::Key_Return, QStringLiteral("\r"));
+    Taste_auf(schrift, Qt::Key_Space, QStringLiteral(" "));
+    EXPECT_EQ(klicks, 2);
+    EXPECT_EQ(fenster.ok, 0);
+}
+
 TEST_F(Desktop, SlidersAndCombosReportTheHandAlone) {
     int gescrollt = 0, geändert = 0, wahl = 0;
     fenster.Lautstärke.Gescrollt.verbinden([&] { ++gescrollt; });

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTextDocument>
+#include <QTimer>
 #include <QWidget>
 
 #include "oberflaeche/fenster.hpp"
@@ -156,18 +157,27 @@ bool Bauteil::Maus(QMouseEvent& ereignis) {
 
 void Bauteil::Fokus_bekommen(int grund) {
     Element* bisher = umfeld_.ansicht.fokus();
+    const bool kommt_hoch = grund == Qt::ActiveWindowFocusReason;
     // A window that comes up keeps the control that the model chose in it, whatever Qt thinks first.
-    if (grund == Qt::ActiveWindowFocusReason && bisher != nullptr && bisher != &element_ &&
-        &bisher->fenster() == &element_.fenster() && bisher->nimmt_Fokus())
+    if (kommt_hoch && bisher != nullptr && bisher != &element_ && &bisher->fenster() == &element_.fenster() &&
+        bisher->nimmt_Fokus())
         fenster_.Fokus_merken(*bisher);
-    else
+    else if (element_.nimmt_Fokus())
         umfeld_.ansicht.von_Hand_Fokus(&element_);
+    else if (kommt_hoch)
+        // A label that can be clicked has the focus on the screen only, and is never the first to get it.
+        QTimer::singleShot(0, &fenster_, [this] { fenster_.weitergeben(); });
 }
 
 bool Bauteil::Taste_gedrückt(QKeyEvent& ereignis) {
     Taste taste;
     if (!Taste_aus(ereignis, taste)) return !umfeld_.erreichbar(element_.fenster());
     if (!darf()) return true;
+    const bool auslösend = taste.art == Taste::Art::Return || (taste.art == Taste::Art::Zeichen && taste.zeichen == " ");
+    if (auslösend && !element_.nimmt_Fokus() && element_.Klick.hat_Hörer()) {
+        umfeld_.von_Hand([this] { Hand::klicken(element_); });
+        return true;
+    }
     if (taste.art == Taste::Art::Return || taste.art == Taste::Art::Escape) {
         umfeld_.von_Hand([&] { Hand::Taste_drücken(element_, taste); });
         return true;

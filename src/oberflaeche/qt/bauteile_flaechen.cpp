@@ -33,6 +33,7 @@ private:
         bild_->setAlignment(waagrecht | Qt::AlignVCenter);
         bild_->füllung = feld.hintergrund() == Farbe_Standard ? QColor() : Qt_Farbe(feld.hintergrund());
         if (feld.Klick.hat_Hörer() || feld.Doppelklick.hat_Hörer()) bild_->setCursor(Qt::PointingHandCursor);
+        bild_->setFocusPolicy(feld.Klick.hat_Hörer() ? Qt::TabFocus : Qt::NoFocus);
         QString text = Anzeigeabsätze(feld.beschriftung());
         const bool zugriff = !feld.wie_Daten && text.contains(QLatin1Char('&'));
         if (zugriff) bild_->setBuddy(Nachbar());
@@ -45,6 +46,7 @@ private:
         const auto& alle = element().fenster().elemente();
         auto i = std::find(alle.begin(), alle.end(), &element());
         for (; i != alle.end(); ++i) {
+            if ((*i)->art() == Elementart::Schrift) continue;
             const Bauteil* teil = fenster_.bauteil(**i);
             if (teil != nullptr && teil->widget() != nullptr && teil->widget()->focusPolicy() != Qt::NoFocus)
                 return teil->widget();

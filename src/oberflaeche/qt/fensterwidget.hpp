@@ -40,6 +40,8 @@ public:
     void lösen();
     // All that a drag from there can be dropped on, in the whole window.
     std::vector<QWidget*> Ziele(const Element& quelle);
+    // The focus goes to the next control.
+    void weitergeben() { focusNextChild(); }
     // What lies in the frame gets colours anew.
     void Inhalt_neu_färben(const Element& rahmen);
 

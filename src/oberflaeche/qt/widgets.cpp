@@ -66,6 +66,7 @@ void Schriftbild::paintEvent(QPaintEvent*) {
         Tafel_malen(maler, QRectF(rect()), füllung.isValid() ? füllung : ton.Wert, ton.Linie_zart, 3);
     else if (füllung.isValid())
         maler.fillRect(rect(), füllung);
+    if (hasFocus()) Tafel_malen(maler, QRectF(rect()), Qt::transparent, ton.Akzent, 3);
     const QRect platz = rect().marginsRemoved(ränder());
     int flaggen = static_cast<int>(alignment());
     if (zugriff_) flaggen |= Qt::TextShowMnemonic;
