@@ -274,28 +274,5 @@ TEST_F(Desktop, FilesFromTheFileManagerKeepTheirBytes) {
     EXPECT_EQ(pfade, (std::vector<Text>{"/m/a ä.mp3", "/m/\xff.mp3"}));
 }
 
-// While it lasts, a drag shows where it may go; cancelled, it leaves nothing behind.
-TEST_F(Desktop, ADragShowsItsTargets) {
-    fenster.Ok.Ziehmarke = "OK";
-    for (Element* ziel : {static_cast<Element*>(&fenster.Liste), static_cast<Element*>(&fenster.Suche)})
-        ziel->Abgelegt.verbinden([](Element&) {});
-    // Off-screen a drag is over as soon as it begins.
-    struct Kinderzähler : QObject {
-        int neue = 0;
-        bool eventFilter(QObject*, QEvent* was) override {
-            neue += was->type() == QEvent::ChildAdded;
-            return false;
-        }
-    } zähler;
-    for (const Element* element : fenster.elemente())
-        if (QWidget* w = ansicht.maler().Widget(*element); w != nullptr && element != &fenster.Ok)
-            w->installEventFilter(&zähler);
-    auto& knopf = widget<QWidget>(fenster.Ok);
-    Maus(knopf, QEvent::MouseButtonPress, {5, 5});
-    Maus(knopf, QEvent::MouseMove, {60, 15});
-    EXPECT_EQ(zähler.neue, 2);
-    EXPECT_TRUE(ansicht.maler().Widget(fenster)->findChildren<QWidget*>("Zielmarke").empty());
-}
-
 }  // namespace
 }  // namespace tonkartei
