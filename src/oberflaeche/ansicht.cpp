@@ -75,6 +75,7 @@ Text Ansicht::Fehlertext(const Laufzeitfehler& fehler) {
 void Ansicht::beenden() { endet_ = true; }
 
 bool Ansicht::erreichbar(const Fenster& fenster) const {
+    if (const Fenster* ganzes = fenster.Elternfenster()) return erreichbar(*ganzes);
     if (modale_.empty() || modale_.back() == &fenster) return true;
     const auto modal = std::find(gezeigt_.begin(), gezeigt_.end(), modale_.back());
     return std::find(modal, gezeigt_.end(), &fenster) != gezeigt_.end();

@@ -111,6 +111,10 @@ void Dreistufer::Startwerte_setzen() {
     wert_ = Ruhe;
 }
 
+Rahmen::~Rahmen() {
+    if (Inhalt != nullptr) Inhalt->platz_ = nullptr;
+}
+
 void Balken::wert(int neu) {
     if (wert_ == neu) return;
     wert_ = neu;

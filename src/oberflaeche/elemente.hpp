@@ -147,6 +147,7 @@ class Rahmen : public Element {
 public:
     Rahmen(Fenster& f, Text name, Text beschriftung = {}, int index = ohne_Index)
         : Element(f, Elementart::Rahmen, std::move(name), std::move(beschriftung), index) {}
+    ~Rahmen() override;
     // Drawn opaque above what lies under it.
     bool deckend = false;
     // The window that fills it as a part of this one (`Fenster::einbetten`).

@@ -13,6 +13,7 @@ Fenster::Fenster(Ansicht& ansicht, Text name, Text titel)
 }
 
 Fenster::~Fenster() {
+    if (platz_ != nullptr) platz_->Inhalt = nullptr;
     ansicht_.Fenster_vergangen(*this);
     ansicht_.Fenster_verschwindet(*this);
 }

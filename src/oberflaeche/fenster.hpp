@@ -88,6 +88,8 @@ public:
     void einbetten(Rahmen& platz);
     // The window that it is a part of; null: none.
     Fenster* Elternfenster() const noexcept;
+    // The frame that it fills there; null: none.
+    const Rahmen* Platz() const noexcept { return platz_; }
 
     // Default and cancel button: Return and Escape, where the control itself does not use them.
     Element* Vorgabeknopf = nullptr;
@@ -121,6 +123,7 @@ protected:
 private:
     friend class Element;
     friend class Ansicht;
+    friend class Rahmen;
     void Eingebettete_anordnen();
 
     Ansicht& ansicht_;

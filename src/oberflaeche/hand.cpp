@@ -37,7 +37,7 @@ bool Wahl_verschieben(Element& element, int schritt) {
     }
     if (element.art() == Elementart::Regler) {
         auto& regler = static_cast<Regler&>(element);
-        schieben(regler, regler.wert() - schritt);
+        schieben(regler, regler.wert() - (regler.umgekehrt ? -schritt : schritt));
         return true;
     }
     if (element.art() == Elementart::Dreistufer) {

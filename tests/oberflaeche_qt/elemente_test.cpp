@@ -193,6 +193,24 @@ TEST_F(Desktop, KeysGoToHandlersFirst) {
     EXPECT_EQ(abbruch, 1);
 }
 
+TEST_F(Desktop, ALabelThatCanBeClickedIsWorkedByKeys) {
+    int klicks = 0;
+    fenster.Lied_Titel.Klick.verbinden([&] { ++klicks; });
+    fenster.Lied_Titel.beschriftung("klick mich");
+    abgleichen();
+    ansicht.fokus(fenster.Suche);
+    abgleichen();
+    auto& schrift = widget<QWidget>(fenster.Lied_Titel);
+    const QImage vorher = schrift.grab().toImage();
+    schrift.setFocus(Qt::TabFocusReason);
+    EXPECT_NE(schrift.grab().toImage(), vorher);
+    EXPECT_EQ(ansicht.fokus(), &fenster.Suche) << "to the model it is no control that takes the focus";
+    Taste_auf(schrift, Qt::Key_Return, QStringLiteral("\r"));
+    Taste_auf(schrift, Qt::Key_Space, QStringLiteral(" "));
+    EXPECT_EQ(klicks, 2);
+    EXPECT_EQ(fenster.ok, 0);
+}
+
 TEST_F(Desktop, SlidersAndCombosReportTheHandAlone) {
     int gescrollt = 0, geändert = 0, wahl = 0;
     fenster.Lautstärke.Gescrollt.verbinden([&] { ++gescrollt; });
@@ -241,8 +259,16 @@ TEST_F(Desktop, FilesFromTheFileManagerKeepTheirBytes) {
     QDragEnterEvent kommt(QPoint(5, 5), Qt::CopyAction, &daten, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(ziel, &kommt);
     EXPECT_TRUE(kommt.isAccepted());
+    const auto marken = [&] { return ansicht.maler().Widget(fenster)->findChildren<QWidget*>("Zielmarke"); };
+    ASSERT_EQ(marken().size(), 1);
+    EXPECT_EQ(marken().constFirst()->parentWidget(), ansicht.maler().Widget(fenster.Liste));
+    QDragLeaveEvent geht;
+    QApplication::sendEvent(ziel, &geht);
+    EXPECT_TRUE(marken().empty());
+    QApplication::sendEvent(ziel, &kommt);
     QDropEvent fall(QPointF(5, 5), Qt::CopyAction, &daten, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(ziel, &fall);
+    EXPECT_TRUE(marken().empty());
     EXPECT_TRUE(pfade.empty()) << "the other program is let go first";
     ansicht.Ereignisse_laufen_lassen();
     EXPECT_EQ(pfade, (std::vector<Text>{"/m/a ä.mp3", "/m/\xff.mp3"}));

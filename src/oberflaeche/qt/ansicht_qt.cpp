@@ -97,7 +97,7 @@ struct Ansicht_Qt::Innen {
             QWidget* widget = maler.Widget(*fenster);
             if (fenster->sichtbar() && fenster->zustand() == Fensterzustand::normal && widget != nullptr &&
                 widget->isVisible())
-                return widget;
+                return widget->window();
         }
         return nullptr;
     }

@@ -1,21 +1,15 @@
 #include "oberflaeche/qt/bauteil.hpp"
 
 #include <QApplication>
-#include <QDrag>
-#include <QDropEvent>
 #include <QFile>
 #include <QKeyEvent>
-#include <QMimeData>
 #include <QMouseEvent>
-#include <QPixmap>
 #include <QTextDocument>
 #include <QTimer>
-#include <QUrl>
 #include <QWidget>
 
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/hand.hpp"
-#include "oberflaeche/qt/ablage.hpp"
 #include "oberflaeche/qt/fensterwidget.hpp"
 #include "oberflaeche/qt/stil.hpp"
 #include "oberflaeche/qt/umfeld.hpp"
@@ -41,6 +35,8 @@ void Bauteil::aufnehmen(QWidget* widget, QWidget* fläche) {
 }
 
 void Bauteil::zeigen(unsigned änderung) {
+    // First, since its colours depend on where it lies.
+    if (widget_ != nullptr && (änderung & Änderung_Lage) != 0) einordnen();
     if ((änderung & Änderung_Zeilen) != 0) Zeilen_zeigen();
     if ((änderung & Änderung_Aussehen) != 0) Aussehen_zeigen();
     if ((änderung & Änderung_Lage) != 0) Lage_zeigen();
@@ -56,39 +52,14 @@ void Bauteil::Aussehen_zeigen() {
     Farben_zeigen();
 }
 
-void Bauteil::Farben_zeigen() {
-    if (malt_Grund_nicht()) widget_->setAutoFillBackground(element_.hintergrund() != Farbe_Standard);
-    if (element_.farbe() == Farbe_Standard && element_.hintergrund() == Farbe_Standard) {
-        if (widget_->testAttribute(Qt::WA_SetPalette)) widget_->setPalette(QPalette());
-        return;
-    }
-    QPalette farben = fenster_.palette();
-    if (element_.farbe() != Farbe_Standard)
-        for (const auto rolle : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
-            farben.setColor(rolle, Qt_Farbe(element_.farbe()));
-    // A frame paints its ground by itself: as a palette it would pass to everything inside. Of a drop-down list the field
-    // alone has the colour.
-    const Elementart art = element_.art();
-    if (element_.hintergrund() != Farbe_Standard && art != Elementart::Rahmen)
-        for (const auto rolle : {QPalette::Window, QPalette::Button, QPalette::Base})
-            if (art != Elementart::Auswahl || rolle == QPalette::Button)
-                farben.setColor(rolle, Qt_Farbe(element_.hintergrund()));
-    widget_->setPalette(farben);
+void Bauteil::einordnen() {
+    QWidget* eltern = fenster_.Boden_für(element_);
+    if (widget_->parentWidget() != eltern) widget_->setParent(eltern);
 }
 
 void Bauteil::Lage_zeigen() {
-    QWidget* eltern = fenster_.Boden_für(element_);
-    if (widget_->parentWidget() != eltern) widget_->setParent(eltern);
     widget_->setGeometry(Pixel(element_.lage()));
     widget_->setVisible(element_.sichtbar());
-}
-
-// A frame that takes drops stands for all that is in it.
-Element& Bauteil::Ablageziel(Element& element) {
-    Element* ziel = &element;
-    for (Element* rahmen = element.rahmen(); rahmen != nullptr; rahmen = rahmen->rahmen())
-        if (rahmen->nimmt_Ablage()) ziel = rahmen;
-    return *ziel;
 }
 
 bool Bauteil::darf() const { return umfeld_.hört() && element_.bedienbar() && umfeld_.erreichbar(element_.fenster()); }
@@ -114,10 +85,12 @@ bool Bauteil::eventFilter(QObject* wer, QEvent* was) {
         case QEvent::FocusIn:
             if (wer == widget_ && umfeld_.hört()) Fokus_bekommen(static_cast<QFocusEvent&>(*was).reason());
             return false;
-        case QEvent::DragLeave: Zielrahmen_.reset(); return false;
         case QEvent::DragEnter:
         case QEvent::DragMove:
         case QEvent::Drop: return wer == fläche_ && Ablage(*was);
+        case QEvent::DragLeave:
+            if (wer == fläche_) umfeld_.marken.verlassen();
+            return false;
         default: return false;
     }
 }
@@ -182,76 +155,29 @@ bool Bauteil::Maus(QMouseEvent& ereignis) {
     }
 }
 
-void Bauteil::ziehen() {
-    if (umfeld_.gezogen != nullptr) return;
-    umfeld_.von_Hand([this] { element_.Ziehen_beginnt(); });
-    if (element_.Ziehmarke.empty() || !umfeld_.hört()) return;
-    unten_ = false;
-    umfeld_.gezogen = &element_;
-    umfeld_.gezogen_auf = nullptr;
-    {
-        const auto hinweise = Ziele_zeigen();
-        auto* zug = new QDrag(fläche_);
-        auto* daten = new QMimeData;
-        daten->setData(QString::fromLatin1(Ziehart), QByteArray::fromStdString(element_.Ziehmarke));
-        zug->setMimeData(daten);
-        zug->exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
-    }
-    // Only now, with Qt's drag over: what the drop sets off may ask and wait.
-    Element* ziel = umfeld_.gezogen_auf;
-    umfeld_.gezogen = nullptr;
-    umfeld_.gezogen_auf = nullptr;
-    if (ziel != nullptr) umfeld_.von_Hand([&] { ziel->Abgelegt(element_); });
-}
-
-// Where a drag could end, in all windows, as long as the marks are kept.
-std::vector<std::unique_ptr<QWidget>> Bauteil::Ziele_zeigen() const {
-    std::vector<std::unique_ptr<QWidget>> rahmen;
-    for (const auto& [fenster, widget] : umfeld_.fenster) {
-        if (!widget || !widget->isVisible() || !umfeld_.erreichbar(*fenster)) continue;
-        for (Element* ziel : fenster->elemente())
-            if (ziel != &element_ && ziel->Abgelegt.hat_Hörer() && ziel->bedienbar() && &Ablageziel(*ziel) == ziel)
-                rahmen.push_back(widget->Zielrahmen_um(*ziel, false));
-    }
-    return rahmen;
-}
-
-bool Bauteil::Ablage(QEvent& ereignis) {
-    auto& fall = static_cast<QDropEvent&>(ereignis);
-    const bool eigenes = umfeld_.gezogen != nullptr && element_.Abgelegt.hat_Hörer() &&
-                         fall.mimeData()->hasFormat(QString::fromLatin1(Ziehart));
-    const bool dateien = umfeld_.gezogen == nullptr && element_.Dateien_abgelegt.hat_Hörer() && hat_Pfade(*fall.mimeData());
-    if (!darf() || (!eigenes && !dateien)) return false;
-    fall.acceptProposedAction();
-    if (ereignis.type() != QEvent::Drop) {
-        if (!Zielrahmen_) Zielrahmen_ = fenster_.Zielrahmen_um(Ablageziel(element_), true);
-        return true;
-    }
-    Zielrahmen_.reset();
-    if (eigenes)
-        umfeld_.gezogen_auf = &element_;
-    else
-        // Later, so that the program from which the files come need not wait.
-        QTimer::singleShot(0, this, [this, pfade = Pfade_aus(*fall.mimeData())] {
-            umfeld_.von_Hand([&] { Hand::Dateien_ablegen(element_, pfade); });
-        });
-    return true;
-}
-
 void Bauteil::Fokus_bekommen(int grund) {
     Element* bisher = umfeld_.ansicht.fokus();
+    const bool kommt_hoch = grund == Qt::ActiveWindowFocusReason;
     // A window that comes up keeps the control that the model chose in it, whatever Qt thinks first.
-    if (grund == Qt::ActiveWindowFocusReason && bisher != nullptr && bisher != &element_ &&
-        &bisher->fenster() == &element_.fenster() && bisher->nimmt_Fokus())
+    if (kommt_hoch && bisher != nullptr && bisher != &element_ && &bisher->fenster() == &element_.fenster() &&
+        bisher->nimmt_Fokus())
         fenster_.Fokus_merken(*bisher);
-    else
+    else if (element_.nimmt_Fokus())
         umfeld_.ansicht.von_Hand_Fokus(&element_);
+    else if (kommt_hoch)
+        // A label that can be clicked has the focus on the screen only, and is never the first to get it.
+        QTimer::singleShot(0, &fenster_, [this] { fenster_.weitergeben(); });
 }
 
 bool Bauteil::Taste_gedrückt(QKeyEvent& ereignis) {
     Taste taste;
     if (!Taste_aus(ereignis, taste)) return !umfeld_.erreichbar(element_.fenster());
     if (!darf()) return true;
+    const bool auslösend = taste.art == Taste::Art::Return || (taste.art == Taste::Art::Zeichen && taste.zeichen == " ");
+    if (auslösend && !element_.nimmt_Fokus() && element_.Klick.hat_Hörer()) {
+        umfeld_.von_Hand([this] { Hand::klicken(element_); });
+        return true;
+    }
     if (taste.art == Taste::Art::Return || taste.art == Taste::Art::Escape) {
         umfeld_.von_Hand([&] { Hand::Taste_drücken(element_, taste); });
         return true;

@@ -6,7 +6,6 @@
 #include <QPointer>
 #include <QWidget>
 #include <memory>
-#include <vector>
 
 #include "oberflaeche/element.hpp"
 
@@ -34,6 +33,9 @@ public:
     // Follows the model; bits of Änderung.
     void zeigen(unsigned änderung);
 
+    // What is dragged from elsewhere in the program can be dropped on it just now.
+    bool ist_Ziel() const { return element_.Abgelegt.hat_Hörer() && darf(); }
+
     bool eventFilter(QObject* wer, QEvent* was) override;
 
 protected:
@@ -52,26 +54,26 @@ protected:
     virtual bool klickt_selbst() const { return false; }
     // The left button went down there.
     virtual void gedrückt(QPoint) {}
-    void Farben_zeigen();
+    virtual void Farben_zeigen();
 
     Umfeld& umfeld_;
     Fensterwidget& fenster_;
 
 private:
+    void einordnen();
+    void lesbare_Schrift(QPalette& farben) const;
     bool Maus(QMouseEvent& ereignis);
     bool Taste_gedrückt(QKeyEvent& ereignis);
     void Fokus_bekommen(int grund);
     bool Ablage(QEvent& ereignis);
+    QWidget* Zielwidget() const;
     void ziehen();
-    std::vector<std::unique_ptr<QWidget>> Ziele_zeigen() const;
-    static Element& Ablageziel(Element& element);
     bool darf() const;
 
     Element& element_;
     QPointer<QWidget> widget_;
     QPointer<QWidget> fläche_;
     QPoint druckpunkt_;
-    std::unique_ptr<QWidget> Zielrahmen_;  // while something is dragged over it that it takes
     bool unten_ = false;
 };
 

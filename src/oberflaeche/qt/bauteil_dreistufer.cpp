@@ -9,31 +9,26 @@
 #include "oberflaeche/hand.hpp"
 #include "oberflaeche/qt/bauteile.hpp"
 #include "oberflaeche/qt/bilder.hpp"
+#include "oberflaeche/qt/farben.hpp"
 #include "oberflaeche/qt/fensterwidget.hpp"
-#include "oberflaeche/qt/toene.hpp"
 
 namespace tonkartei {
 namespace {
 
 class Stufenwidget : public QWidget {
 public:
-    Stufenwidget() : auf(Pfeil("auf")), ab(Pfeil("ab")) {
+    Stufenwidget() : auf(Pfeil()), ab(Pfeil()) {
         setFocusPolicy(Qt::StrongFocus);
         auto* zeile = new QHBoxLayout(this);
         zeile->setContentsMargins(2, 2, 2, 2);
         zeile->setSpacing(2);
         zeile->addWidget(auf);
         zeile->addWidget(ab);
+        Pfeile_färben();
     }
     QToolButton *auf, *ab;
 
 protected:
-    void changeEvent(QEvent* was) override {
-        QWidget::changeEvent(was);
-        if (was->type() != QEvent::PaletteChange) return;
-        bemalen(*auf, "auf");
-        bemalen(*ab, "ab");
-    }
     void keyPressEvent(QKeyEvent* was) override {
         if (was->key() == Qt::Key_Up)
             auf->click();
@@ -50,14 +45,19 @@ protected:
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &rand, &maler, this);
     }
 
-private:
-    void bemalen(QToolButton& knopf, const char* bild) {
-        const Töne t = Töne::von(palette());
-        knopf.setIcon(Bildsymbol(bild, t.Schrift, t.Linie));
+    void changeEvent(QEvent* was) override {
+        if (was->type() == QEvent::PaletteChange) Pfeile_färben();
+        QWidget::changeEvent(was);
     }
-    QToolButton* Pfeil(const char* bild) {
+
+private:
+    void Pfeile_färben() {
+        const Töne ton = Töne::von(palette());
+        auf->setIcon(Bildsymbol("auf", ton.Schrift, ton.Linie));
+        ab->setIcon(Bildsymbol("ab", ton.Schrift, ton.Linie));
+    }
+    static QToolButton* Pfeil() {
         auto* knopf = new QToolButton;
-        bemalen(*knopf, bild);
         knopf->setIconSize(QSize(16, 16));
         knopf->setFocusPolicy(Qt::NoFocus);
         knopf->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

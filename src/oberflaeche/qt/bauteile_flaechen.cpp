@@ -5,6 +5,7 @@
 #include "oberflaeche/elemente.hpp"
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/qt/bauteile.hpp"
+#include "oberflaeche/qt/farben.hpp"
 #include "oberflaeche/qt/fensterwidget.hpp"
 #include "oberflaeche/qt/umrechnung.hpp"
 #include "oberflaeche/qt/widgets.hpp"
@@ -32,6 +33,7 @@ private:
         bild_->setAlignment(waagrecht | Qt::AlignVCenter);
         bild_->füllung = feld.hintergrund() == Farbe_Standard ? QColor() : Qt_Farbe(feld.hintergrund());
         if (feld.Klick.hat_Hörer() || feld.Doppelklick.hat_Hörer()) bild_->setCursor(Qt::PointingHandCursor);
+        bild_->setFocusPolicy(feld.Klick.hat_Hörer() ? Qt::TabFocus : Qt::NoFocus);
         QString text = Anzeigeabsätze(feld.beschriftung());
         const bool zugriff = !feld.wie_Daten && text.contains(QLatin1Char('&'));
         if (zugriff) bild_->setBuddy(Nachbar());
@@ -44,6 +46,7 @@ private:
         const auto& alle = element().fenster().elemente();
         auto i = std::find(alle.begin(), alle.end(), &element());
         for (; i != alle.end(); ++i) {
+            if ((*i)->art() == Elementart::Schrift) continue;
             const Bauteil* teil = fenster_.bauteil(**i);
             if (teil != nullptr && teil->widget() != nullptr && teil->widget()->focusPolicy() != Qt::NoFocus)
                 return teil->widget();
@@ -61,6 +64,9 @@ public:
         bild_->deckend = rahmen.deckend;
         aufnehmen(bild_);
     }
+    ~Rahmen_Bauteil() override {
+        if (widget() != nullptr) Teile_lösen(*bild_);
+    }
 
 private:
     void Aussehen_zeigen() override {
@@ -69,12 +75,32 @@ private:
         bild_->setTitle(Anzeigetext(element().beschriftung()));
         bild_->update();
     }
+    // In a window with a ground of its own, what lies in a coloured frame goes along with the frame.
+    void Farben_zeigen() override {
+        const bool innen_anders = fenster_.eigener_Grund() && element().hintergrund() != Farbe_Standard;
+        if (!fenster_.eigener_Grund()) {
+            Bauteil::Farben_zeigen();
+        } else {
+            const QColor außen = fenster_.Grund_unter(element().rahmen());
+            const QColor schrift = element().farbe() == Farbe_Standard
+                                       ? Töne::von(fenster_.Boden_für(element())->palette()).Schrift
+                                       : Qt_Farbe(element().farbe());
+            bild_->titelfarbe = abgesetzt(schrift, außen);
+            bild_->umgebung = außen;
+            bild_->setPalette(innen_anders ? Farbtafel_für(element().hintergrund()) : QPalette());
+        }
+        if (const Farbe grund = innen_anders ? element().hintergrund() : Farbe_Standard; grund != innen_) {
+            innen_ = grund;
+            fenster_.Inhalt_neu_färben(element());
+        }
+    }
     void Lage_zeigen() override {
         Bauteil::Lage_zeigen();
         if (bild_->deckend) bild_->raise();
     }
 
     Rahmenbild* bild_;
+    Farbe innen_ = Farbe_Standard;
 };
 
 class Flächen_Bauteil : public Bauteil {

@@ -10,8 +10,8 @@
 #include "oberflaeche/hand.hpp"
 #include "oberflaeche/qt/bauteile.hpp"
 #include "oberflaeche/qt/bilder.hpp"
+#include "oberflaeche/qt/farben.hpp"
 #include "oberflaeche/qt/fensterwidget.hpp"
-#include "oberflaeche/qt/toene.hpp"
 #include "oberflaeche/qt/umrechnung.hpp"
 #include "oberflaeche/qt/widgets.hpp"
 
@@ -80,19 +80,20 @@ private:
         Knopfartiges::Aussehen_zeigen();
         const auto& knopf = static_cast<const Knopf&>(element());
         if (auto* w = qobject_cast<QPushButton*>(knopf_)) w->setDefault(knopf.fenster().Vorgabeknopf == &knopf);
-        const Töne t = Töne::von(fenster_.palette());
-        const QColor farbe = knopf.farbe() == Farbe_Standard ? t.Schrift : Qt_Farbe(knopf.farbe());
-        if (!knopf.Bild.empty()) knopf_->setText(QString());
-        if (bild_ == knopf.Bild && bildfarbe_ == farbe) return;
+        const QColor farbe = knopf_->palette().color(QPalette::Active, QPalette::ButtonText);
+        const QColor blass = Töne::von(knopf_->palette()).Linie;
+        if (bild_ == knopf.Bild && bildfarbe_ == farbe && blass_ == blass) return;
         bild_ = knopf.Bild;
         bildfarbe_ = farbe;
-        const QIcon bild = bild_.empty() ? QIcon() : Bildsymbol(bild_, farbe, t.Linie);
+        blass_ = blass;
+        const QIcon bild = bild_.empty() ? QIcon() : Bildsymbol(bild_, farbe, blass);
         knopf_->setIcon(bild);
         knopf_->setIconSize(QSize(16, 16));
+        if (!bild.isNull()) knopf_->setText(QString());
     }
 
     Text bild_;
-    QColor bildfarbe_;
+    QColor bildfarbe_, blass_;
 };
 
 class Kasten_Bauteil : public Knopfartiges {

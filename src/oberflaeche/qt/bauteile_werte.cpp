@@ -2,7 +2,6 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QScrollBar>
-#include <QSlider>
 #include <algorithm>
 #include <functional>
 
@@ -10,8 +9,8 @@
 #include "oberflaeche/hand.hpp"
 #include "oberflaeche/qt/bauteile.hpp"
 #include "oberflaeche/qt/fensterwidget.hpp"
+#include "oberflaeche/qt/schieberbild.hpp"
 #include "oberflaeche/qt/umrechnung.hpp"
-#include "oberflaeche/qt/widgets.hpp"
 
 namespace tonkartei {
 namespace {
@@ -81,25 +80,29 @@ private:
     static QAbstractSlider* Widget(const Regler& regler) {
         const auto richtung = regler.senkrecht ? Qt::Vertical : Qt::Horizontal;
         if (regler.form() == Regler::Form::Schieber) {
-            auto* schieber = new Schieberbild(richtung);
-            schieber->griffig = regler.griffig;
-            // Qt lets upright sliders grow upward, which is our usual way as well.
-            schieber->setInvertedAppearance(regler.umgekehrt);
-            schieber->setInvertedControls(regler.umgekehrt);
-            return schieber;
+            auto* w = new Schieberbild(richtung);
+            w->griffig = regler.griffig;
+            Richtung_setzen(*w, regler);
+            return w;
         }
         auto* w = new Bildlaufleiste(richtung);
         w->setFocusPolicy(Qt::StrongFocus);
+        Richtung_setzen(*w, regler);
         return w;
     }
-    void Aussehen_zeigen() override {
-        Bauteil::Aussehen_zeigen();
-        auto* schieber = dynamic_cast<Schieberbild*>(schieber_);
-        if (schieber == nullptr) return;
-        const auto eigene = [](Farbe farbe) { return farbe == Farbe_Standard ? QColor() : Qt_Farbe(farbe); };
-        schieber->farben = {eigene(element().hintergrund()), eigene(element().farbe())};
-        schieber->setAutoFillBackground(false);
-        schieber->update();
+    // Keys and wheel move it where they point.
+    static void Richtung_setzen(QAbstractSlider& w, const Regler& regler) {
+        w.setInvertedAppearance(regler.umgekehrt);
+        w.setInvertedControls(regler.umgekehrt);
+    }
+    void Farben_zeigen() override {
+        Bauteil::Farben_zeigen();
+        auto* bild = dynamic_cast<Schieberbild*>(schieber_);
+        if (bild == nullptr) return;
+        const auto farbe = [](Farbe eine) { return eine == Farbe_Standard ? QColor() : Qt_Farbe(eine); };
+        bild->rinne = farbe(element().hintergrund());
+        bild->füllung = farbe(element().farbe());
+        bild->update();
     }
     void Wert_zeigen() override {
         const auto& regler = static_cast<const Regler&>(element());
@@ -107,7 +110,7 @@ private:
         schieber_->setPageStep(std::max(1, (regler.max() - regler.min()) / 10));
         schieber_->setValue(regler.wert());
     }
-    bool malt_Grund_nicht() const override { return true; }
+    bool malt_Grund_nicht() const override { return static_cast<const Regler&>(element()).form() == Regler::Form::Bildlauf; }
     // Its value is its own doing; only press and release are watched.
     bool klickt_selbst() const override { return true; }
 

@@ -61,8 +61,9 @@ void Fenstermaler_Qt::Fenster_malen(Fenster& fenster) {
     Fensterwidget* widget = innen_->umfeld.widget(fenster);
     if (widget == nullptr) return;
     widget->abgleichen();
-    if (!widget->isVisible() || widget->isMinimized()) return;
-    const QWindow* fläche = widget->windowHandle();
+    const QWidget* ganzes = widget->window();
+    if (!widget->isVisible() || ganzes->isMinimized()) return;
+    const QWindow* fläche = ganzes->windowHandle();
     if (fläche != nullptr && !fläche->isExposed()) {
         QElapsedTimer uhr;
         uhr.start();

@@ -12,11 +12,12 @@
 #include <algorithm>
 #include <set>
 
+#include "oberflaeche/elemente.hpp"
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/hand.hpp"
 #include "oberflaeche/qt/ablage.hpp"
+#include "oberflaeche/qt/farben.hpp"
 #include "oberflaeche/qt/menueleiste.hpp"
-#include "oberflaeche/qt/toene.hpp"
 #include "oberflaeche/qt/umrechnung.hpp"
 
 namespace tonkartei {
@@ -31,6 +32,7 @@ QEvent::Type Abgleich() {
 }
 
 Qt::WindowFlags Flaggen(const Fenster& fenster) {
+    if (fenster.Elternfenster() != nullptr) return Qt::Widget;
     Qt::WindowFlags f = Qt::Window;
     if (fenster.ohne_Rand) return f | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint;
     f |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
@@ -40,38 +42,19 @@ Qt::WindowFlags Flaggen(const Fenster& fenster) {
     return f;
 }
 
-// Lies above what it marks and lets everything through.
-class Zielrahmen : public QWidget {
-public:
-    Zielrahmen(QWidget* boden, const QRect& platz, bool stark) : QWidget(boden), stark_(stark) {
-        setAttribute(Qt::WA_TransparentForMouseEvents);
-        setGeometry(platz.adjusted(-2, -2, 2, 2));
-        show();
-        raise();
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter maler(this);
-        maler.setRenderHint(QPainter::Antialiasing);
-        maler.setPen(QPen(palette().color(QPalette::Highlight), stark_ ? 3 : 1.5, stark_ ? Qt::SolidLine : Qt::DashLine));
-        maler.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), 5, 5);
-    }
-
-private:
-    bool stark_;
-};
-
 // Up, so that nothing is cut off.
 int aufgerundet(int twips) { return (twips + Twips_je_Pixel - 1) / Twips_je_Pixel; }
 
 }  // namespace
 
 Fensterwidget::Fensterwidget(Umfeld& umfeld, Fenster& fenster)
-    : umfeld_(umfeld), fenster_(fenster), boden_(new QWidget(this)), flaggen_(Flaggen(fenster)) {
+    : umfeld_(umfeld),
+      fenster_(fenster),
+      teil_(fenster.Elternfenster() != nullptr),
+      boden_(new QWidget(this)),
+      flaggen_(Flaggen(fenster)) {
     setWindowFlags(flaggen_);
     setObjectName(Anzeigetext(fenster.Name()));
-    if (fenster_.hintergrund != Farbe_Standard) setPalette(Farbtafel(Töne::für(Qt_Farbe(fenster_.hintergrund))));
     setAcceptDrops(true);
     setMouseTracking(true);
     boden_->setMouseTracking(true);
@@ -81,19 +64,7 @@ Fensterwidget::Fensterwidget(Umfeld& umfeld, Fenster& fenster)
     }
 }
 
-Fensterwidget::~Fensterwidget() {
-    // Windows that are parts of this one have an owner of their own.
-    const auto kinder = boden_->children();
-    for (QObject* kind : kinder)
-        if (auto* teil = dynamic_cast<Fensterwidget*>(kind)) teil->setParent(nullptr);
-}
-
-std::unique_ptr<QWidget> Fensterwidget::Zielrahmen_um(const Element& element, bool stark) const {
-    const Bauteil* teil = bauteil(element);
-    if (teil == nullptr || teil->widget() == nullptr) return nullptr;
-    const QRect platz(teil->widget()->mapTo(boden_, QPoint(0, 0)), teil->widget()->size());
-    return std::make_unique<Zielrahmen>(boden_, platz, stark);
-}
+Fensterwidget::~Fensterwidget() { Teile_lösen(*this); }
 
 void Fensterwidget::vormerken() {
     if (vorgemerkt_) return;
@@ -159,6 +130,7 @@ bool Fensterwidget::abgleichen() {
         return false;
     }
     gleicht_ab_ = true;
+    Grund_zeigen();
     bool etwas = fenster_geändert_ || menü_geändert_ || alles_ || !geänderte_.empty();
     Bauteile_machen();
     if (menü_ && (menü_geändert_ || alles_)) menü_->zeigen();
@@ -179,18 +151,19 @@ bool Fensterwidget::abgleichen() {
         for (const auto& [element, änderung] : jetzt)
             if (Bauteil* teil = bauteil(*element)) teil->zeigen(änderung);
     }
-    if (neu_gereiht) {
-        QWidget* vorheriges = nullptr;
-        for (Element* element : fenster_.elemente()) {
-            const Bauteil* teil = bauteil(*element);
-            if (teil == nullptr || teil->widget() == nullptr || teil->widget()->focusPolicy() == Qt::NoFocus) continue;
-            if (vorheriges != nullptr) setTabOrder(vorheriges, teil->widget());
-            vorheriges = teil->widget();
-        }
-    }
     if (fenster_geändert_) {
         fenster_geändert_ = false;
         Fenster_zeigen();
+    }
+    jedes_Teil([&etwas](Fensterwidget& teil, const Element& platz) {
+        // The frame may have come only now.
+        if (teil.parentWidget() == nullptr) teil.fenster_geändert_ = true;
+        if (!platz.fenster().geladen()) return;
+        etwas = teil.abgleichen() || etwas;
+    });
+    if (neu_gereiht) {
+        QWidget* vorheriges = nullptr;
+        ganzes().Tabfolge(vorheriges);
     }
     if (fokus_ != nullptr && isVisible()) {
         const Bauteil* teil = bauteil(*fokus_);
@@ -205,30 +178,18 @@ bool Fensterwidget::abgleichen() {
 }
 
 void Fensterwidget::Fenster_zeigen() {
+    if (teil_) {
+        Teil_zeigen();
+        return;
+    }
     const QString titel = Anzeigetext(fenster_.titel());
     if (windowTitle() != titel) setWindowTitle(titel);
-    if (Teil_zeigen()) return;
     if (const Qt::WindowFlags flaggen = Flaggen(fenster_); flaggen != flaggen_) {
         flaggen_ = flaggen;
         setWindowFlags(flaggen);  // hides it; shown again below
     }
     Maße_zeigen();
     Sichtbarkeit_zeigen();
-}
-
-// A part of another window lies on its ground, and has neither place nor order of its own.
-bool Fensterwidget::Teil_zeigen() {
-    const Fenster* ganzes = fenster_.Elternfenster();
-    if (ganzes == nullptr) return false;
-    Fensterwidget* eltern = umfeld_.widget(*ganzes);
-    if (eltern == nullptr) return true;
-    if (parentWidget() != eltern->boden_) setParent(eltern->boden_, Qt::Widget);
-    setAutoFillBackground(true);
-    setGeometry(Pixel(fenster_.lage()));
-    Boden_legen();
-    setVisible(fenster_.sichtbar());
-    raise();
-    return true;
 }
 
 void Fensterwidget::Maße_zeigen() {
@@ -248,9 +209,8 @@ void Fensterwidget::Maße_zeigen() {
 }
 
 void Fensterwidget::Sichtbarkeit_zeigen() {
-    if (fenster_.Elternfenster() != nullptr) return setVisible(fenster_.sichtbar());
     const bool minimiert = fenster_.zustand() == Fensterzustand::minimiert;
-    if (!fenster_.sichtbar()) {
+    if (teil_ || !fenster_.sichtbar()) {
         gezeigt_ = false;
         if (umfeld_.vorderstes == &fenster_) umfeld_.vorderstes = nullptr;
         hide();
@@ -273,8 +233,7 @@ void Fensterwidget::Sichtbarkeit_zeigen() {
         show();
     }
     gezeigt_ = true;
-    const auto& reihe = umfeld_.ansicht.fenster();
-    const bool vorn = !reihe.empty() && (reihe.front() == &fenster_ || reihe.front()->Elternfenster() == &fenster_);
+    const bool vorn = umfeld_.vorderes() == &fenster_;
     if (vorn && (neu || umfeld_.vorderstes != &fenster_) && !minimiert) {
         umfeld_.vorderstes = &fenster_;
         if (umfeld_.stapelt) raise();
@@ -301,12 +260,10 @@ bool Fensterwidget::event(QEvent* was) {
         return true;
     }
     // What the model has changed meanwhile is on the widgets before they are painted or worked.
-    if (was->type() == QEvent::UpdateRequest && vorgemerkt_) abgleichen();
-    if (was->type() == QEvent::WindowActivate && umfeld_.hört() && fenster_.Elternfenster() == nullptr) {
+    if (was->type() == QEvent::UpdateRequest) Vorgemerktes_zeigen();
+    if (was->type() == QEvent::WindowActivate && umfeld_.hört() && !teil_) {
         umfeld_.vorderstes = &fenster_;
-        const Fenster* vorderes = umfeld_.ansicht.fenster().empty() ? nullptr : umfeld_.ansicht.fenster().front();
-        if (fenster_.sichtbar() && vorderes != &fenster_ && (vorderes == nullptr || vorderes->Elternfenster() != &fenster_))
-            umfeld_.ansicht.Fenster_nach_vorn(fenster_);
+        if (fenster_.sichtbar() && umfeld_.vorderes() != &fenster_) umfeld_.ansicht.Fenster_nach_vorn(fenster_);
     }
     return QWidget::event(was);
 }
@@ -319,8 +276,7 @@ void Fensterwidget::closeEvent(QCloseEvent* was) {
 void Fensterwidget::moveEvent(QMoveEvent* was) {
     QWidget::moveEvent(was);
     // A place that the model has set meanwhile wins; so does the one it keeps while minimised.
-    if (fenster_.Elternfenster() != nullptr) return;
-    if (!umfeld_.hört() || fenster_geändert_ || !isVisible() || isMinimized()) return;
+    if (teil_ || !umfeld_.hört() || fenster_geändert_ || !isVisible() || isMinimized()) return;
     const QPoint bisher(Pixel(fenster_.lage().links), Pixel(fenster_.lage().oben));
     if (pos() != bisher) umfeld_.von_Hand([this] { fenster_.von_Hand_bewegt(Twips(pos().x()), Twips(pos().y())); });
 }
@@ -328,8 +284,7 @@ void Fensterwidget::moveEvent(QMoveEvent* was) {
 void Fensterwidget::resizeEvent(QResizeEvent* was) {
     QWidget::resizeEvent(was);
     Boden_legen();
-    if (fenster_.Elternfenster() != nullptr) return;
-    if (!umfeld_.hört() || fenster_geändert_ || !isVisible() || isMinimized()) return;
+    if (teil_ || !umfeld_.hört() || fenster_geändert_ || !isVisible() || isMinimized()) return;
     const QSize innen = boden_->size();
     const QSize bisher(Pixel(fenster_.lage().breite), Pixel(fenster_.lage().höhe));
     if (innen != bisher) umfeld_.von_Hand([&] { fenster_.von_Hand_bemessen(Twips(innen.width()), Twips(innen.height())); });
@@ -337,7 +292,7 @@ void Fensterwidget::resizeEvent(QResizeEvent* was) {
 
 void Fensterwidget::changeEvent(QEvent* was) {
     QWidget::changeEvent(was);
-    if (was->type() != QEvent::WindowStateChange || !umfeld_.hört() || fenster_geändert_ || !gezeigt_) return;
+    if (was->type() != QEvent::WindowStateChange || teil_ || !umfeld_.hört() || fenster_geändert_ || !gezeigt_) return;
     const auto zustand = isMinimized() ? Fensterzustand::minimiert : Fensterzustand::normal;
     if (zustand == fenster_.zustand()) return;
     umfeld_.von_Hand([this, zustand] { fenster_.von_Hand_Zustand(zustand); });
@@ -361,11 +316,16 @@ void Fensterwidget::mouseMoveEvent(QMouseEvent*) {
 }
 
 void Fensterwidget::dragEnterEvent(QDragEnterEvent* was) {
-    if (darf() && umfeld_.gezogen == nullptr && fenster_.Dateien_abgelegt.hat_Hörer() && hat_Pfade(*was->mimeData()))
+    if (darf() && umfeld_.gezogen == nullptr && fenster_.Dateien_abgelegt.hat_Hörer() && hat_Pfade(*was->mimeData())) {
         was->acceptProposedAction();
+        umfeld_.marken.zeigen(*boden_);
+    }
 }
 
+void Fensterwidget::dragLeaveEvent(QDragLeaveEvent*) { umfeld_.marken.verlassen(); }
+
 void Fensterwidget::dropEvent(QDropEvent* was) {
+    umfeld_.marken.verlassen();
     if (!darf() || umfeld_.gezogen != nullptr || !fenster_.Dateien_abgelegt.hat_Hörer()) return;
     was->acceptProposedAction();
     QTimer::singleShot(0, this, [this, pfade = Pfade_aus(*was->mimeData())] {
@@ -374,7 +334,7 @@ void Fensterwidget::dropEvent(QDropEvent* was) {
 }
 
 void Fensterwidget::paintEvent(QPaintEvent*) {
-    if (!fenster_.ohne_Rand) return;
+    if (teil_ || !fenster_.ohne_Rand) return;
     QPainter maler(this);
     maler.setPen(Töne::von(palette()).Linie);
     maler.drawRect(rect().adjusted(0, 0, -1, -1));

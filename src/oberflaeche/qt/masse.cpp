@@ -15,6 +15,7 @@
 
 #include "oberflaeche/elemente.hpp"
 #include "oberflaeche/listen.hpp"
+#include "oberflaeche/qt/schieberbild.hpp"
 #include "oberflaeche/qt/stil.hpp"
 #include "oberflaeche/qt/umrechnung.hpp"
 #include "oberflaeche/qt/widgets.hpp"
@@ -61,7 +62,7 @@ struct Maße::Innen {
     Schriftbild schrift;
     QLineEdit eingabe;
     QComboBox auswahl;
-    Schieberbild schieber{Qt::Horizontal};
+    QSlider schieber{Qt::Horizontal};
     QScrollBar bildlauf{Qt::Horizontal};
     QProgressBar balken;
     mutable std::unordered_map<const Element*, Eintrag> bekannte;
@@ -110,11 +111,8 @@ struct Maße::Innen {
                 return QSize(maße.horizontalAdvance(QLatin1Char('n')) * 24, 5 * Zeilenhöhe_Pixel(e.schrift()) + 4);
             case Elementart::Regler: {
                 const auto& regler = static_cast<const Regler&>(e);
-                if (regler.griffig) {
-                    schieber.setFont(font);
-                    const int quer = Schieberbild::Griffhöhe(schieber) + 4, länge = 120;
-                    return regler.senkrecht ? QSize(quer, länge) : QSize(länge, quer);
-                }
+                if (regler.griffig && regler.form() == Regler::Form::Schieber)
+                    return Schieberbild::Mindestmaß(regler.senkrecht ? Qt::Vertical : Qt::Horizontal, maße);
                 const int dicke =
                     regler.form() == Regler::Form::Schieber ? schieber.sizeHint().height() : bildlauf.sizeHint().height();
                 return regler.senkrecht ? QSize(dicke, 100) : QSize(100, dicke);
@@ -159,7 +157,7 @@ Größe Maße::Wunschgröße(const Element& e) const {
         merkmal.zahl = feld.eingerahmt + 2 * feld.umbrechen + 4 * feld.wie_Daten + 8 * feld.Ziffern;
     } else if (e.art() == Elementart::Regler) {
         const auto& regler = static_cast<const Regler&>(e);
-        merkmal.zahl = regler.senkrecht + 2 * static_cast<int>(regler.form()) + 8 * regler.griffig;
+        merkmal.zahl = regler.senkrecht + 2 * static_cast<int>(regler.form()) + 4 * regler.griffig;
     } else if (e.art() == Elementart::Reiter) {
         for (const Text& tab : static_cast<const Reiter&>(e).tabs()) merkmal.text += tab + "\n";
     } else if (e.art() == Elementart::Auswahl) {

@@ -10,8 +10,8 @@
 #include <string_view>
 
 #include "oberflaeche/qt/bilder.hpp"
+#include "oberflaeche/qt/farben.hpp"
 #include "oberflaeche/qt/stil.hpp"
-#include "oberflaeche/qt/toene.hpp"
 
 namespace tonkartei {
 
@@ -45,8 +45,8 @@ Qt_Umgebung::Qt_Umgebung(int& argc, char** argv) {
     // The model decides when the program ends.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(new Stil);
-    QApplication::setPalette(Farbtafel(Töne::hell()));
-    QToolTip::setPalette(Farbtafel(Töne::hell()));
+    QApplication::setPalette(Farbtafel());
+    QToolTip::setPalette(Farbtafel());
     if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
         // No desktop that would say a font: always the same one, so that pictures can be compared.
         QFont schrift(QStringLiteral("DejaVu Sans"));

@@ -1,5 +1,5 @@
-// The look: calm, one accent colour, light or dark after the window's palette; the same on a screen and without one. Also
-// the fonts by the model's points, of which 10 mean the application's own size.
+// The look: light, calm, one accent colour; the same on a screen and without one. Also the fonts by the model's points, of
+// which 10 mean the application's own size.
 #pragma once
 
 #include <QColor>
@@ -18,10 +18,10 @@ public:
     void drawControl(ControlElement was, const QStyleOption* option, QPainter* maler, const QWidget* widget) const override;
     void drawComplexControl(ComplexControl was, const QStyleOptionComplex* option, QPainter* maler,
                             const QWidget* widget) const override;
-    QRect subControlRect(ComplexControl was, const QStyleOptionComplex* option, SubControl teil,
-                         const QWidget* widget) const override;
     int pixelMetric(PixelMetric was, const QStyleOption* option, const QWidget* widget) const override;
     QRect subElementRect(SubElement was, const QStyleOption* option, const QWidget* widget) const override;
+    QRect subControlRect(ComplexControl was, const QStyleOptionComplex* option, SubControl teil,
+                         const QWidget* widget) const override;
     QIcon standardIcon(StandardPixmap was, const QStyleOption* option, const QWidget* widget) const override;
     int styleHint(StyleHint was, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* zurück) const override;
 };

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "oberflaeche/ansicht.hpp"
+#include "oberflaeche/qt/zielmarken.hpp"
 
 namespace tonkartei {
 
@@ -27,6 +28,7 @@ struct Umfeld {
     // The drag under way: its source, and where it was dropped.
     Element* gezogen = nullptr;
     Element* gezogen_auf = nullptr;
+    Zielmarken marken;
     // The platform has windows lying on each other.
     const bool stapelt;
     // The window last brought to the front on the screen.
@@ -41,6 +43,8 @@ struct Umfeld {
     // A hand may work its controls: it is enabled, and no modal window blocks it.
     bool erreichbar(const Fenster& fenster) const;
     Fensterwidget* widget(const Fenster& fenster) const;
+    // The foremost that is no part of another; null: none.
+    const Fenster* vorderes() const;
 
     std::map<const Fenster*, std::unique_ptr<Fensterwidget>> fenster;
 };

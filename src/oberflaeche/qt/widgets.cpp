@@ -5,11 +5,10 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <algorithm>
-#include <cmath>
 
 #include "oberflaeche/qt/bilder.hpp"
+#include "oberflaeche/qt/farben.hpp"
 #include "oberflaeche/qt/stil.hpp"
-#include "oberflaeche/qt/toene.hpp"
 #include "oberflaeche/qt/umrechnung.hpp"
 #include "oberflaeche/qt/ziffern.hpp"
 
@@ -50,7 +49,7 @@ void Schriftbild::zeigen(const QString& text, bool zugriff) {
 QMargins Schriftbild::ränder() const { return eingerahmt ? QMargins(6, 3, 6, 3) : QMargins(0, 1, 0, 1); }
 
 QSize Schriftbild::sizeHint() const {
-    if (ziffern) return Zifferngröße(text(), QFontMetrics(font()).height());
+    if (ziffern) return Zifferngröße(text(), fontMetrics()).grownBy(ränder());
     int flaggen = Qt::AlignLeft | (zugriff_ ? Qt::TextShowMnemonic : 0);
     const QFontMetrics maße(font());
     QRect platz = maße.boundingRect(QRect(0, 0, 1 << 20, 1 << 20), flaggen, text());
@@ -62,11 +61,12 @@ QSize Schriftbild::sizeHint() const {
 
 void Schriftbild::paintEvent(QPaintEvent*) {
     QPainter maler(this);
-    const Töne t = Töne::von(palette());
+    const Töne ton = Töne::von(palette());
     if (eingerahmt)
-        Tafel_malen(maler, QRectF(rect()), füllung.isValid() ? füllung : t.Wert, t.Linie_zart, 3);
+        Tafel_malen(maler, QRectF(rect()), füllung.isValid() ? füllung : ton.Wert, ton.Linie_zart, 3);
     else if (füllung.isValid())
         maler.fillRect(rect(), füllung);
+    if (hasFocus()) Tafel_malen(maler, QRectF(rect()), Qt::transparent, ton.Akzent, 3);
     const QRect platz = rect().marginsRemoved(ränder());
     int flaggen = static_cast<int>(alignment());
     if (zugriff_) flaggen |= Qt::TextShowMnemonic;
@@ -77,13 +77,12 @@ void Schriftbild::paintEvent(QPaintEvent*) {
         zeile = fontMetrics().elidedText(zeile, Qt::ElideRight, platz.width(), flaggen);
     QPalette farben = palette();
     // On a dark ground of its own it stays readable.
-    if (füllung.isValid() && Kontrast(farben.color(foregroundRole()), füllung) < Kontrast_Text)
+    if (füllung.isValid() && Kontrast(farben.color(foregroundRole()), füllung) < lesbarer_Text)
         farben.setColor(foregroundRole(), füllung.lightnessF() < 0.5F ? Qt::white : Qt::black);
-    else if (!füllung.isValid() && isEnabled())
-        farben.setColor(foregroundRole(), lesbar_auf(*this, farben.color(foregroundRole())));
-    if (ziffern) return Ziffern_malen(maler, rect(), text(), farben.color(foregroundRole()));
-    style()->drawItemText(&maler, platz, flaggen, farben, isEnabled(), zeile, foregroundRole());
-    if (hasFocus()) Tafel_malen(maler, QRectF(rect()), Qt::transparent, t.Akzent, 3);
+    if (ziffern)
+        Ziffern_malen(maler, QRectF(platz), text(), farben.color(foregroundRole()), alignment());
+    else
+        style()->drawItemText(&maler, platz, flaggen, farben, isEnabled(), zeile, foregroundRole());
 }
 
 Rahmenbild::Rahmenbild(QWidget* eltern) : QGroupBox(eltern) {}
@@ -95,23 +94,25 @@ QMargins Rahmenbild::ränder(bool mit_Titel, bool deckend, int titelhöhe) {
 
 void Rahmenbild::paintEvent(QPaintEvent*) {
     QPainter maler(this);
-    const Töne t = Töne::von(palette());
     const bool mit_Titel = !title().isEmpty();
     if (!mit_Titel && !deckend) {
         if (füllung.isValid()) maler.fillRect(rect(), füllung);
         return;
     }
-    const QColor grund = füllung.isValid() ? füllung : mit_Titel ? t.Wert : t.Grund;
+    const Töne ton = Töne::von(palette());
+    const QColor grund = füllung.isValid() ? füllung : mit_Titel ? ton.Wert : ton.Grund;
     QRect tafel = rect();
+    QPalette farben = palette();
+    if (titelfarbe.isValid()) farben.setColor(QPalette::WindowText, titelfarbe);
     if (mit_Titel) {
         const int höhe = fontMetrics().height();
         tafel.setTop(höhe + 4);
         style()->drawItemText(&maler, QRect(2, 0, width() - 4, höhe + 2),
-                              Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, palette(), isEnabled(), title(),
+                              Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, farben, isEnabled(), title(),
                               QPalette::WindowText);
     }
-    if (deckend) maler.fillRect(rect(), palette().color(QPalette::Window));
-    Tafel_malen(maler, QRectF(tafel), grund, mit_Titel ? t.Linie_zart : t.Linie, mit_Titel ? 5 : 3);
+    if (deckend) maler.fillRect(rect(), umgebung.isValid() ? umgebung : farben.color(QPalette::Window));
+    Tafel_malen(maler, QRectF(tafel), grund, mit_Titel ? ton.Linie_zart : ton.Linie, mit_Titel ? 5 : 3);
 }
 
 Reiterbild::Reiterbild(QWidget* eltern) : QTabBar(eltern) {
@@ -133,9 +134,9 @@ void Bildwidget::Name(const Text& name) {
 
 void Bildwidget::paintEvent(QPaintEvent*) {
     QPainter maler(this);
+    const Töne ton = Töne::von(palette());
     if (eingerahmt)
-        Tafel_malen(maler, QRectF(rect()), füllung.isValid() ? füllung : Töne::von(palette()).Feld,
-                    Töne::von(palette()).Linie, 3);
+        Tafel_malen(maler, QRectF(rect()), füllung.isValid() ? füllung : ton.Feld, ton.Linie, 3);
     else if (füllung.isValid())
         maler.fillRect(rect(), füllung);
     Raster_malen(maler);

@@ -9,7 +9,6 @@
 #include <QListView>
 #include <QMargins>
 #include <QRadioButton>
-#include <QSlider>
 #include <QTabBar>
 #include <vector>
 
@@ -39,21 +38,6 @@ protected:
     void nextCheckState() override {}
 };
 
-// Colours of a slider that say something of their own; invalid: the usual ones.
-struct Schieberfarben {
-    QColor Rinne, Weg;
-};
-
-class Schieberbild : public QSlider {
-public:
-    using QSlider::QSlider;
-    bool griffig = false;
-    Schieberfarben farben;
-    // Across and along the groove; they follow the font.
-    static int Griffbreite(const QWidget& w) { return w.fontMetrics().height() * 5 / 4; }
-    static int Griffhöhe(const QWidget& w) { return w.fontMetrics().height() * 9 / 5; }
-};
-
 // List that takes the focus without choosing a line.
 class Listenbild : public QListView {
 public:
@@ -71,8 +55,8 @@ public:
     // With `zugriff` a "&" marks the access key of the buddy.
     void zeigen(const QString& text, bool zugriff);
     bool eingerahmt = false;
-    bool ziffern = false;  // of seven segments
-    QColor füllung;        // invalid: none
+    bool ziffern = false;
+    QColor füllung;  // invalid: none
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -91,6 +75,8 @@ public:
     explicit Rahmenbild(QWidget* eltern = nullptr);
     bool deckend = false;
     QColor füllung;
+    // Of the title, and of what it lies on, where the frame's palette is that of its inside; invalid: the palette's.
+    QColor titelfarbe, umgebung;
 
     // What the border takes from the inside.
     static QMargins ränder(bool mit_Titel, bool deckend, int titelhöhe);

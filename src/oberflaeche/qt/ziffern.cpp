@@ -1,7 +1,7 @@
 #include "oberflaeche/qt/ziffern.hpp"
 
+#include <QFont>
 #include <QPainter>
-#include <QPolygonF>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -9,75 +9,103 @@
 namespace tonkartei {
 namespace {
 
-// Widths for a height of 1; with the gap behind each.
-constexpr double Ziffer_breit = 0.56, Doppelpunkt_breit = 0.2, Abstand = 0.12;
-constexpr double halbe_Dicke = 0.055;
+// Parts of the height.
+constexpr double breit = 0.6, schmal = 0.3, Lücke = 0.12, dick = 0.11, Spalt = 0.015;
+constexpr int erloschen = 26;  // opacity of 255
 
-// Segments from the top clockwise, the middle one last; bit 0 is the top.
-constexpr std::array<unsigned, 10> Muster{0x3F, 0x06, 0x5B, 0x4F, 0x66, 0x6D, 0x7D, 0x07, 0x7F, 0x6F};
-constexpr unsigned Strich = 0x40;
+// Bits: top, upper right, lower right, bottom, lower left, upper left, middle.
+constexpr std::array<unsigned, 10> Segmente{0x3f, 0x06, 0x5b, 0x4f, 0x66, 0x6d, 0x7d, 0x07, 0x7f, 0x6f};
+constexpr unsigned Mitte = 0x40;
 
-double Breite(QChar zeichen) { return (zeichen == QLatin1Char(':') ? Doppelpunkt_breit : Ziffer_breit) + Abstand; }
+bool ist_Ziffer(QChar z) { return z >= QLatin1Char('0') && z <= QLatin1Char('9'); }
+bool aus_Segmenten(QChar z) { return ist_Ziffer(z) || z == QLatin1Char('-') || z == QLatin1Char(' '); }
 
-double Breite(const QString& text) {
-    double breite = -Abstand;
-    for (const QChar zeichen : text) breite += Breite(zeichen);
-    return std::max(0.0, breite);
+double Breite(QChar z, const QFontMetricsF& maße, double höhe) {
+    if (aus_Segmenten(z)) return breit * höhe;
+    if (z == QLatin1Char(':')) return schmal * höhe;
+    return maße.horizontalAdvance(z) * höhe / maße.height();
 }
 
-// A bar with pointed ends.
-QPolygonF Balken(QPointF a, QPointF b) {
-    const double d = halbe_Dicke;
-    if (std::abs(a.y() - b.y()) < 1e-6)
-        return QPolygonF(
-            {a, {a.x() + d, a.y() - d}, {b.x() - d, b.y() - d}, b, {b.x() - d, b.y() + d}, {a.x() + d, a.y() + d}});
-    return QPolygonF({a, {a.x() + d, a.y() + d}, {b.x() + d, b.y() - d}, b, {b.x() - d, b.y() - d}, {a.x() - d, a.y() + d}});
+double Breite(const QString& text, const QFontMetricsF& maße, double höhe) {
+    double summe = text.isEmpty() ? 0 : Lücke * höhe * static_cast<double>(text.size() - 1);
+    for (const QChar z : text) summe += Breite(z, maße, höhe);
+    return summe;
 }
 
-void Ziffer(QPainter& maler, unsigned muster, const QColor& an, const QColor& aus) {
-    constexpr double l = halbe_Dicke, r = Ziffer_breit - halbe_Dicke, o = halbe_Dicke, m = 0.5, u = 1 - halbe_Dicke;
-    const std::array<std::pair<QPointF, QPointF>, 7> strecken{{{{l, o}, {r, o}},
-                                                               {{r, o}, {r, m}},
-                                                               {{r, m}, {r, u}},
-                                                               {{l, u}, {r, u}},
-                                                               {{l, m}, {l, u}},
-                                                               {{l, o}, {l, m}},
-                                                               {{l, m}, {r, m}}}};
+// A beam between two corners of the digit, with pointed ends.
+QPolygonF Balken(QPointF von, QPointF bis, double höhe) {
+    const double halb = dick * höhe / 2;
+    const QPointF längs = (bis - von) / std::hypot(bis.x() - von.x(), bis.y() - von.y());
+    const QPointF quer(-längs.y() * halb, längs.x() * halb);
+    von += längs * Spalt * höhe;
+    bis -= längs * Spalt * höhe;
+    return QPolygonF({von, von + längs * halb + quer, bis - längs * halb + quer, bis, bis - längs * halb - quer,
+                      von + längs * halb - quer});
+}
+
+void Ziffer_malen(QPainter& maler, const QRectF& platz, unsigned an, const QColor& farbe) {
+    const double höhe = platz.height(), rand = dick * höhe / 2;
+    const QRectF r = platz.adjusted(rand, rand, -rand, -rand);
+    const QPointF ml(r.left(), r.center().y()), mr(r.right(), r.center().y());
+    const std::array<std::pair<QPointF, QPointF>, 7> strecken{{{r.topLeft(), r.topRight()},
+                                                               {r.topRight(), mr},
+                                                               {mr, r.bottomRight()},
+                                                               {r.bottomLeft(), r.bottomRight()},
+                                                               {ml, r.bottomLeft()},
+                                                               {r.topLeft(), ml},
+                                                               {ml, mr}}};
+    QColor aus = farbe;
+    aus.setAlpha(erloschen);
     for (std::size_t i = 0; i < strecken.size(); ++i) {
-        maler.setBrush((muster >> i & 1U) != 0 ? an : aus);
-        maler.drawPolygon(Balken(strecken[i].first, strecken[i].second));
+        maler.setBrush((an >> i & 1U) != 0 ? farbe : aus);
+        maler.drawPolygon(Balken(strecken[i].first, strecken[i].second, höhe));
     }
 }
 
 }  // namespace
 
-void Ziffern_malen(QPainter& maler, const QRect& platz, const QString& text, const QColor& farbe) {
-    const double breite = Breite(text);
-    if (breite <= 0) return;
-    const double höhe = std::min<double>(platz.height(), platz.width() / breite);
-    QColor aus = farbe;
-    aus.setAlpha(28);
+QSize Zifferngröße(const QString& text, const QFontMetrics& maße) {
+    const double höhe = maße.height();
+    return {static_cast<int>(std::ceil(Breite(text, QFontMetricsF(maße), höhe))) + 2, maße.height() + 2};
+}
+
+void Ziffern_malen(QPainter& maler, const QRectF& platz, const QString& text, const QColor& farbe, Qt::Alignment lage) {
+    if (text.isEmpty()) return;
+    const QFontMetricsF maße(maler.font());
+    const double höhe = std::min(platz.height() - 2, (platz.width() - 2) / Breite(text, maße, 1));
+    if (höhe < 1) return;
+    const double frei = platz.width() - 2 - Breite(text, maße, höhe);
+    double x = platz.left() + 1;
+    if (lage.testFlag(Qt::AlignRight))
+        x += frei;
+    else if (lage.testFlag(Qt::AlignHCenter))
+        x += frei / 2;
+    const double oben = platz.center().y() - höhe / 2;
     maler.save();
     maler.setRenderHint(QPainter::Antialiasing);
-    maler.setPen(Qt::NoPen);
-    maler.translate(platz.center().x() - breite * höhe / 2, platz.center().y() - höhe / 2);
-    maler.scale(höhe, höhe);
-    for (const QChar zeichen : text) {
-        if (zeichen == QLatin1Char(':')) {
-            maler.setBrush(farbe);
-            for (const double y : {0.3, 0.7}) maler.drawEllipse(QPointF(Doppelpunkt_breit / 2, y), 0.06, 0.06);
+    QFont schrift = maler.font();
+    schrift.setPixelSize(std::max(1, static_cast<int>(maler.fontInfo().pixelSize() * höhe / maße.height())));
+    maler.setFont(schrift);
+    for (const QChar z : text) {
+        const QRectF feld(x, oben, Breite(z, maße, höhe), höhe);
+        maler.setPen(Qt::NoPen);
+        maler.setBrush(farbe);
+        if (aus_Segmenten(z)) {
+            Ziffer_malen(maler, feld,
+                         ist_Ziffer(z)           ? Segmente.at(static_cast<std::size_t>(z.digitValue()))
+                         : z == QLatin1Char('-') ? Mitte
+                                                 : 0U,
+                         farbe);
+        } else if (z == QLatin1Char(':')) {
+            const double punkt = dick * höhe * 0.65;
+            for (const double y : {0.32, 0.68}) maler.drawEllipse(QPointF(feld.center().x(), oben + y * höhe), punkt, punkt);
         } else {
-            const int ziffer = zeichen.digitValue();
-            const unsigned muster = ziffer >= 0                   ? Muster[static_cast<std::size_t>(ziffer)]
-                                    : zeichen == QLatin1Char('-') ? Strich
-                                                                  : 0;
-            Ziffer(maler, muster, farbe, aus);
+            maler.setPen(farbe);
+            maler.drawText(feld.adjusted(-2, 0, 2, 0), Qt::AlignCenter, QString(z));
         }
-        maler.translate(Breite(zeichen), 0);
+        x += feld.width() + Lücke * höhe;
     }
     maler.restore();
 }
-
-QSize Zifferngröße(const QString& text, int höhe) { return {static_cast<int>(std::ceil(Breite(text) * höhe)), höhe}; }
 
 }  // namespace tonkartei

@@ -1,8 +1,9 @@
-// Digits of a clock, of seven segments each; those that are not lit shine through faintly.
+// Digits of a clock, of seven segments each.
 #pragma once
 
 #include <QColor>
-#include <QRect>
+#include <QFontMetrics>
+#include <QRectF>
 #include <QSize>
 #include <QString>
 
@@ -10,8 +11,9 @@ class QPainter;
 
 namespace tonkartei {
 
-// As large as fits. Digits, "-", ":" and blanks; anything else is left blank.
-void Ziffern_malen(QPainter& maler, const QRect& platz, const QString& text, const QColor& farbe);
-QSize Zifferngröße(const QString& text, int höhe);
+// At the height of the font.
+QSize Zifferngröße(const QString& text, const QFontMetrics& maße);
+// As large as fits; what is neither digit, blank, "-" nor ":" is written in the font. Segments that are out can be made out.
+void Ziffern_malen(QPainter& maler, const QRectF& platz, const QString& text, const QColor& farbe, Qt::Alignment lage);
 
 }  // namespace tonkartei

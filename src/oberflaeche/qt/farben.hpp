@@ -1,0 +1,44 @@
+// The colours of everything that is drawn. All of them come from a palette, and a palette from one set of tones, so that a
+// window with a ground of its own, or a dark scheme, is right throughout.
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+
+#include "oberflaeche/farbe.hpp"
+
+namespace tonkartei {
+
+enum class Schema { hell, dunkel };
+
+// Contrasts that can be read, and that can be made out.
+inline constexpr double lesbarer_Text = 4.5, erkennbare_Linie = 3.0;
+
+// Ratio of brightness as the eye sees it, 1 to 21.
+double Kontrast(const QColor& a, const QColor& b);
+// White stands out from it better than black.
+bool ist_dunkel(const QColor& grund);
+// The colour itself where it has that contrast to the ground; else lightened on a dark ground, darkened on a light one,
+// just as far as needed or possible.
+QColor abgesetzt(const QColor& farbe, const QColor& grund, double kontrast = lesbarer_Text);
+
+// As drawn on the light ground of the program.
+struct Töne {
+    QColor Grund = 0xfff3f5f8, Feld = 0xffffffff, Wert = 0xfffafbfc;
+    QColor Schrift = 0xff1d2733, blass = 0xff98a3af, Zeichen = 0xff55626f;
+    QColor Akzent = 0xff2f6f9f, Akzent_hell = 0xffe6f0f7, Akzent_dunkel = 0xff245a83, auf_Akzent = 0xffffffff,
+           gedrückt = 0xffd7e5ef;
+    QColor Linie = 0xffc5cdd6, Linie_zart = 0xffd9dfe6, Kante = 0xff9aa6b3, Schatten = 0xff6b7783;
+    QColor Bahn = 0xffeef1f4, Griff = 0xffb9c3cd, Griff_betont = 0xff9eabb8, Griff_gehalten = 0xff7d8b99;
+
+    static Töne zu(const QColor& grund);
+    // Those that the palette was made of, whatever colours a control has of its own.
+    static Töne von(const QPalette& palette);
+    QPalette Palette() const;
+};
+
+QPalette Farbtafel(Schema schema = Schema::hell);
+// For a window or a frame with that ground.
+QPalette Farbtafel_für(Farbe grund);
+
+}  // namespace tonkartei
