@@ -41,8 +41,8 @@ void DJModus::öffnen(const Bereich& Hauptfenster) {
     const Während währenddessen(öffnet_);
     laden();
     bewegen(Hauptfenster.links, Hauptfenster.oben);
-    Listen.beginnen();
     if (!spieler_.starten()) return;
+    Listen.beginnen();
     spieler_.beginnen();
     überblendung_.beginnen();
     Tafel.beginnen();

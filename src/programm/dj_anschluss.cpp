@@ -18,10 +18,15 @@ void DJ_anschließen(DJ_Raum& dj, Haus& haus, Kontextmenüs& menüs, Tonkartei& 
         else
             fenster.zeigen();
     };
+    const auto Befehl = [&desk](void (Listen_Dateien::*befehl)()) {
+        return [&desk, befehl] {
+            if (desk.sichtbar()) (desk.Dateien.*befehl)();
+        };
+    };
     menüs.füllen(
         "DJ_Listen_Menü",
-        {{"Liste_laden_Playlist", "&Playlist laden...", ohne_Index, [&desk] { desk.Dateien.Liste_laden_Playlist(); }, {}},
-         {"Liste_laden_Album", "&Album laden...", ohne_Index, [&desk] { desk.Dateien.Liste_laden_Album(); }, {}}});
+        {{"Liste_laden_Playlist", "&Playlist laden...", ohne_Index, Befehl(&Listen_Dateien::Liste_laden_Playlist), {}},
+         {"Liste_laden_Album", "&Album laden...", ohne_Index, Befehl(&Listen_Dateien::Liste_laden_Album), {}}});
     desk.Listen.laden.verbinden([&menüs] { menüs.zeigen("DJ_Listen_Menü"); });
     // Hidden players that nobody drives any more could not be stopped by anyone.
     haus.ansicht.vor_dem_Absturz = [&desk, vorher = haus.ansicht.vor_dem_Absturz] {

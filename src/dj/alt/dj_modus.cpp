@@ -33,6 +33,24 @@ DJ_Modus::DJ_Modus(Haus& haus, Wiedergabe& wiedergabe)
     for (Rahmen* rahmen : {&Titel1_Platz, &Titel2_Platz, &Mixer_Platz, &Liste_Platz, &Kategorien_Platz, &Wunsch_Platz})
         rahmen->hintergrund(Pultgrund);
     Kidnap.Kidnap_leeren();
+    Tasten_verbinden();
+}
+
+// What the mouse does by dragging, for the keyboard: 1 and 2 load the chosen song into a player, W wishes it.
+void DJ_Modus::Tasten_verbinden() {
+    for (Listenfeld* liste : {&Lieder.Liste, &Wünsche.Liste})
+        liste->Tastendruck.verbinden([this, liste](Taste& taste) {
+            const Text zeichen = taste.art == Taste::Art::Zeichen ? groß(taste.zeichen) : Text();
+            taste.erledigt = true;
+            if (zeichen == "1" || zeichen == "2")
+                Mixer.Play_Pause_DragDrop(zeichen == "1" ? 1 : 2, *liste);
+            else if (zeichen == "W" && liste == &Lieder.Liste)
+                Wünsche.Liste.Abgelegt(*liste);
+            else if (taste.art == Taste::Art::Löschen && liste == &Wünsche.Liste)
+                Wünsche.löschen.Klick();
+            else
+                taste.erledigt = false;
+        });
 }
 
 Knoten DJ_Modus::anordnung() {

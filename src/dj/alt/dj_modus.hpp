@@ -43,6 +43,8 @@ protected:
     void beim_Entladen() override;
 
 private:
+    void Tasten_verbinden();
+
     Rechner& rechner_;
     bool bleibt_zu_ = false;
 };

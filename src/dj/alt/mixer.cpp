@@ -15,8 +15,8 @@ constexpr int Lautstärke_maximal_255 = 255;
 constexpr int Autofade_Anfang = 13, speed_Anfang = 7, POF_Anfang = 30;
 // Until a song tells its length.
 constexpr int übliche_Länge = 100;
-// Where the button of the other fade stands: under the player that it leaves. Twips.
-constexpr int Balkenhöhe = 60;
+// Room for the bars under the crossfader, twips.
+constexpr int POF_Höhe = 90;
 
 }  // namespace
 
@@ -92,7 +92,7 @@ Knoten Mixer::anordnung() {
                 Knoten(Play_on_fade).Platz_halten(), POF_Punkt, Feder(0, 1), Random_after_Autofade, Neue_Lieder_starten});
     return Spalte(
         {Zeile({Kanalknoten(1).dehnen(0, 1), Knoten(Mitte).dehnen(1, 1), Kanalknoten(2).dehnen(0, 1)}).dehnen(1, 1),
-         Knoten(Crossfade).dehnen(1), Knoten(POF_Platz).mindestens(0, Balkenhöhe + 30).dehnen(1),
+         Knoten(Crossfade).dehnen(1), Knoten(POF_Platz).mindestens(0, POF_Höhe).dehnen(1),
          Knoten(Fade_Platz).mindestens(3900, 480).dehnen(1),
          Zeile({Autofade_speed_Text, Knoten(Autofade_speed).dehnen(1), Knoten(Autofade_speed_Label).zeichen(4)})});
 }
