@@ -33,8 +33,9 @@ QColor abgesetzt_von_allen(QColor farbe, std::initializer_list<QColor> gründe, 
 // As much of the tint as leaves the text on it readable.
 QColor getönt(const QColor& fläche, const QColor& ton, double anteil, const QColor& schrift) {
     QColor ergebnis = fläche;
-    for (; anteil > 0; anteil -= 0.02) {
-        ergebnis = gemischt(fläche, ton, anteil);
+    constexpr double Schritt = 0.02;
+    for (int schritte = static_cast<int>(std::lround(anteil / Schritt)); schritte > 0; --schritte) {
+        ergebnis = gemischt(fläche, ton, schritte * Schritt);
         if (Kontrast(ergebnis, schrift) >= lesbarer_Text) return ergebnis;
     }
     return fläche;
