@@ -1,5 +1,8 @@
 #include "dj/kategorienwahl.hpp"
 
+#include <utility>
+#include <vector>
+
 #include "grundlagen/waehrend.hpp"
 
 namespace tonkartei {
@@ -17,6 +20,17 @@ void Kategorienwahl::beschriften() {
         kästen_[k].beschriftung(da ? modell_.Kategorien[k] : Text());
         kästen_[k].sichtbar(da);
     }
+}
+
+Knoten Kategorienwahl::anordnung() {
+    std::vector<Knoten> spalten;
+    for (int spalte = 0; spalte < 2; ++spalte) {
+        std::vector<Knoten> kästen;
+        for (int k = 10 * spalte + 1; k <= 10 * spalte + 10; ++k) kästen.emplace_back(kästen_[k]);
+        kästen.push_back(Feder(0, 1));
+        spalten.push_back(Spalte(std::move(kästen)).lücke(2 * Twips_je_Pixel).dehnen(1, 1));
+    }
+    return Zeile(std::move(spalten)).dehnen(1, 1);
 }
 
 bool Kategorienwahl::zeigt(int Kategorie) const {

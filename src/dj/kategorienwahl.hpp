@@ -17,6 +17,8 @@ public:
     // Captions by the collection; boxes beyond its categories have none and are not shown.
     void beschriften();
     bool zeigt(int Kategorie) const;
+    // The boxes in two columns of ten.
+    Knoten anordnung();
     // The boxes of a scheme, and no other.
     void Schema_anwenden(int n);
 

@@ -99,13 +99,6 @@ void Listen::eröffnen() {
 }
 
 Knoten Listen::anordnung() {
-    std::vector<Knoten> spalten;
-    for (int spalte = 0; spalte < 2; ++spalte) {
-        std::vector<Knoten> kästen;
-        for (int k = 10 * spalte + 1; k <= 10 * spalte + 10; ++k) kästen.emplace_back(Kategorie[k]);
-        kästen.push_back(Feder(0, 1));
-        spalten.push_back(Spalte(std::move(kästen)).lücke(2 * Twips_je_Pixel).dehnen(1, 1));
-    }
     std::vector<Knoten> listen, tasten, reiter;
     for (int i = 1; i <= 3; ++i) {
         listen.push_back(Knoten(Liste[i]).zeichen(26).zeilen(10).Platz_halten().dehnen(1, 1));
@@ -116,8 +109,8 @@ Knoten Listen::anordnung() {
     return Spalte({Zeile(std::move(reiter)).lücke(2 * Twips_je_Pixel),
                    Überlagerung({Knoten(Schnellsuche).Platz_halten().dehnen(1), Zeile(std::move(tasten))}),
                    Überlagerung(std::move(listen)).dehnen(1, 3),
-                   Gruppe(Kategorien_Rahmen, Spalte({Zeile(std::move(spalten)).dehnen(1, 1),
-                                                     Zeile({Kategorie_Schema, Knoten(Kat_Schemas).dehnen(1), Feder()})}))
+                   Gruppe(Kategorien_Rahmen,
+                          Spalte({wahl_.anordnung(), Zeile({Kategorie_Schema, Knoten(Kat_Schemas).dehnen(1), Feder()})}))
                        .dehnen(1, 0)});
 }
 

@@ -13,15 +13,7 @@ DJ_Kategorien::DJ_Kategorien(Ansicht& ansicht, const Modell& modell)
 }
 
 Knoten DJ_Kategorien::anordnung() {
-    std::vector<Knoten> spalten;
-    for (int spalte = 0; spalte < 2; ++spalte) {
-        std::vector<Knoten> kästen;
-        for (int k = 10 * spalte + 1; k <= 10 * spalte + 10; ++k) kästen.emplace_back(Kat[k]);
-        kästen.push_back(Feder(0, 1));
-        spalten.push_back(Spalte(std::move(kästen)).lücke(2 * Twips_je_Pixel).dehnen(1, 1));
-    }
-    return Spalte(
-        {Zeile(std::move(spalten)).dehnen(1, 1), KatSchema_Text, Knoten(KatSchema).zeichen(14).zeilen(4).dehnen(1)});
+    return Spalte({Wahl.anordnung(), KatSchema_Text, Knoten(KatSchema).zeichen(14).zeilen(4).dehnen(1)});
 }
 
 void DJ_Kategorien::beim_Laden() {
