@@ -34,6 +34,7 @@ Alben_Verwaltung::Alben_Verwaltung(Ansicht& ansicht, Modell& modell, Einstellung
       einstellungen_(einstellungen),
       alben_(alben),
       arbeit_(arbeit) {
+    eigenständig = true;
     Nr_Liste.unsichtbarer_Helfer = true;
     Nr_Liste.sichtbar(false);
     Felder_beschreiben();

@@ -14,6 +14,10 @@ DJModus::DJModus(Haus& haus, Wiedergabe& wiedergabe, Albenraum& alben)
       überblendung_(Tafel, Mischung, spieler_, Player),
       Timer_(haus.ansicht, [this] { DJ_Tick(); }) {
     hintergrund = RGB(50, 50, 100);
+    eigenständig = true;
+    Kürzel.emplace_back("Ctrl+F", [this] {
+        if (Listen.Schnellsuche.bedienbar()) this->ansicht().fokus(Listen.Schnellsuche);
+    });
 }
 
 // The players in their pairs, each pair with its crossfader, and between the pairs the third one's buttons and the times.

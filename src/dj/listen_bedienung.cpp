@@ -26,6 +26,7 @@ Listen::Listen(Fenster& f, Haus& haus)
       rechner_(haus.plattform.Rechner),
       suche_(haus.modell),
       wahl_(haus.modell, Kategorie) {
+    Schnellsuche.leerbar = true;
     Schnellsuche.tooltip("sucht in Artist und Titel; Escape leert die Suche");
     const char* const Hilfen[] = {"löscht ein Lied aus der Liste", "ändert die Reihenfolge nach oben",
                                   "ändert die Reihenfolge nach unten", "speichert die Liste ab", "lädt ein Liste"};

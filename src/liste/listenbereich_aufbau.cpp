@@ -31,6 +31,9 @@ void Listenbereich::erstelle_Lieder_Liste() {
         }
     } else {
         Liste.leeren();
+        Liste.leertext(modell_.Anzahl_Lieder < 1 ? "Noch keine Lieder. Über „Lieder / hinzufügen...“ kommen welche herein."
+                       : Schnellsuche.text().empty() ? "In den gewählten Kategorien ist kein Lied."
+                                                     : "Kein Lied gefunden. Escape zeigt wieder alle.");
         Liste_Anzahl.beschriftung("0");
         Liste_Größe.beschriftung("0");
     }
@@ -69,6 +72,7 @@ void Listenbereich::Summe_zeigen(int anzahl, const Listensumme& summe) {
 void Listenbereich::erstelle_Alben_Liste() {
     Liste2.hinausfahren();
     Liste2.leeren();
+    Liste.leertext("");
     const auto nummern = modell_.Alben_geladen ? sortierte_Alben(alben_) : std::vector<long long>{};
     Nr_Liste_setzen(nummern);
     std::vector<Text> zeilen;

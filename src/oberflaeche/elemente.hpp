@@ -85,6 +85,8 @@ public:
     Ereignis<> Geändert;
     // Only to be read and copied from.
     bool nur_lesen = false;
+    // With a button in it that empties it.
+    bool leerbar = false;
     void Startwerte_merken() override;
     void Startwerte_setzen() override;
 

@@ -117,6 +117,12 @@ void Fenster::titel(Text wert) {
     if (geladen_) ansicht_.Fenster_geändert(*this);
 }
 
+void Fenster::titelzusatz(Text wert) {
+    if (titelzusatz_ == wert) return;
+    titelzusatz_ = std::move(wert);
+    if (geladen_) ansicht_.Fenster_geändert(*this);
+}
+
 void Fenster::bewegen(int links, int oben) {
     if (lage_.links == links && lage_.oben == oben) return;
     lage_.links = links;

@@ -2,7 +2,9 @@
 // Windows are members of the program object and live as long as it; loading and unloading only changes their state.
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "oberflaeche/anordnung.hpp"
@@ -98,6 +100,13 @@ public:
     bool größenveränderlich = true;
     // No title bar, always in front of the others (splash, progress).
     bool ohne_Rand = false;
+    // Stands beside other windows; any other one is a dialog of the window in front of which it came up.
+    bool eigenständig = false;
+    // Keys that do something wherever the focus is, such as "Ctrl+F"; made with the window.
+    std::vector<std::pair<Text, std::function<void()>>> Kürzel;
+    // What the title bar says in front of the title: for the eye, the title stays what it is.
+    const Text& titelzusatz() const noexcept { return titelzusatz_; }
+    void titelzusatz(Text wert);
     // Colour of the ground; controls without colours of their own go along with it, light on dark.
     Farbe hintergrund = Farbe_Standard;
     Ereignis<> Mausbewegung;  // the mouse moves over free ground of the window
@@ -127,7 +136,7 @@ private:
     void Eingebettete_anordnen();
 
     Ansicht& ansicht_;
-    Text name_, titel_, start_titel_;
+    Text name_, titel_, start_titel_, titelzusatz_;
     std::vector<Element*> elemente_;
     const Menü* menü_ = nullptr;
     Rahmen* platz_ = nullptr;

@@ -46,6 +46,13 @@ class Listenfeld : public Zeilenelement {
 public:
     Listenfeld(Fenster& f, Text name, int index = ohne_Index)
         : Zeilenelement(f, Elementart::Liste, std::move(name), Text{}, index) {}
+    // Said in its place while there is no line.
+    const Text& leertext() const noexcept { return leertext_; }
+    void leertext(Text wert) {
+        if (leertext_ == wert) return;
+        leertext_ = std::move(wert);
+        melden(Änderung_Aussehen);
+    }
     // First visible line. A choice outside the visible lines moves it just as far as needed.
     int erste() const noexcept { return erste_; }
     // Scrolling by hand or view; raises nothing.
@@ -60,6 +67,7 @@ protected:
     void Wahl_sichtbar_machen() override;
 
 private:
+    Text leertext_;
     int erste_ = 0;
 };
 

@@ -17,6 +17,7 @@ Playlist::Playlist(Haus& haus, const M3U& m3u, Listenbereich& liste, WinAmp_Star
       starter_(starter),
       menü_(*this, Tabelle()) {
     Menü_setzen(menü_);
+    eigenständig = true;
     Nr_Liste.unsichtbarer_Helfer = true;
     Nr_Liste.sichtbar(false);
     Liste_Anzahl.eingerahmt = true;

@@ -3,6 +3,7 @@
 #include "datenbank/version.hpp"
 #include "kategorien/kategorienraum.hpp"
 #include "oberflaeche/ansicht.hpp"
+#include "plattform/dateisystem.hpp"
 #include "programm/startparameter.hpp"
 
 namespace tonkartei {
@@ -17,6 +18,9 @@ Tonkartei::Tonkartei(Haus& haus, Albenraum& alben, Kategorienraum& kategorien, W
       modell_(haus.modell),
       einstellungen_(haus.einstellungen) {
     Menü_setzen(Menüleiste.Leiste());
+    eigenständig = true;
+    Kürzel.emplace_back("Ctrl+F", [this] { Lieder.Schnellsuche_fokussieren(); });
+    Kürzel.emplace_back("Ctrl+Q", [this] { Menüleiste.ausführen("MP_Beenden"); });
     Datenbank.tooltip("Die zuletzt geöffneten Datenbanken, die erste ist die geöffnete");
     Datenbank.Klick.verbinden([this] {
         if (füllt_Liste_ || Datenbank.gewählt() < 0) return;
@@ -77,6 +81,7 @@ void Tonkartei::Datenbank_Liste_zeigen() {
 void Tonkartei::Datenbank_geladen(bool Startkategorien_setzen) {
     vor_dem_Zeigen();
     Tray_nachführen();
+    titelzusatz(Dateiname_von(ohne_Trenner(modell_.Datenbank_Verzeichnis)));
     Kategorien.Anz_Kat_Schemas_setzen(modell_.Anz_Kat_Schemas);
     Menüleiste.nachführen();
     Datenbank_Liste_zeigen();

@@ -4,7 +4,9 @@
 #include <QImage>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QTimer>
+#include <QWindow>
 #include <cstdlib>
 #include <memory>
 
@@ -41,6 +43,31 @@ TEST_F(Desktop, CloseBoxOnlyAsks) {
     EXPECT_FALSE(fenster.geladen()) << "the model unloads it";
     abgleichen();
     EXPECT_FALSE(w.isVisible());
+}
+
+TEST_F(Desktop, ADialogBelongsToTheWindowInFront) {
+    QWidget& w = *ansicht.maler().Widget(fenster);
+    EXPECT_EQ(w.windowType(), Qt::Dialog) << "unless it stands beside others";
+    fenster.titelzusatz("Sammlung");
+    abgleichen();
+    EXPECT_EQ(w.windowTitle(), QStringLiteral("Sammlung – ") + QString::fromStdString(fenster.titel()));
+    Schaufenster dialog(ansicht), zweites(ansicht);
+    zweites.eigenständig = true;
+    int gedrückt = 0;
+    dialog.Kürzel.emplace_back("Ctrl+F", [&] { ++gedrückt; });
+    dialog.zeigen();
+    abgleichen();
+    EXPECT_EQ(ansicht.maler().Widget(dialog)->windowHandle()->transientParent(), w.windowHandle());
+    zweites.zeigen();
+    abgleichen();
+    EXPECT_EQ(ansicht.maler().Widget(zweites)->windowType(), Qt::Window);
+    EXPECT_EQ(ansicht.maler().Widget(zweites)->windowHandle()->transientParent(), nullptr);
+    auto* kürzel = ansicht.maler().Widget(dialog)->findChild<QShortcut*>();
+    ASSERT_NE(kürzel, nullptr);
+    kürzel->activated();
+    dialog.aktiv(false);
+    kürzel->activated();
+    EXPECT_EQ(gedrückt, 1) << "a locked window has none";
 }
 
 TEST_F(Desktop, ReloadedWindowShowsItsStartValues) {

@@ -23,6 +23,7 @@ DJ_Liste::DJ_Liste(Ansicht& ansicht, const Modell& modell, DJ_Kategorien& katego
     Liste.tooltip(
         "Lieder lassen sich auf die Player und in die gewünschten Lieder ziehen; die Tasten 1 und 2 laden das "
         "gewählte Lied in einen Player, W legt es in die Wünsche");
+    Schnellsuche.leerbar = true;
     Schnellsuche.tooltip("sucht in Artist und Titel; Escape leert die Suche");
     Schnellsuche.Geändert.verbinden([this] { erstelle_Liste(); });
     Schnellsuche.Tastendruck.verbinden([this](Taste& taste) {

@@ -24,6 +24,7 @@ DJ_Modus::DJ_Modus(Haus& haus, Wiedergabe& wiedergabe)
       Kidnap(haus.plattform.Fenstersystem),
       rechner_(haus.plattform.Rechner) {
     hintergrund = Pultgrund;
+    eigenständig = true;
     Titel.eins.einbetten(Titel1_Platz);
     Titel.zwei.einbetten(Titel2_Platz);
     Mixer.einbetten(Mixer_Platz);

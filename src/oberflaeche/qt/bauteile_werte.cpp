@@ -21,6 +21,10 @@ public:
         : Bauteil(umfeld, fenster, feld), zeile_(new QLineEdit) {
         aufnehmen(zeile_);
         if (feld.Rechtsklick.hat_Hörer()) zeile_->setContextMenuPolicy(Qt::NoContextMenu);
+        // The button in it empties the field without a word of its own.
+        QObject::connect(zeile_, &QLineEdit::textChanged, this, [this](const QString& neu) {
+            if (neu.isEmpty()) umfeld_.von_Hand([&] { static_cast<Textfeld&>(element()).text({}); });
+        });
         QObject::connect(zeile_, &QLineEdit::textEdited, this, [this](const QString& neu) {
             umfeld_.von_Hand([&] { static_cast<Textfeld&>(element()).text(aus_Qt(neu)); });
         });
@@ -29,6 +33,7 @@ public:
 private:
     void Aussehen_zeigen() override {
         Bauteil::Aussehen_zeigen();
+        zeile_->setClearButtonEnabled(static_cast<const Textfeld&>(element()).leerbar);
         zeile_->setReadOnly(static_cast<const Textfeld&>(element()).nur_lesen);
     }
     void Wert_zeigen() override {

@@ -65,6 +65,8 @@ private:
 
     void Aussehen_zeigen() override {
         Bauteil::Aussehen_zeigen();
+        ansicht_->leertext = Anzeigeabsätze(liste_.leertext());
+        ansicht_->viewport()->update();
         const int höhe = Zeilenhöhe_Pixel(liste_.schrift());
         if (höhe == zeilenhöhe_) return;
         zeilenhöhe_ = höhe;

@@ -7,6 +7,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPainter>
+#include <QShortcut>
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
@@ -33,10 +34,10 @@ QEvent::Type Abgleich() {
 
 Qt::WindowFlags Flaggen(const Fenster& fenster) {
     if (fenster.Elternfenster() != nullptr) return Qt::Widget;
-    Qt::WindowFlags f = Qt::Window;
+    Qt::WindowFlags f = fenster.eigenständig ? Qt::Window : Qt::Dialog;
     if (fenster.ohne_Rand) return f | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint;
-    f |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
-         Qt::WindowCloseButtonHint;
+    f |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+    if (fenster.eigenständig) f |= Qt::WindowMinimizeButtonHint;
     if (fenster.größenveränderlich) f |= Qt::WindowMaximizeButtonHint;
     if (fenster.immer_oben()) f |= Qt::WindowStaysOnTopHint;
     return f;
@@ -62,9 +63,19 @@ Fensterwidget::Fensterwidget(Umfeld& umfeld, Fenster& fenster)
         menü_ = std::make_unique<Menüleiste>(umfeld, *menü, this);
         menü_geändert_ = true;
     }
+    Kürzel_machen();
 }
 
 Fensterwidget::~Fensterwidget() { Teile_lösen(*this); }
+
+void Fensterwidget::Kürzel_machen() {
+    for (const auto& [taste, tat] : fenster_.Kürzel) {
+        auto* kürzel = new QShortcut(QKeySequence(Anzeigetext(taste)), this);
+        QObject::connect(kürzel, &QShortcut::activated, this, [this, tat = tat] {
+            if (darf()) umfeld_.von_Hand(tat);
+        });
+    }
+}
 
 void Fensterwidget::vormerken() {
     if (vorgemerkt_) return;
@@ -182,7 +193,8 @@ void Fensterwidget::Fenster_zeigen() {
         Teil_zeigen();
         return;
     }
-    const QString titel = Anzeigetext(fenster_.titel());
+    QString titel = Anzeigetext(fenster_.titel());
+    if (!fenster_.titelzusatz().empty()) titel = Anzeigetext(fenster_.titelzusatz()) + QStringLiteral(" – ") + titel;
     if (windowTitle() != titel) setWindowTitle(titel);
     if (const Qt::WindowFlags flaggen = Flaggen(fenster_); flaggen != flaggen_) {
         flaggen_ = flaggen;
@@ -224,9 +236,10 @@ void Fensterwidget::Sichtbarkeit_zeigen() {
     if (minimiert != isMinimized()) setWindowState(windowState() ^ Qt::WindowMinimized);
     const bool neu = !isVisible();
     if (neu) {
-        // Above the window that is in front, and not blocked by the modal one that it belongs to.
+        // A dialog lies above the window that is in front; nothing is blocked by the modal one that it belongs to.
         const Fenster* modal = umfeld_.ansicht.modales_Fenster();
-        const Fenster* unter = modal != &fenster_ ? modal : umfeld_.vorderstes;
+        const Fenster* vorn = fenster_.eigenständig ? nullptr : umfeld_.vorderstes;
+        const Fenster* unter = modal != nullptr && modal != &fenster_ ? modal : vorn;
         Fensterwidget* eltern = unter == nullptr || unter == &fenster_ ? nullptr : umfeld_.widget(*unter);
         winId();
         windowHandle()->setTransientParent(eltern == nullptr || !eltern->isVisible() ? nullptr : eltern->windowHandle());
@@ -253,8 +266,23 @@ void Fensterwidget::Boden_legen() {
     boden_->setGeometry(0, oben, width(), std::max(0, height() - oben));
 }
 
+// The dialog that a locked window waits for: the one in front of those that came up above it.
+void Fensterwidget::Wartenden_heben() {
+    for (const Fenster* fenster : umfeld_.ansicht.fenster()) {
+        Fensterwidget* dialog = umfeld_.widget(*fenster);
+        if (dialog == nullptr || dialog == this || !dialog->isVisible() || !umfeld_.erreichbar(*fenster)) continue;
+        if (fenster->Elternfenster() != nullptr) continue;
+        dialog->raise();
+        dialog->activateWindow();
+        return;
+    }
+}
+
 bool Fensterwidget::event(QEvent* was) {
     if (umfeld_.zu_Ende) return QWidget::event(was);
+    if (was->type() == QEvent::WindowActivate && !teil_ && umfeld_.stapelt && umfeld_.hört() && isVisible() &&
+        !umfeld_.erreichbar(fenster_))
+        Wartenden_heben();
     if (was->type() == Abgleich()) {
         abgleichen();
         return true;

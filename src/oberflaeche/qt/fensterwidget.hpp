@@ -75,6 +75,8 @@ private:
     void Sichtbarkeit_zeigen();
     void Boden_legen();
     int Menühöhe() const;
+    void Wartenden_heben();
+    void Kürzel_machen();
     bool darf() const { return umfeld_.hört() && umfeld_.erreichbar(fenster_); }
 
     Umfeld& umfeld_;

@@ -38,6 +38,15 @@ void Listenbild::focusInEvent(QFocusEvent* was) {
     viewport()->update();
 }
 
+void Listenbild::paintEvent(QPaintEvent* was) {
+    QListView::paintEvent(was);
+    if (leertext.isEmpty() || model() == nullptr || model()->rowCount() > 0) return;
+    QPainter maler(viewport());
+    maler.setPen(Töne::von(palette()).Zeichen);
+    maler.drawText(viewport()->rect().adjusted(12, 12, -12, -12), Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
+                   leertext);
+}
+
 Schriftbild::Schriftbild(QWidget* eltern) : QLabel(eltern) { setTextFormat(Qt::PlainText); }
 
 void Schriftbild::zeigen(const QString& text, bool zugriff) {

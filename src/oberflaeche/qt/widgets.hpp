@@ -42,9 +42,11 @@ protected:
 class Listenbild : public QListView {
 public:
     using QListView::QListView;
+    QString leertext;  // said while there is no line
 
 protected:
     void focusInEvent(QFocusEvent* was) override;
+    void paintEvent(QPaintEvent* was) override;
 };
 
 // Label: plain text, cut with an ellipsis where it does not fit, in a frame for values.
