@@ -1,5 +1,6 @@
 #include "oberflaeche/qt/masse.hpp"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QFontMetrics>
 #include <QGuiApplication>
@@ -11,6 +12,7 @@
 #include <QSlider>
 #include <QToolButton>
 #include <algorithm>
+#include <map>
 #include <unordered_map>
 
 #include "oberflaeche/elemente.hpp"
@@ -66,6 +68,17 @@ struct Maße::Innen {
     QScrollBar bildlauf{Qt::Horizontal};
     QProgressBar balken;
     mutable std::unordered_map<const Element*, Eintrag> bekannte;
+
+    // Of the application's font in so many points: rows of dashes are measured by the dozen.
+    const QFontMetrics& Schriftmaße(int punkte) {
+        if (const QFont jetzige = QApplication::font(); jetzige != anwendung_) {
+            anwendung_ = jetzige;
+            schriftmaße_.clear();
+        }
+        const auto eintrag = schriftmaße_.find(punkte);
+        return eintrag != schriftmaße_.end() ? eintrag->second
+                                             : schriftmaße_.emplace(punkte, QFontMetrics(Schrift(punkte))).first->second;
+    }
 
     QSize Knopfgröße(const Knopf& k, const QFont& font) {
         QAbstractButton& vorlage = k.klein ? static_cast<QAbstractButton&>(kleiner_Knopf) : knopf;
@@ -132,6 +145,10 @@ struct Maße::Innen {
         }
         return {0, 0};
     }
+
+private:
+    QFont anwendung_;
+    std::map<int, QFontMetrics> schriftmaße_;
 };
 
 Maße::Maße() : innen_(std::make_unique<Innen>()) {}
@@ -139,7 +156,7 @@ Maße::Maße() : innen_(std::make_unique<Innen>()) {}
 Maße::~Maße() = default;
 
 int Maße::Textbreite(const Text& text, int punkte) const {
-    return Twips(QFontMetrics(Schrift(punkte)).horizontalAdvance(Anzeigetext(text)));
+    return Twips(innen_->Schriftmaße(punkte).horizontalAdvance(Anzeigetext(text)));
 }
 
 int Maße::Texthöhe(int punkte) const { return Twips(QFontMetrics(Schrift(punkte)).height()); }
