@@ -50,6 +50,8 @@ void Hinzufügen_anschließen(Hinzufügen& hinzufügen, Playlist& playlist, Tonk
     Hauptmenü& menü = fenster.Menüleiste;
     menü.Befehl("add_Datenbank", [&hinzufügen] { hinzufügen.datenbank.add_Datenbank(); });
     menü.Befehl("Lieder_hinzufügen_Playlist", [&hinzufügen] { hinzufügen.dateien.Lieder_hinzufügen_Playlist(); });
+    fenster.Dateien_abgelegt.verbinden(
+        [&hinzufügen](const std::vector<Text>& pfade) { hinzufügen.dateien.Lieder_hinzufügen_Ablage(pfade); });
     menü.Befehl("Lieder_hinzufügen_Verzeichnis", [&hinzufügen] { hinzufügen.dateien.Lieder_hinzufügen_Verzeichnis(); });
 }
 

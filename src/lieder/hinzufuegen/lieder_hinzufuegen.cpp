@@ -38,17 +38,42 @@ void Lieder_hinzufügen::Lieder_hinzufügen_Verzeichnis() {
     if (pfad.empty()) return aufgeben();
     Verzeichnis_merken(pfad);
 
-    std::vector<Dateisystem::Eintrag> einträge;
     try {
-        einträge = dateien_.auflisten(pfad);
+        Ordner_aufnehmen(pfad);
     } catch (const Dateifehler& fehler) {
         liste_.ansicht().informieren(Programmtitel, fehler.mit_Pfad(pfad));
         return aufgeben();
     }
-    for (const Dateisystem::Eintrag& eintrag : einträge)
-        if (!eintrag.ist_Ordner && ist_MP3_Name(eintrag.Name) && Länge_wenn_lesbar(pfad + eintrag.Name) > 0)
-            liste_.add_Lied(pfad + eintrag.Name);
     liste_.activate(Quelle_Dateien, true);
+}
+
+void Lieder_hinzufügen::Lieder_hinzufügen_Ablage(const std::vector<Text>& pfade) {
+    if (!modell_.Datenbank_offen) return;
+    beginnen();
+    int aufgenommen = 0;
+    for (const Text& pfad : pfade) {
+        try {
+            const bool Ordner = dateien_.Art_von(pfad) == Pfadart::Ordner;
+            aufgenommen += Ordner ? Ordner_aufnehmen(mit_Trenner(pfad)) : Datei_aufnehmen(pfad);
+        } catch (const Dateifehler&) {
+            // One folder that cannot be read must not keep the others away.
+        }
+    }
+    if (aufgenommen == 0) return aufgeben();
+    liste_.activate(Quelle_Dateien, true);
+}
+
+int Lieder_hinzufügen::Ordner_aufnehmen(const Text& ordner) {
+    int aufgenommen = 0;
+    for (const Dateisystem::Eintrag& eintrag : dateien_.auflisten(ordner))
+        if (!eintrag.ist_Ordner) aufgenommen += Datei_aufnehmen(ordner + eintrag.Name);
+    return aufgenommen;
+}
+
+int Lieder_hinzufügen::Datei_aufnehmen(const Text& pfad) {
+    if (!ist_MP3_Name(Dateiname_von(pfad)) || Länge_wenn_lesbar(pfad) <= 0) return 0;
+    liste_.add_Lied(pfad);
+    return 1;
 }
 
 void Lieder_hinzufügen::Lieder_hinzufügen_Playlist() {

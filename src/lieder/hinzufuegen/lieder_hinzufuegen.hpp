@@ -19,11 +19,16 @@ public:
 
     // All MP3 files of one folder. None of these does anything while no collection is open.
     void Lieder_hinzufügen_Verzeichnis();
+    // Files from the file manager, and the MP3 files of folders among them. Nothing happens when none of them is one.
+    void Lieder_hinzufügen_Ablage(const std::vector<Text>& pfade);
     // The files that a list file names.
     void Lieder_hinzufügen_Playlist();
 
 private:
     void beginnen();
+    // The MP3 files of a folder into the list, and how many; Dateifehler when it cannot be read.
+    int Ordner_aufnehmen(const Text& ordner);
+    int Datei_aufnehmen(const Text& pfad);
     void aufgeben();
     void Playlist_lesen(const Text& datei, int nummer);
     void Verzeichnis_merken(const Text& pfad);
