@@ -52,6 +52,14 @@ TEST_F(Desktop, ButtonsAndBoxesAreWorkedAsTheModelStands) {
 }
 
 // A release that a box took away is made up for by the next that is heard of the mouse.
+TEST_F(Desktop, TheMouseThatLeavesIsOnFreeGround) {
+    int frei = 0;
+    fenster.Mausbewegung.verbinden([&] { ++frei; });
+    QEvent hinaus(QEvent::Leave);
+    QApplication::sendEvent(ansicht.maler().Widget(fenster), &hinaus);
+    EXPECT_EQ(frei, 1);
+}
+
 TEST_F(Desktop, APressDoesNotOutliveTheMouseButton) {
     int gehalten = 0;
     fenster.Vor.Gedrückt.verbinden([&](int, int) { ++gehalten; });

@@ -343,6 +343,14 @@ void Fensterwidget::mouseMoveEvent(QMouseEvent*) {
     if (darf()) umfeld_.von_Hand([this] { fenster_.Mausbewegung(); });
 }
 
+// Out of the window is like on its free ground: what was marked under the mouse is so no longer. A menu over it is no
+// leaving.
+void Fensterwidget::leaveEvent(QEvent* was) {
+    QWidget::leaveEvent(was);
+    if (!teil_ && darf() && QApplication::activePopupWidget() == nullptr)
+        umfeld_.von_Hand([this] { fenster_.Mausbewegung(); });
+}
+
 void Fensterwidget::dragEnterEvent(QDragEnterEvent* was) {
     if (darf() && umfeld_.gezogen == nullptr && fenster_.Dateien_abgelegt.hat_Hörer() && hat_Pfade(*was->mimeData())) {
         was->acceptProposedAction();

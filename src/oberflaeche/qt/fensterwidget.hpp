@@ -53,6 +53,7 @@ protected:
     void changeEvent(QEvent* was) override;
     void keyPressEvent(QKeyEvent* was) override;
     void mouseMoveEvent(QMouseEvent* was) override;
+    void leaveEvent(QEvent* was) override;
     void dragEnterEvent(QDragEnterEvent* was) override;
     void dragLeaveEvent(QDragLeaveEvent* was) override;
     void dropEvent(QDropEvent* was) override;
