@@ -8,7 +8,7 @@
 namespace tonkartei {
 namespace {
 
-constexpr int größte_Schrift = 30, kleinste_Schrift = 6;
+constexpr int größte_Schrift = 72, kleinste_Schrift = 6;
 
 }  // namespace
 
