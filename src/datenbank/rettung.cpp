@@ -18,6 +18,8 @@ bool Rettung::schreiben() noexcept {
             modell_.konvertiert_in_Temp)
             return false;
         pfad = modell_.Pfad(Rettung_Name);
+        verdrängt_ = pfad == gelesen_ && dateien_.Datei_da(pfad);
+        if (verdrängt_) beiseite_legen(pfad);
         if (dateien_.Art_von(pfad) != Pfadart::nichts) return false;
         nummer = kanäle_.öffnen_zum_Schreiben(pfad);
         Familienkopf_schreiben(kanäle_, nummer, modell_.Programmversion);
@@ -38,7 +40,18 @@ bool Rettung::schreiben() noexcept {
 }
 
 void Rettung::zurücknehmen() {
-    versuchen([&] { dateien_.löschen(modell_.Pfad(Rettung_Name)); });
+    versuchen([&] {
+        const Text pfad = modell_.Pfad(Rettung_Name);
+        dateien_.löschen(pfad);
+        if (std::exchange(verdrängt_, false)) dateien_.umbenennen(modell_.Pfad(Rettung_abgelehnt_Name), pfad);
+    });
+}
+
+// One declined before makes room: its user has seen the offer and did without.
+void Rettung::beiseite_legen(const Text& pfad) {
+    const Text beiseite = modell_.Pfad(Rettung_abgelehnt_Name);
+    if (dateien_.Datei_da(beiseite)) dateien_.löschen(beiseite);
+    dateien_.umbenennen(pfad, beiseite);
 }
 
 void Rettung::Kopie_übernehmen(const Text& Kopie) {
@@ -58,12 +71,7 @@ void Rettung::anbieten(Text& Datei) {
         gelesen_ = Datei = pfad;
         return;
     }
-    const Text beiseite = modell_.Pfad(Rettung_abgelehnt_Name);
-    // One declined before makes room: its user has seen the offer and did without.
-    versuchen([&] {
-        if (dateien_.Datei_da(beiseite)) dateien_.löschen(beiseite);
-        dateien_.umbenennen(pfad, beiseite);
-    });
+    versuchen([&] { beiseite_legen(pfad); });
 }
 
 void Rettung::gespeichert() {

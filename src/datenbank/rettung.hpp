@@ -18,7 +18,8 @@ public:
     Rettung(Modell& modell, Kanäle& kanäle, Dateisystem& dateien, Ansicht& ansicht)
         : modell_(modell), kanäle_(kanäle), dateien_(dateien), ansicht_(ansicht) {}
 
-    // Writes what is in memory beside the info file, in its form, synced, but never over a file of that name. False when
+    // Writes what is in memory beside the info file, in its form, synced, but never over a file of that name: only the one
+    // that this session began with steps aside for it, as it would when declined. False when
     // there is nothing to be kept (no collection is open, or songs are being moved and memory does not say what is on the
     // disk) or it could not be written. Throws nothing, for it runs when all else has failed.
     bool schreiben() noexcept;
@@ -33,11 +34,14 @@ public:
     void gespeichert();
 
 private:
+    void beiseite_legen(const Text& pfad);
+
     Modell& modell_;
     Kanäle& kanäle_;
     Dateisystem& dateien_;
     Ansicht& ansicht_;
-    Text gelesen_;  // path of the rescued file that the open collection was read from; empty: none
+    Text gelesen_;            // path of the rescued file that the open collection was read from; empty: none
+    bool verdrängt_ = false;  // it stepped aside for the one that `schreiben` wrote
 };
 
 }  // namespace tonkartei

@@ -42,6 +42,20 @@ TEST_F(Rettung_Test, jedes_Ende_durch_einen_Fehler) {
     }
 }
 
+// The copy of a save that was cut off stands in the way of every later one: what a session begun with the rescued file has
+// changed since must not be lost for it.
+TEST_F(Rettung_Test, auch_nach_einer_gelesenen) {
+    ordner.datei("a/MP3_Rettung.MDB", Info_Bytes("gerettet"));
+    Lauf lauf(ordner, störfall);
+    lauf.ansicht.Antworten[Angebot] = Antwort::Ja;
+    geändert(lauf);
+    störfall.Störungen_.Fehler_bestellen(Vorgang::öffnen, 0);
+    EXPECT_EQ(lauf.Laufzeitfehler_bei([] { throw Laufzeitfehler(Fehler_Index); }),
+              "Index außerhalb des gültigen Bereichs" + Text(Gerettet));
+    EXPECT_EQ(ordner.inhalt("a/MP3_Rettung.MDB"), Info_Bytes("neu"));
+    EXPECT_EQ(ordner.inhalt("a/MP3_Rettung.Bak"), Info_Bytes("gerettet"));
+}
+
 TEST_F(Rettung_Test, keine_wo_nichts_zu_retten_ist) {
     const auto wirft = [] { throw Laufzeitfehler(Fehler_Index); };
     const struct {
