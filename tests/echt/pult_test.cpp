@@ -20,7 +20,8 @@ struct Pult : Abspielen {
         hand("klick Tonkartei.starte_DJ_Modus");
         const auto bereit = [&] {
             for (int n = 1; n <= 4; ++n)
-                if (const auto s = player(n); s.is_null() || s["datei"] == "" || s["status"] != 3) return false;
+                if (const auto s = player(n); s.is_null() || s["datei"].get<std::string>().empty() || s["status"] != 3)
+                    return false;
             return true;
         };
         EXPECT_TRUE(bald(bereit, 20)) << "all four filled and paused";
