@@ -40,6 +40,8 @@ endforeach()
 # "copyright" is where Debian looks for the licence.
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/tonkartei RENAME copyright)
 install(FILES README.md CHANGELOG.md ${paketordner}/changelog.gz DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/tonkartei)
+# The handbook with its pictures, once "make handbuch" has made it: handbuch.html and bilder/.
+install(DIRECTORY build/handbuch/ DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/tonkartei OPTIONAL)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME tonkartei)
