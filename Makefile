@@ -8,7 +8,7 @@ RELEASE := build/release
 KERNE   := $(shell nproc 2>/dev/null || echo 2)
 QUELLEN := src werkzeug tests leistung
 
-.PHONY: help run test stil pruefen tour bench format install paket bediener bauen
+.PHONY: help run test stil pruefen tour bench format install paket handbuch bediener bauen
 .NOTPARALLEL:
 MAKEFLAGS += --no-print-directory
 
@@ -22,7 +22,8 @@ help:
 	@echo 'make bediener  build the operator that works the windows by name; the last line is its path'
 	@echo 'make format    clang-format over all sources'
 	@echo 'make install   install below PREFIX ($(PREFIX)), DESTDIR in front'
-	@echo 'make paket     build a Debian package in $(RELEASE)'
+	@echo 'make handbuch  the handbook as a page for the browser, build/handbuch/handbuch.html'
+	@echo 'make paket     build a Debian package in $(RELEASE), the handbook in it'
 
 # Targets by the file they make, so that only what is needed is built.
 bauen:
@@ -75,7 +76,12 @@ format:
 install: bauen
 	@cmake --install $(RELEASE) --prefix '$(PREFIX)'
 
-paket: bauen
+# Its pictures are the tour's, of whatever age.
+handbuch:
+	@[ -e build/tour/tonkartei.png ] || $(MAKE) tour
+	@sh skripte/handbuch.sh
+
+paket: bauen handbuch
 	@sh skripte/einrichten.sh paket
 	@cd $(RELEASE) && cpack -G DEB
 

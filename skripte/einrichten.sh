@@ -1,7 +1,7 @@
 #!/bin/sh
 # Installs the Debian packages that building, testing and running need, and nothing when they are all there (one
 # question to dpkg, no apt). Groups by argument: "leistung" adds the benchmarks' packages, "format" the formatter, "pruefen"
-# all that looks at the sources, "paket" what making a Debian package takes.
+# all that looks at the sources, "paket" what making a Debian package takes, "handbuch" what makes the handbook a page.
 set -eu
 
 # Building and running. libgl1 and the xcb libraries come with Qt; sound comes with libmpv.
@@ -20,8 +20,9 @@ for gruppe in "$@"; do
         # It compiles the benchmarks as well.
         pruefen) pakete="$pakete clang-format clang-tidy shellcheck libtag1-dev" ;;
         paket) pakete="$pakete dpkg-dev file" ;;
+        handbuch) pakete="$pakete cmark-gfm" ;;
         *)
-            echo "einrichten.sh: unknown group '$gruppe' (known: leistung, format, pruefen, paket)" >&2
+            echo "einrichten.sh: unknown group '$gruppe' (known: leistung, format, pruefen, paket, handbuch)" >&2
             exit 2
             ;;
     esac

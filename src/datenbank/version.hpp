@@ -11,7 +11,7 @@ inline constexpr int Version_Neben = 2;
 inline constexpr int Version_Revision = 16;
 inline constexpr const char* Programm_Autor = "Autor: die Entwickler der Tonkartei";
 inline constexpr const char* Programm_Copyright = "Copyright © 2026, MIT-Lizenz";
-// Shown where the user is asked to get in touch.
+// Shown where the user is asked to get in touch; the package's texts take it from this line.
 inline constexpr const char* Kontaktadresse = "tonkartei@example.org";
 
 // "V 1.02 16": names the format of every file of the family.

@@ -1,6 +1,7 @@
 // Entry point on Linux with Qt: builds the machine and the view, and runs the program on them.
 #include <cstdio>
 
+#include "grundlagen/auskunft.hpp"
 #include "oberflaeche/qt/ansicht_qt.hpp"
 #include "oberflaeche/qt/qt_umgebung.hpp"
 #include "plattform/linux/dateisystem_linux.hpp"
@@ -12,12 +13,17 @@
 #include "plattform/linux/shell_linux.hpp"
 #include "plattform/linux/spielerort.hpp"
 #include "plattform/linux/xdg.hpp"
+#include "programm/hilfetext.hpp"
 #include "programm/programm.hpp"
 #include "programm/shellfrage.hpp"
 
 using namespace tonkartei;
 
 int main(int argc, char** argv) {
+    if (const auto auskunft = Auskunft(argc, argv, Hilfetext(), "Tonkartei " TONKARTEI_VERSION "\n")) {
+        std::fputs(auskunft->c_str(), stdout);
+        return 0;
+    }
     if (!Qt_Umgebung::Bildschirm_da()) {
         std::fputs("Tonkartei: kein Bildschirm da (weder DISPLAY noch WAYLAND_DISPLAY ist gesetzt).\n", stderr);
         return 1;

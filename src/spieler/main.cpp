@@ -13,6 +13,7 @@
 #include <memory>
 #include <optional>
 
+#include "grundlagen/auskunft.hpp"
 #include "plattform/linux/fenstersystem_linux.hpp"
 #include "plattform/linux/schreibtisch.hpp"
 #include "spieler/argumente.hpp"
@@ -93,11 +94,27 @@ int ausführen(const Argumente& argumente) {
     return 0;
 }
 
+constexpr const char* Hilfe =
+    "Aufruf: WinAmp.Exe [/CLASS=NAME] [/NEW] [DATEI...]\n"
+    "\n"
+    "Der Spieler der Tonkartei: spielt Musikdateien und M3U-Listen ohne eigenes Fenster.\n"
+    "\n"
+    "  /CLASS=NAME  der Name, unter dem er zu finden ist; läuft er schon, bekommt er die Dateien\n"
+    "  /NEW         startet in jedem Fall einen weiteren\n"
+    "  --help       zeigt diese Hilfe\n"
+    "  --version    zeigt die Version\n"
+    "\n"
+    "TONKARTEI_TON wählt die Tonausgabe von libmpv; \"null\" spielt ohne Ton.\n";
+
 }  // namespace
 }  // namespace tonkartei::spieler
 
 int main(int anzahl, char** worte) {
     using namespace tonkartei;
+    if (const auto auskunft = Auskunft(anzahl, worte, spieler::Hilfe, "WinAmp.Exe (Tonkartei) " TONKARTEI_VERSION "\n")) {
+        std::fputs(auskunft->c_str(), stdout);
+        return 0;
+    }
     try {
         char ordner[PATH_MAX];
         const char* hier = ::getcwd(ordner, sizeof(ordner));
