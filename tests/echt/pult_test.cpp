@@ -15,7 +15,7 @@ struct Pult : Abspielen {
         return static_cast<int>(std::nearbyint(anteil * 75 / 100.0 * 2.5));
     }
     void TestBody() override {
-        lege(3, 9);
+        lege(3, 13);
         starte({});
         hand("klick Tonkartei.starte_DJ_Modus");
         const auto bereit = [&] {
@@ -25,7 +25,7 @@ struct Pult : Abspielen {
             return true;
         };
         EXPECT_TRUE(bald(bereit, 20)) << "all four filled and paused";
-        hände({"setze DJModus.Autozeit_Scroll 57", "setze DJModus.Fadezeit_Scroll 31", "setze DJModus.Crossfade(1) 0",
+        hände({"setze DJModus.Autozeit_Scroll 54", "setze DJModus.Fadezeit_Scroll 31", "setze DJModus.Crossfade(1) 0",
                "klick DJModus.Player_Auto_1x(1)", "klick DJModus.Player_Taste_Pause(1)"});
         EXPECT_TRUE(bald([&] { return player(1)["status"] == 1; }));
         EXPECT_TRUE(bald([&] { return player(2)["status"] == 1; }, 12)) << "the fade has begun by itself";
