@@ -32,6 +32,8 @@ Mixer::Kanal::Kanal(Mixer& mixer, int n)
     Play_Pause.Bild = "pause";
     Play_Pause.tooltip("spielt oder hält an; nimmt Lieder an, die auf ihn gezogen werden");
     Random.tooltip("lädt ein Zufalls-Lied aus der Liste");
+    Lautstärke.wert(gerundet(Lautstärke_maximal_255 * 0.25));
+    Autofade_Scroll.wert(Autofade_Anfang);
     Zeit.schrift(16);
     Zeit.fett(true);
     Zeit.ausrichtung = Anzeige_Lautstärke.ausrichtung = Schriftfeld::Ausrichtung::Mitte;
@@ -50,6 +52,10 @@ Mixer::Mixer(const Modell& modell, Spielerpaar& spieler, Titelpaar& titel, DJ_Li
       wünsche_(wünsche),
       Timer_(lieder.ansicht(), [this] { Tick(); }) {
     hintergrund = Pultgrund;
+    Crossfade.wert(Mischgesetz_alt::Mitte);
+    Autofade_speed.wert(speed_Anfang);
+    POF_Punkt.wert(POF_Anfang);
+    POF_Punkt.aktiv(false);
     Crossfade.griffig = true;
     Crossfade.tooltip("Player 1 links, Player 2 rechts");
     Crossfade_Mitte.ausrichtung = Schriftfeld::Ausrichtung::Mitte;
@@ -102,14 +108,9 @@ void Mixer::beim_Laden() {
     Autofade_aktiv_ = false;
     for (const int n : {1, 2}) {
         Player(n).läuft = Player(n).geladen = false;
-        Player(n).Lautstärke.wert(gerundet(Lautstärke_maximal_255 * 0.25));
-        Player(n).Autofade_Scroll.wert(Autofade_Anfang);
+        Player(n).Autofade_Sekunden = Autofade_Anfang;
         Autofade_Zeit_zeigen(n);
     }
-    Autofade_speed.wert(speed_Anfang);
-    POF_Punkt.wert(POF_Anfang);
-    POF_Punkt.aktiv(false);
-    Crossfade.wert(Mischgesetz_alt::Mitte);
     Crossfade_Scroll();
     Timer_.stellen(Takt_ms, true);
 }

@@ -29,8 +29,9 @@ public:
         Kasten Autofade;
         Regler Autofade_Scroll;  // seconds before the end
         Schriftfeld Autofade_Zeit;
-        bool läuft = false;    // as of the last tick; turned over at once by a click
-        bool geladen = false;  // a new song since the player was last paused by a click
+        int Autofade_Sekunden = 0;  // as the user chose them; the slider ends with its song, which may be shorter
+        bool läuft = false;         // as of the last tick; turned over at once by a click
+        bool geladen = false;       // a new song since the player was last paused by a click
     };
     std::array<Kanal, 2> Kanäle{Kanal(*this, 1), Kanal(*this, 2)};
     Kanal& Player(int n) { return Kanäle.at(static_cast<std::size_t>(n) - 1); }
@@ -46,10 +47,10 @@ public:
     Schriftfeld Autofade_speed_Text{*this, "Autofade_speed_Text", "Autofade:"};
     Regler Autofade_speed{*this, "Autofade_speed", 0, 100};
     Schriftfeld Autofade_speed_Label{*this, "Autofade_speed_Label", "7s"};
-    Kasten Play_on_fade{*this, "Play_on_fade", "&Play on fade"};
+    Kasten Play_on_fade{*this, "Play_on_fade", "Play on fade"};
     Regler POF_Punkt{*this, "POF_Punkt", 0, 45};
-    Kasten Random_after_Autofade{*this, "Random_after_Autofade", "&Random nach Autofade"};
-    Knopf Neue_Lieder_starten{*this, "Neue_Lieder_starten", "&Starte neue..."};
+    Kasten Random_after_Autofade{*this, "Random_after_Autofade", "Random nach Autofade"};
+    Knopf Neue_Lieder_starten{*this, "Neue_Lieder_starten", "Starte neue..."};
     // Never seen: their pictures are those of the play buttons.
     Knopf Source_Play{*this, "Source_Play"}, Source_Pause{*this, "Source_Pause"};
 
@@ -96,7 +97,8 @@ private:
     DJ_Liste& lieder_;
     Wunschliste& wünsche_;
     Zeitgeber Timer_;
-    std::array<Long, 2> Rest_{};  // seconds left, as of this tick
+    std::array<long long, 2> Rest_{};  // seconds left, as of this tick; a player may tell any number
+    int Fade_weg_von_ = 1;             // the player that the fade now offered leaves
     int Blink_Zähler_ = 0;
     bool Autofade_aktiv_ = false;
     Long Autofade_Tick_ = 0, Autofade_Ticks_ = 0, Autofade_Schritt_ = 0;

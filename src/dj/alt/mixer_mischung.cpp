@@ -14,8 +14,8 @@ void Mixer::verbinden() {
         if (Lautstärke_Link.wert()) Lautstärke_geändert(1);
     });
     Autofade_speed.Geändert.verbinden([this] { Autofade_speed_Label.beschriftung(Zahltext(Autofade_speed.wert()) + "s"); });
-    // Offered only while one player runs: away from that one.
-    Fade_anderes_Lied.Klick.verbinden([this] { Fade_von(Player(1).läuft ? 1 : 2); });
+    // As it reads: which players run may have changed since.
+    Fade_anderes_Lied.Klick.verbinden([this] { Fade_von(Fade_weg_von_); });
     Neue_Lieder_starten.Klick.verbinden([this] { neue_Lieder(); });
     for (const int n : {1, 2}) Kanal_verbinden(n);
 }
@@ -25,7 +25,11 @@ void Mixer::Kanal_verbinden(int n) {
     kanal.Play_Pause.Klick.verbinden([this, n] { Play_Pause(n); });
     kanal.Random.Klick.verbinden([this, n] { Zufalls_Start(n); });
     kanal.Lautstärke.Geändert.verbinden([this, n] { Lautstärke_geändert(n); });
-    kanal.Autofade_Scroll.Geändert.verbinden([this, n] { Autofade_Zeit_zeigen(n); });
+    // The hand alone: the tick moves the slider, too, as far as the song goes.
+    kanal.Autofade_Scroll.Gescrollt.verbinden([this, &kanal, n] {
+        kanal.Autofade_Sekunden = kanal.Autofade_Scroll.wert();
+        Autofade_Zeit_zeigen(n);
+    });
     kanal.Play_Pause.Abgelegt.verbinden([this, n](Element& quelle) { Play_Pause_DragDrop(n, quelle); });
     DJ_Titel& titel = titel_[n];
     for (Element* ziel : std::initializer_list<Element*>{&titel.Titel, &titel.Artist, &titel.WinAmp_Position})
@@ -38,7 +42,7 @@ void Mixer::Lautstärke_geändert(int n) {
 }
 
 void Mixer::Autofade_Zeit_zeigen(int n) {
-    Player(n).Autofade_Zeit.beschriftung("-" + Spielzeit(Player(n).Autofade_Scroll.wert()));
+    Player(n).Autofade_Zeit.beschriftung("-" + Spielzeit(Player(n).Autofade_Sekunden));
 }
 
 void Mixer::Crossfade_Scroll() {

@@ -43,6 +43,7 @@ void Mixer::Angebote_zeigen() {
     Fade_anderes_Lied.aktiv(eins != zwei);
     Fade_anderes_Lied.sichtbar(eins != zwei);
     if (eins != zwei) {
+        Fade_weg_von_ = eins ? 1 : 2;
         Fade_anderes_Lied.beschriftung(eins ? "Fade -->" : "<-- Fade");
         Fade_anderes_Lied.lage({eins ? Fade_links_1 : Fade_links_2, Fade_anderes_Lied.oben(), Fade_anderes_Lied.breite(),
                                 Fade_anderes_Lied.höhe()});
@@ -87,11 +88,12 @@ void Mixer::Zeiten_zeigen() {
         Kanal& kanal = Player(n);
         const Long länge = spieler_.Fenster(n).Länge(), position = spieler_.Fenster(n).Position();
         const long long rest = static_cast<long long>(länge) - gerundet(position / 1000.0);
-        Rest_.at(static_cast<std::size_t>(n) - 1) = als_Long(rest);
+        Rest_.at(static_cast<std::size_t>(n) - 1) = rest;
         kanal.Zeit.beschriftung("-" + Spielzeit(rest));
         kanal.Autofade_Scroll.aktiv(länge >= 1);
         if (länge < 1) continue;
         kanal.Autofade_Scroll.bereich(0, länge);
+        kanal.Autofade_Scroll.wert(kanal.Autofade_Sekunden);
         Autofade_Zeit_zeigen(n);
     }
 }
@@ -110,7 +112,7 @@ void Mixer::Fade_Schritt() {
 // gets there.
 void Mixer::Autofade_prüfen() {
     for (const int n : {1, 2})
-        if (Player(n).Autofade.wert() && Rest_.at(static_cast<std::size_t>(n) - 1) == Player(n).Autofade_Scroll.wert())
+        if (Player(n).Autofade.wert() && Rest_.at(static_cast<std::size_t>(n) - 1) == Player(n).Autofade_Sekunden)
             Fade_von(n);
 }
 
