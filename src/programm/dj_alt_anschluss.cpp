@@ -21,10 +21,11 @@ void DJ_alt_anschließen(DJ_alt_Raum& dj, Datenbankraum& datenbank, Wiedergabe& 
         spieler.schließen();
     };
     datenbank.sitzung.geladen.verbinden([&desk](bool) { desk.Wünsche.andere_Datenbank(); });
-    // Hidden players that nobody drives any more could not be stopped by anyone.
+    // Hidden players that nobody drives any more could not be stopped by anyone. The collection is rescued first.
     haus.ansicht.vor_dem_Absturz = [&desk, vorher = haus.ansicht.vor_dem_Absturz] {
-        desk.Spieler.beenden();
-        return vorher ? vorher() : Text();
+        Text gerettet = vorher ? vorher() : Text();
+        desk.Spieler_beenden();
+        return gerettet;
     };
 }
 

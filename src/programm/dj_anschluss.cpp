@@ -28,10 +28,11 @@ void DJ_anschließen(DJ_Raum& dj, Haus& haus, Kontextmenüs& menüs, Tonkartei& 
         {{"Liste_laden_Playlist", "&Playlist laden...", ohne_Index, Befehl(&Listen_Dateien::Liste_laden_Playlist), {}},
          {"Liste_laden_Album", "&Album laden...", ohne_Index, Befehl(&Listen_Dateien::Liste_laden_Album), {}}});
     desk.Listen.laden.verbinden([&menüs] { menüs.zeigen("DJ_Listen_Menü"); });
-    // Hidden players that nobody drives any more could not be stopped by anyone.
+    // Hidden players that nobody drives any more could not be stopped by anyone. The collection is rescued first.
     haus.ansicht.vor_dem_Absturz = [&desk, vorher = haus.ansicht.vor_dem_Absturz] {
+        Text gerettet = vorher ? vorher() : Text();
         desk.Spieler_beenden();
-        return vorher ? vorher() : Text();
+        return gerettet;
     };
 }
 

@@ -39,7 +39,7 @@ DJ_Liste::DJ_Liste(Ansicht& ansicht, const Modell& modell, DJ_Kategorien& katego
 
 Knoten DJ_Liste::anordnung() {
     return Spalte({Zeile({Schnellsuche_Text, Knoten(Schnellsuche).zeichen(8).dehnen(1)}),
-                   Knoten(Liste).zeichen(22).zeilen(12).dehnen(1, 1)});
+                   Knoten(Liste).zeichen(30).zeilen(12).dehnen(1, 1)});
 }
 
 void DJ_Liste::beim_Laden() { suche_.vorbereiten(); }

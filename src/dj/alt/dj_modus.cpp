@@ -56,7 +56,7 @@ void DJ_Modus::Tasten_verbinden() {
 
 Knoten DJ_Modus::anordnung() {
     return Spalte({Zeile({Knoten(Titel1_Platz).dehnen(1), Knoten(Titel2_Platz).dehnen(1)}),
-                   Zeile({Knoten(Mixer_Platz).dehnen(1, 1), Knoten(Liste_Platz).dehnen(4, 1),
+                   Zeile({Knoten(Mixer_Platz).dehnen(1, 1), Knoten(Liste_Platz).dehnen(3, 1),
                           Knoten(Kategorien_Platz).dehnen(0, 1), Knoten(Wunsch_Platz).dehnen(1, 1)})
                        .dehnen(1, 1)})
         .rand(120);
@@ -85,6 +85,13 @@ void DJ_Modus::beim_Entladen() {
         teil->entladen();
     if (offen && !bleibt_zu_) offen(false);
     Wünsche.verstecken();
+}
+
+void DJ_Modus::Spieler_beenden() noexcept {
+    try {
+        Spieler.beenden();
+    } catch (...) {  // NOLINT(bugprone-empty-catch): there is nobody left to tell
+    }
 }
 
 void DJ_Modus::mit_dem_Programm_schließen() {

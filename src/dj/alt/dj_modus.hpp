@@ -33,6 +33,8 @@ public:
     void starten();
     // With the end of the program: the main window stays where it is.
     void mit_dem_Programm_schließen();
+    // At an end by run-time error: what can still be sent.
+    void Spieler_beenden() noexcept;
 
     // Connected by the composition: the main window hides with its player closed, or comes back.
     std::function<void(bool offen)> offen;

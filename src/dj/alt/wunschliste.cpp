@@ -60,10 +60,13 @@ Wunschliste::Wunschliste(Ansicht& ansicht, const Modell& modell, const DJ_Liste&
 
 Knoten Wunschliste::anordnung() {
     return Spalte({Knoten(Liste).zeichen(20).zeilen(8).dehnen(1, 1), Kategorie_Linie,
-                   Zeile({Position_Text, Position, Feder(), löschen, alle_löschen}), Zeile({sortieren, Feder()})});
+                   Zeile({Position_Text, Position, Feder()}), Zeile({löschen, alle_löschen, Feder()}),
+                   Zeile({sortieren, Feder()})});
 }
 
 void Wunschliste::auffrischen() {
+    for (int i = Nr_Liste.Anzahl() - 1; i >= 0; --i)
+        if (Nummer_von(Nr_Liste.zeile(i)) > modell_.Anzahl_Lieder) Nr_Liste.entfernen(i);
     Linien_machen();
     anzeigen();
 }

@@ -27,7 +27,7 @@ public:
     Knopf alle_löschen{*this, "alle_löschen", "&alle löschen"};
     Knopf sortieren{*this, "sortieren", "nach &Katgorien sortieren"};
 
-    // The desk opens: the lines as categories and songs are now.
+    // The desk opens: the lines as categories and songs are now. Numbers that are no song's any more go.
     void auffrischen();
     // Rebuilds Liste and Nr_Liste2 from Nr_Liste.
     void anzeigen();
