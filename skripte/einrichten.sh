@@ -11,7 +11,7 @@ pakete="$pakete qt6-translations-l10n"
 # Letters for the windows: without a font every character is a box.
 pakete="$pakete fontconfig fonts-dejavu-core"
 # Tests and the operator.
-pakete="$pakete libgtest-dev libgmock-dev nlohmann-json3-dev"
+pakete="$pakete libgtest-dev libgmock-dev nlohmann-json3-dev dbus-daemon"
 
 for gruppe in "$@"; do
     case $gruppe in

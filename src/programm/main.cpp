@@ -3,6 +3,7 @@
 
 #include "grundlagen/auskunft.hpp"
 #include "oberflaeche/qt/ansicht_qt.hpp"
+#include "oberflaeche/qt/freedesktop/farbwunsch.hpp"
 #include "oberflaeche/qt/qt_umgebung.hpp"
 #include "plattform/linux/dateisystem_linux.hpp"
 #include "plattform/linux/endesignale.hpp"
@@ -30,7 +31,8 @@ int main(int argc, char** argv) {
     }
     // Before anything starts a thread, which would die of a signal in our place.
     const Endesignale signale;
-    const Qt_Umgebung qt(argc, argv);
+    Qt_Umgebung qt(argc, argv);
+    const Farbwunsch farben([&qt](Schema schema) { qt.Schema_setzen(schema); });
     Ansicht_Qt ansicht;
     ansicht.bei_Lesbarkeit(signale.Deskriptor(), [&] {
         signale.abholen();

@@ -39,7 +39,7 @@ constexpr std::array Stockwerke{
     Stock{40, 40, nichts,
           " albenverwaltung austausch austausch/sicherung austausch/vergleich austausch/abgleich austausch/aufloesung "
           "statistik ausgabe display dj dj/alt "},
-    Stock{Anbau, 10, Qt, " oberflaeche/qt "},
+    Stock{Anbau, 10, Qt, " oberflaeche/qt oberflaeche/qt/freedesktop "},
     Stock{Anbau, 10, POSIX, " plattform/linux "},
     Stock{60, 60, nichts, " programm "},
     Stock{70, 10, POSIX | mpv, " spieler "},
@@ -51,8 +51,9 @@ struct Tür {
     std::string_view Nach;
 };
 // The player has both ends of the wire that stands for window messages.
-constexpr std::array Türen{Tür{"programm/main.cpp", "oberflaeche/qt"}, Tür{"programm/main.cpp", "plattform/linux"},
-                           Tür{"spieler/", "plattform/linux"}};
+constexpr std::array Türen{Tür{"programm/main.cpp", "oberflaeche/qt"}, Tür{"programm/main.cpp", "oberflaeche/qt/freedesktop"},
+                           Tür{"oberflaeche/qt/freedesktop/", "oberflaeche/qt"},
+                           Tür{"programm/main.cpp", "plattform/linux"}, Tür{"spieler/", "plattform/linux"}};
 
 bool steht_in(std::string_view liste, std::string_view wort) {
     return liste.find(" " + std::string(wort) + " ") != std::string_view::npos;

@@ -1,4 +1,5 @@
 // Colours that can be read, sliders that grow the other way.
+#include <QAbstractButton>
 #include <QAbstractSlider>
 
 #include "oberflaeche/elemente.hpp"
@@ -28,14 +29,19 @@ TEST(Farben, TextsMoveJustAsFarAsNeeded) {
     }
 }
 
-TEST(Farben, DarkPalettesCanBeReadThroughout) {
+TEST(Farben, EveryPaletteCanBeReadThroughout) {
+    std::vector<Töne> alle;
+    for (const Schema schema : {Schema::hell, Schema::dunkel, Schema::kontrast_hell, Schema::kontrast_dunkel})
+        alle.push_back(Töne::von(Farbtafel(schema)));
+    EXPECT_EQ(Kontrast(alle[2].Schrift, alle[2].Linie) * Kontrast(alle[3].Schrift, alle[3].Linie), 1);
     for (const QColor& grund :
-         {QColor(0, 0, 0), QColor(40, 40, 75), QColor(90, 20, 20), QColor(0, 100, 0), QColor(115, 115, 115)}) {
-        const Töne t = Töne::von(Töne::zu(grund).Palette());
+         {QColor(0, 0, 0), QColor(40, 40, 75), QColor(90, 20, 20), QColor(0, 100, 0), QColor(115, 115, 115)})
+        alle.push_back(Töne::von(Töne::zu(grund).Palette()));
+    for (const Töne& t : alle) {
         for (const QColor& fläche : {t.Grund, t.Feld, t.Wert}) {
             for (const QColor& text : {t.Schrift, t.blass, t.Zeichen, t.Akzent})
                 EXPECT_GE(Kontrast(text, fläche), lesbarer_Text);
-            for (const QColor& linie : {t.Linie, t.Linie_zart, t.Kante, t.Griff})
+            for (const QColor& linie : {t.Linie, t.Linie_zart, t.Kante, t.Griff, t.Griff_betont, t.Griff_gehalten})
                 EXPECT_GE(Kontrast(linie, fläche), erkennbare_Linie);
         }
         for (const QColor& fläche : {t.Akzent_hell, t.gedrückt}) EXPECT_GE(Kontrast(t.Schrift, fläche), lesbarer_Text);
@@ -89,6 +95,21 @@ TEST_F(Regler_und_Farben, TextsFollowTheGroundThatTheyLieOn) {
     fenster.Hell.hintergrund(RGB(0, 0, 60));
     ansicht.Ereignisse_laufen_lassen();
     EXPECT_GE(kontrast(fenster.Blau_auf_hell, RGB(0, 0, 60)), lesbarer_Text);
+}
+
+TEST_F(Desktop, AnotherSchemeReachesTheWindowsThatAreUp) {
+    auto& knopf = widget<QAbstractButton>(fenster.Ok);
+    fenster.Ok.farbe(RGB(0, 0, 60));
+    abgleichen();
+    for (const Schema schema : {Schema::dunkel, Schema::kontrast_hell, Schema::hell}) {
+        QApplication::setPalette(Farbtafel(schema));
+        ansicht.Ereignisse_laufen_lassen();
+        ansicht.Ereignisse_laufen_lassen();
+        abgleichen();
+        const Töne ton = Töne::im(schema);
+        EXPECT_EQ(ansicht.maler().Widget(fenster)->palette().color(QPalette::Window), ton.Grund);
+        EXPECT_GE(Kontrast(knopf.palette().color(QPalette::ButtonText), ton.Feld), lesbarer_Text);
+    }
 }
 
 }  // namespace

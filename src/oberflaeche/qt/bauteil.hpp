@@ -1,6 +1,7 @@
 // A control on the screen: holds its widget, makes it follow the model, and turns what happens to it into the hand's doings.
 #pragma once
 
+#include <QColor>
 #include <QObject>
 #include <QPoint>
 #include <QPointer>
@@ -55,6 +56,8 @@ protected:
     // The left button went down there.
     virtual void gedrückt(QPoint) {}
     virtual void Farben_zeigen();
+    // As it is drawn; invalid: none of its own.
+    QColor Grundfarbe() const;
 
     Umfeld& umfeld_;
     Fensterwidget& fenster_;

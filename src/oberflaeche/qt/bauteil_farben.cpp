@@ -6,6 +6,15 @@
 
 namespace tonkartei {
 
+// Under a dark scheme a light ground, such as the one under the mouse, is a tint of the dark one: it would dazzle.
+QColor Bauteil::Grundfarbe() const {
+    if (element_.hintergrund() == Farbe_Standard) return {};
+    const QColor farbe = Qt_Farbe(element_.hintergrund());
+    if (fenster_.eigener_Grund()) return farbe;
+    const Töne ton = Töne::von(fenster_.Boden_für(element_)->palette());
+    return ist_dunkel(ton.Grund) && !ist_dunkel(farbe) ? getönt(ton.Feld, farbe, 0.3, ton.Schrift) : farbe;
+}
+
 void Bauteil::Farben_zeigen() {
     const bool eigener_Grund = element_.hintergrund() != Farbe_Standard;
     if (malt_Grund_nicht()) widget_->setAutoFillBackground(eigener_Grund);
@@ -16,23 +25,21 @@ void Bauteil::Farben_zeigen() {
     const Elementart art = element_.art();
     if (eigener_Grund && art != Elementart::Rahmen)
         for (const auto rolle : {QPalette::Window, QPalette::Button, QPalette::Base})
-            if (art != Elementart::Auswahl || rolle == QPalette::Button)
-                farben.setColor(rolle, Qt_Farbe(element_.hintergrund()));
-    if (fenster_.eigener_Grund())
+            if (art != Elementart::Auswahl || rolle == QPalette::Button) farben.setColor(rolle, Grundfarbe());
+    if (art == Elementart::Kasten && element_.farbe() != Farbe_Standard && !eigener_Grund)
+        farben.setColor(QPalette::WindowText, Qt_Farbe(element_.farbe()));  // a plate of its own keeps it readable
+    else if (fenster_.eigener_Grund() || eigener_Grund || element_.farbe() != Farbe_Standard)
         lesbare_Schrift(farben);
-    else if (element_.farbe() != Farbe_Standard)
-        for (const auto rolle : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
-            farben.setColor(rolle, Qt_Farbe(element_.farbe()));
     if (farben.resolveMask() != 0 || widget_->testAttribute(Qt::WA_SetPalette)) widget_->setPalette(farben);
 }
 
-// On a ground of the window's own, texts keep the colour that they are given as far as it can be read there.
+// Texts keep the colour that they are given as far as it can be read on what is below them.
 void Bauteil::lesbare_Schrift(QPalette& farben) const {
     const Töne ton = Töne::von(fenster_.Boden_für(element_)->palette());
     const QColor außen = fenster_.Grund_unter(element_.rahmen());
     const auto grund = [&](QPalette::ColorRole rolle) {
         const bool im_Feld = rolle == QPalette::Text && element_.art() == Elementart::Auswahl;
-        if (element_.hintergrund() != Farbe_Standard && !im_Feld) return Qt_Farbe(element_.hintergrund());
+        if (element_.hintergrund() != Farbe_Standard && !im_Feld) return Grundfarbe();
         switch (element_.art()) {
             case Elementart::Knopf:
             case Elementart::Auswahl:

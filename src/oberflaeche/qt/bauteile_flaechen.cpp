@@ -31,7 +31,7 @@ private:
                                : feld.ausrichtung == Schriftfeld::Ausrichtung::Mitte ? Qt::AlignHCenter
                                                                                      : Qt::AlignRight;
         bild_->setAlignment(waagrecht | Qt::AlignVCenter);
-        bild_->füllung = feld.hintergrund() == Farbe_Standard ? QColor() : Qt_Farbe(feld.hintergrund());
+        bild_->füllung = Grundfarbe();
         if (feld.Klick.hat_Hörer() || feld.Doppelklick.hat_Hörer()) bild_->setCursor(Qt::PointingHandCursor);
         bild_->setFocusPolicy(feld.Klick.hat_Hörer() ? Qt::TabFocus : Qt::NoFocus);
         QString text = Anzeigeabsätze(feld.beschriftung());
@@ -71,7 +71,7 @@ public:
 private:
     void Aussehen_zeigen() override {
         Bauteil::Aussehen_zeigen();
-        bild_->füllung = element().hintergrund() == Farbe_Standard ? QColor() : Qt_Farbe(element().hintergrund());
+        bild_->füllung = Grundfarbe();
         bild_->setTitle(Anzeigetext(element().beschriftung()));
         bild_->update();
     }
@@ -116,7 +116,7 @@ private:
         const auto& fläche = static_cast<const Bildfläche&>(element());
         bild_->Name(fläche.Bild);
         bild_->eingerahmt = fläche.eingerahmt;
-        bild_->füllung = fläche.hintergrund() == Farbe_Standard ? QColor() : Qt_Farbe(fläche.hintergrund());
+        bild_->füllung = Grundfarbe();
         bild_->spalten = fläche.Rasterspalten;
         bild_->zeilen = fläche.Rasterzeilen;
         bild_->update();

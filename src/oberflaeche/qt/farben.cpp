@@ -30,17 +30,6 @@ QColor abgesetzt_von_allen(QColor farbe, std::initializer_list<QColor> gründe, 
     return farbe;
 }
 
-// As much of the tint as leaves the text on it readable.
-QColor getönt(const QColor& fläche, const QColor& ton, double anteil, const QColor& schrift) {
-    QColor ergebnis = fläche;
-    constexpr double Schritt = 0.02;
-    for (int schritte = static_cast<int>(std::lround(anteil / Schritt)); schritte > 0; --schritte) {
-        ergebnis = gemischt(fläche, ton, schritte * Schritt);
-        if (Kontrast(ergebnis, schrift) >= lesbarer_Text) return ergebnis;
-    }
-    return fläche;
-}
-
 // Where a palette carries each tone: roles that no control overrides with a colour of its own, and entries of disabled
 // and inactive controls that nothing is drawn with.
 struct Platz {
@@ -74,9 +63,23 @@ Töne auf_Hellem(const QColor& grund) {
     Töne t;
     t.Grund = grund;
     t.Schrift = abgesetzt(t.Schrift, grund);
-    t.blass = abgesetzt(t.blass, grund, erkennbare_Linie);
-    t.Linie = abgesetzt(t.Linie, grund, 1.4);
-    t.Linie_zart = abgesetzt(t.Linie_zart, grund, 1.2);
+    t.blass = abgesetzt(t.blass, grund);
+    for (QColor* linie : {&t.Linie, &t.Linie_zart, &t.Kante}) *linie = abgesetzt(*linie, grund, erkennbare_Linie);
+    return t;
+}
+
+// Nothing but the ends of the scale, and one hue for what is chosen.
+Töne mit_viel_Kontrast(bool dunkel) {
+    Töne t;
+    t.Grund = t.Feld = t.Wert = t.Bahn = dunkel ? Qt::black : Qt::white;
+    t.auf_Akzent = t.Grund;
+    t.Schrift = t.Zeichen = t.Linie = t.Linie_zart = t.Kante = t.Schatten = dunkel ? Qt::white : Qt::black;
+    t.Griff = t.Griff_betont = t.Schrift;
+    t.blass = dunkel ? 0xffc8c8c8 : 0xff3c3c3c;
+    t.Akzent = t.Griff_gehalten = dunkel ? 0xffffd83d : 0xff0b3f91;
+    t.Akzent_dunkel = dunkel ? 0xffffe99a : 0xff072a61;
+    t.Akzent_hell = dunkel ? 0xff1f3350 : 0xffdce9ff;
+    t.gedrückt = dunkel ? 0xff2f4d78 : 0xffbcd4fb;
     return t;
 }
 
@@ -127,7 +130,27 @@ QColor abgesetzt(const QColor& farbe, const QColor& grund, double kontrast) {
     return ende;
 }
 
+QColor getönt(const QColor& fläche, const QColor& ton, double anteil, const QColor& schrift) {
+    QColor ergebnis = fläche;
+    constexpr double Schritt = 0.02;
+    for (int schritte = static_cast<int>(std::lround(anteil / Schritt)); schritte > 0; --schritte) {
+        ergebnis = gemischt(fläche, ton, schritte * Schritt);
+        if (Kontrast(ergebnis, schrift) >= lesbarer_Text) return ergebnis;
+    }
+    return fläche;
+}
+
 Töne Töne::zu(const QColor& grund) { return ist_dunkel(grund) ? auf_Dunklem(grund) : auf_Hellem(grund); }
+
+Töne Töne::im(Schema schema) {
+    switch (schema) {
+        case Schema::hell: break;
+        case Schema::dunkel: return zu(QColor::fromRgb(dunkler_Grund));
+        case Schema::kontrast_hell: return mit_viel_Kontrast(false);
+        case Schema::kontrast_dunkel: return mit_viel_Kontrast(true);
+    }
+    return {};
+}
 
 Töne Töne::von(const QPalette& palette) {
     Töne t;
@@ -142,7 +165,7 @@ QPalette Töne::Palette() const {
     p.setColor(QPalette::Button, Feld);
     p.setColor(QPalette::BrightText, Feld);
     p.setColor(QPalette::Link, Akzent);
-    p.setColor(QPalette::ToolTipBase, QColor::fromRgb(0xfffffbe8));
+    p.setColor(QPalette::ToolTipBase, ist_dunkel(Grund) ? gemischt(Grund, Schrift, 0.12) : QColor::fromRgb(0xfffffbe8));
     for (const Platz& platz : Plätze)
         if (platz.gruppe == QPalette::Active) p.setColor(platz.rolle, this->*platz.ton);
     for (const Platz& platz : Plätze)
@@ -156,9 +179,7 @@ QPalette Töne::Palette() const {
     return p;
 }
 
-QPalette Farbtafel(Schema schema) {
-    return (schema == Schema::hell ? Töne{} : Töne::zu(QColor::fromRgb(dunkler_Grund))).Palette();
-}
+QPalette Farbtafel(Schema schema) { return Töne::im(schema).Palette(); }
 
 QPalette Farbtafel_für(Farbe grund) { return Töne::zu(Qt_Farbe(grund)).Palette(); }
 

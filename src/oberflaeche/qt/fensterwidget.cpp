@@ -320,6 +320,8 @@ void Fensterwidget::resizeEvent(QResizeEvent* was) {
 
 void Fensterwidget::changeEvent(QEvent* was) {
     QWidget::changeEvent(was);
+    // What lies in it gets the palette after it.
+    if (was->type() == QEvent::PaletteChange) QTimer::singleShot(0, this, [this] { neu_färben(); });
     if (was->type() != QEvent::WindowStateChange || teil_ || !umfeld_.hört() || fenster_geändert_ || !gezeigt_) return;
     const auto zustand = isMinimized() ? Fensterzustand::minimiert : Fensterzustand::normal;
     if (zustand == fenster_.zustand()) return;

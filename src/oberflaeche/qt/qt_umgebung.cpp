@@ -7,6 +7,7 @@
 #include <QToolTip>
 #include <QTranslator>
 #include <cstdlib>
+#include <optional>
 #include <string_view>
 
 #include "oberflaeche/qt/bilder.hpp"
@@ -14,6 +15,24 @@
 #include "oberflaeche/qt/stil.hpp"
 
 namespace tonkartei {
+namespace {
+
+std::optional<Schema> gewünschtes_Schema() {
+    const QByteArray wunsch = qgetenv("TONKARTEI_FARBEN");
+    if (wunsch == "hell") return Schema::hell;
+    if (wunsch == "dunkel") return Schema::dunkel;
+    if (wunsch == "kontrast") return Schema::kontrast_dunkel;
+    if (wunsch == "kontrast-hell") return Schema::kontrast_hell;
+    return std::nullopt;
+}
+
+void Farben_setzen(Schema schema) {
+    const QPalette tafel = Farbtafel(schema);
+    QApplication::setPalette(tafel);
+    QToolTip::setPalette(tafel);
+}
+
+}  // namespace
 
 struct Qt_Umgebung::Innen {
     QApplication anwendung;
@@ -44,9 +63,9 @@ Qt_Umgebung::Qt_Umgebung(int& argc, char** argv) {
     QGuiApplication::setDesktopFileName(QStringLiteral("tonkartei"));
     // The model decides when the program ends.
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    const bool dunkler_Schreibtisch = ist_dunkel(QGuiApplication::palette().color(QPalette::Window));
     QApplication::setStyle(new Stil);
-    QApplication::setPalette(Farbtafel());
-    QToolTip::setPalette(Farbtafel());
+    Farben_setzen(gewünschtes_Schema().value_or(dunkler_Schreibtisch ? Schema::dunkel : Schema::hell));
     if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
         // No desktop that would say a font: always the same one, so that pictures can be compared.
         QFont schrift(QStringLiteral("DejaVu Sans"));
@@ -61,6 +80,10 @@ Qt_Umgebung::Qt_Umgebung(int& argc, char** argv) {
 }
 
 Qt_Umgebung::~Qt_Umgebung() = default;
+
+void Qt_Umgebung::Schema_setzen(Schema schema) {
+    if (!gewünschtes_Schema()) Farben_setzen(schema);
+}
 
 const Text& Qt_Umgebung::Kommandozeile() const noexcept { return innen_->kommandozeile; }
 

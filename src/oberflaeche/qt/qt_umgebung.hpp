@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "grundlagen/text.hpp"
+#include "oberflaeche/qt/farben.hpp"
 
 namespace tonkartei {
 
@@ -21,6 +22,10 @@ public:
 
     // The program's start parameters, joined by blanks.
     const Text& Kommandozeile() const noexcept;
+
+    // The colours of all windows, those that are up included. At first they are what the desktop's own palette looks like.
+    // What TONKARTEI_FARBEN says ("hell", "dunkel", "kontrast", "kontrast-hell") stays whatever is set here.
+    void Schema_setzen(Schema schema);
 
 private:
     struct Innen;

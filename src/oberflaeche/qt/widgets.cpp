@@ -20,14 +20,16 @@ constexpr int modeste_Breite = 360;  // of texts that wrap
 }  // namespace
 
 void Kastenbild::paintEvent(QPaintEvent* was) {
-    if (isEnabled() && Kontrast(palette().color(QPalette::WindowText), palette().color(QPalette::Window)) < 2) {
+    const QColor schrift = palette().color(QPalette::WindowText);
+    if (isEnabled() && Kontrast(schrift, palette().color(QPalette::Window)) < lesbarer_Text) {
         QStyleOptionButton option;
         initStyleOption(&option);
         QRect platz = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, this);
         platz.setWidth(fontMetrics().size(Qt::TextShowMnemonic, text()).width());
-        const QColor dunkel(0x4a, 0x58, 0x66);
+        const QColor dunkel(0x2b, 0x35, 0x3f), hell(0xf3, 0xf5, 0xf8);
+        const QColor platte = abgesetzt(Kontrast(schrift, dunkel) > Kontrast(schrift, hell) ? dunkel : hell, schrift);
         QPainter maler(this);
-        Tafel_malen(maler, QRectF(platz).adjusted(-3, 0, 4, 0), dunkel, dunkel, 3);
+        Tafel_malen(maler, QRectF(platz).adjusted(-3, 0, 4, 0), platte, platte, 3);
     }
     QCheckBox::paintEvent(was);
 }
@@ -159,7 +161,9 @@ void Bildwidget::Linien(std::vector<Linie> linien) {
 }
 
 void Bildwidget::Raster_malen(QPainter& maler) const {
-    maler.setPen(Töne::von(palette()).Linie_zart);
+    QColor zart = Töne::von(palette()).Linie_zart;
+    zart.setAlpha(90);  // it bounds nothing
+    maler.setPen(zart);
     for (int i = 1; i < spalten; ++i) maler.drawLine(width() * i / spalten, 1, width() * i / spalten, height() - 2);
     for (int i = 1; i < zeilen; ++i) maler.drawLine(1, height() * i / zeilen, width() - 2, height() * i / zeilen);
 }
@@ -183,7 +187,8 @@ void Bildwidget::Linien_malen(QPainter& maler) const {
             ++i;
         } while (i < linien_.size() && linien_[i].farbe == erste.farbe && linien_[i].x1 == linien_[i - 1].x2 &&
                  linien_[i].y1 == linien_[i - 1].y2);
-        QColor farbe = Qt_Farbe(erste.farbe);
+        const QColor grund = füllung.isValid() ? füllung : Töne::von(palette()).Feld;
+        const QColor farbe = abgesetzt(Qt_Farbe(erste.farbe), grund, erkennbare_Linie);
         if (i - anfang > 1) {
             QPainterPath fläche = zug;
             fläche.lineTo(ende.x(), height());
@@ -201,7 +206,7 @@ void Diagrammbalken::paintEvent(QPaintEvent*) {
     QPainter maler(this);
     maler.setRenderHint(QPainter::Antialiasing);
     maler.setPen(Qt::NoPen);
-    maler.setBrush(füllung);
+    maler.setBrush(abgesetzt(füllung, Töne::von(palette()).Feld, erkennbare_Linie));
     const double rundung = std::min(2.5, width() / 2.0);
     maler.drawRoundedRect(QRectF(rect()), rundung, rundung);
 }

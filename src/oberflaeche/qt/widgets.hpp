@@ -19,8 +19,8 @@ class QPainter;
 
 namespace tonkartei {
 
-// Boxes and option buttons that never change by themselves: the model says what is chosen. A caption in a light colour of
-// the user's own gets a dark ground, so that it can be read.
+// Boxes and option buttons that never change by themselves: the model says what is chosen. A caption in a colour of the
+// user's own that can't be read where it stands gets a plate on which it can.
 class Kastenbild : public QCheckBox {
 public:
     using QCheckBox::QCheckBox;
