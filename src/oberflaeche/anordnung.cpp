@@ -26,6 +26,14 @@ int Zugabe(const Element& element) {
     }
 }
 
+constexpr int niedrigste_Rolle = 120 * Twips_je_Pixel, schmalste_Liste = 180 * Twips_je_Pixel;
+
+int weniger(int wunsch, int um, int mindestens) { return std::max(std::min(wunsch, mindestens), wunsch - um); }
+
+bool rollt(const Element& element) {
+    return element.art() == Elementart::Rahmen && static_cast<const Rahmen&>(element).rollbar;
+}
+
 // The window that fills a frame.
 Fenster* Inhalt_von(const Element& element) {
     return element.art() == Elementart::Rahmen ? static_cast<const Rahmen&>(element).Inhalt : nullptr;
@@ -132,7 +140,14 @@ void Anordnung::Rahmen_verteilen(const Knoten& knoten, Element* rahmen) const {
     for (const Knoten& kind : knoten.kinder_) Rahmen_verteilen(kind, innen);
 }
 
-Größe Anordnung::Mindestgröße() { return leer() ? Größe{} : messen(wurzel_); }
+Größe Anordnung::Mindestgröße(Größe frei) {
+    if (leer()) return {};
+    zu_viel_ = {};
+    const Größe maß = messen(wurzel_);
+    const auto Überschuss = [](int eins, int grenze) { return grenze > 0 ? std::max(0, eins - grenze) : 0; };
+    zu_viel_ = {Überschuss(maß.breite, frei.breite), Überschuss(maß.höhe, frei.höhe)};
+    return zu_viel_.breite == 0 && zu_viel_.höhe == 0 ? maß : messen(wurzel_);
+}
 
 void Anordnung::anordnen(Größe größe) {
     if (!leer()) setzen(wurzel_, {0, 0, größe.breite, größe.höhe});
@@ -164,6 +179,9 @@ Größe Anordnung::messen(const Knoten& knoten) const {
                                       ansicht_.Textbreite(Text(static_cast<std::size_t>(knoten.zeichen_), 'n'), punkte) +
                                           Zugabe(*knoten.element_));
             if (knoten.zeilen_ > 0) maß.höhe = knoten.zeilen_ * ansicht_.Zeilenhöhe(punkte) + 4 * Twips_je_Pixel;
+            if (knoten.element_->art() == Elementart::Liste)
+                maß = {weniger(maß.breite, zu_viel_.breite, schmalste_Liste),
+                       weniger(maß.höhe, zu_viel_.höhe, niedrigste_Rolle)};
             break;
         }
         case Knoten::Sorte::Zeile: maß = messen_Reihe(knoten, true); break;
@@ -183,6 +201,7 @@ Größe Anordnung::messen(const Knoten& knoten) const {
             const Bereich rand = ansicht_.Rahmenrand(*knoten.element_);
             maß.breite += rand.breite;
             maß.höhe += rand.höhe;
+            if (rollt(*knoten.element_)) maß.höhe = weniger(maß.höhe, zu_viel_.höhe, niedrigste_Rolle);
             break;
         }
         case Knoten::Sorte::Überlagerung:
@@ -222,7 +241,8 @@ Größe Anordnung::messen_Reihe(const Knoten& knoten, bool waagrecht) const {
 void Anordnung::setzen(const Knoten& knoten, Bereich platz) const {
     const int rand = Rand(knoten.rand_);
     platz = {platz.links + rand, platz.oben + rand, platz.breite - 2 * rand, platz.höhe - 2 * rand};
-    if (knoten.element_ != nullptr && !knoten.element_->frei) knoten.element_->lage(platz);
+    if (Element* element = knoten.element_; element != nullptr && !element->frei)
+        element->lage({platz.links, platz.oben, platz.breite + (rollt(*element) ? Rollrand : 0), platz.höhe});
     switch (knoten.sorte_) {
         case Knoten::Sorte::Abstand:
         case Knoten::Sorte::Element: break;
@@ -232,6 +252,10 @@ void Anordnung::setzen(const Knoten& knoten, Bereich platz) const {
         case Knoten::Sorte::Gruppe: {
             if (knoten.element_ == nullptr) break;
             const Bereich rahmen = ansicht_.Rahmenrand(*knoten.element_);
+            if (rollt(*knoten.element_)) {
+                platz.höhe = std::max(platz.höhe, messen(knoten.kinder_.front()).höhe + rahmen.höhe);
+                static_cast<Rahmen*>(knoten.element_)->Inhaltshöhe(platz.höhe);
+            }
             setzen(knoten.kinder_.front(),
                    {rahmen.links, rahmen.oben, platz.breite - rahmen.breite, platz.höhe - rahmen.höhe});
             break;

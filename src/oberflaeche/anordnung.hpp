@@ -71,8 +71,9 @@ Knoten Feder(int waagrecht = 1, int senkrecht = 0);
 class Anordnung {
 public:
     Anordnung(Ansicht& ansicht, Knoten wurzel);
-    // The least size in which everything shown has its room.
-    Größe Mindestgröße();
+    // The least size in which everything shown has its room. Lists, and what lies in frames that scroll, give way as far as
+    // `frei`, the room on the screen, asks for it (0: there is no limit).
+    Größe Mindestgröße(Größe frei = {});
     void anordnen(Größe größe);
     bool leer() const noexcept { return wurzel_.kinder_.empty() && wurzel_.element_ == nullptr; }
 
@@ -89,6 +90,7 @@ private:
 
     Ansicht& ansicht_;
     Knoten wurzel_;
+    Größe zu_viel_;  // by so much what scrolls is to be smaller than it wishes
 };
 
 }  // namespace tonkartei

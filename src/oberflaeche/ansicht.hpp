@@ -85,6 +85,8 @@ public:
     // The size at which a control shows all of itself.
     virtual Größe Wunschgröße(const Element& element) const = 0;
     virtual Größe Bildschirm() const = 0;
+    // The largest inside that a window can have on the screen; 0 in a direction without a limit.
+    virtual Größe freie_Fläche(const Fenster&) const { return {}; }
     // Room that a frame's border and title take: left, top, width and height beyond the inside.
     virtual Bereich Rahmenrand(const Element& rahmen) const = 0;
     // Height of a line of a list.

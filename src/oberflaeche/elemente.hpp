@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 #include "oberflaeche/element.hpp"
@@ -144,6 +145,9 @@ private:
     int wert_ = Ruhe;
 };
 
+// How far a frame that scrolls reaches beyond what it holds, to the right; twips.
+inline constexpr int Rollrand = 8 * Twips_je_Pixel;
+
 // Frame with a title; without one a bare panel.
 class Rahmen : public Element {
 public:
@@ -152,8 +156,18 @@ public:
     ~Rahmen() override;
     // Drawn opaque above what lies under it.
     bool deckend = false;
+    // What it holds may be higher than it is, and is then scrolled. Without a caption; reaches into the margin at its right.
+    bool rollbar = false;
+    // Twips, told by the layout.
+    int Inhaltshöhe() const noexcept { return inhaltshöhe_; }
+    void Inhaltshöhe(int neu) {
+        if (std::exchange(inhaltshöhe_, neu) != neu) melden(Änderung_Lage);
+    }
     // The window that fills it as a part of this one (`Fenster::einbetten`).
     Fenster* Inhalt = nullptr;
+
+private:
+    int inhaltshöhe_ = 0;
 };
 
 class Balken : public Element {

@@ -35,8 +35,10 @@ void Fenster::laden() {
     ansicht_.Fenster_aufnehmen(*this);
     const Größe wunsch = Startgröße();
     const Größe mindest = Mindestgröße();
-    lage_.breite = std::max(wunsch.breite, mindest.breite);
-    lage_.höhe = std::max(wunsch.höhe, mindest.höhe);
+    const Größe frei = ansicht_.freie_Fläche(*this);
+    const auto höchstens = [](int eins, int grenze) { return grenze > 0 ? std::min(eins, grenze) : eins; };
+    lage_.breite = std::max(höchstens(wunsch.breite, frei.breite), mindest.breite);
+    lage_.höhe = std::max(höchstens(wunsch.höhe, frei.höhe), mindest.höhe);
     if (platz_ == nullptr) zentrieren();
     neu_anordnen();
     if (platz_ != nullptr) platz_->fenster().neu_anordnen();
@@ -163,7 +165,7 @@ void Fenster::zentrieren() {
     bewegen((bildschirm.breite - lage_.breite) / 2, (bildschirm.höhe - lage_.höhe) / 2);
 }
 
-Größe Fenster::Mindestgröße() { return anordnung_ ? anordnung_->Mindestgröße() : Größe{}; }
+Größe Fenster::Mindestgröße() { return anordnung_ ? anordnung_->Mindestgröße(ansicht_.freie_Fläche(*this)) : Größe{}; }
 
 Element* Fenster::element(const Text& name, int index) const {
     for (Element* e : elemente_)
@@ -173,7 +175,7 @@ Element* Fenster::element(const Text& name, int index) const {
 
 void Fenster::neu_anordnen() {
     if (!geladen_ || !anordnung_ || ordnet_) return;
-    const Größe mindest = anordnung_->Mindestgröße();
+    const Größe mindest = Mindestgröße();
     const bool zu_klein = mindest.breite > lage_.breite || mindest.höhe > lage_.höhe;
     if (Fenster* ganzes = Elternfenster(); zu_klein && ganzes != nullptr && ganzes->geladen_ && !ganzes->ordnet_) {
         ganzes->neu_anordnen();  // which gives this part its room, and comes back

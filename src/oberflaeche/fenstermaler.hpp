@@ -24,6 +24,7 @@ public:
     virtual int Texthöhe(int punkte) const = 0;
     virtual Größe Wunschgröße(const Element& element) const = 0;
     virtual Größe Bildschirm() const = 0;
+    virtual Größe freie_Fläche(const Fenster&) const { return {}; }
     virtual Bereich Rahmenrand(const Element& rahmen) const = 0;
     virtual int Zeilenhöhe(int punkte) const = 0;
 };

@@ -19,6 +19,7 @@ Tonkartei::Tonkartei(Haus& haus, Albenraum& alben, Kategorienraum& kategorien, W
       einstellungen_(haus.einstellungen) {
     Menü_setzen(Menüleiste.Leiste());
     eigenständig = true;
+    rechte_Spalte.rollbar = true;
     Kürzel.emplace_back("Ctrl+F", [this] { Lieder.Schnellsuche_fokussieren(); });
     Kürzel.emplace_back("Ctrl+Q", [this] { Menüleiste.ausführen("MP_Beenden"); });
     Datenbank.tooltip("Die zuletzt geöffneten Datenbanken, die erste ist die geöffnete");
@@ -39,8 +40,9 @@ Tonkartei::Tonkartei(Haus& haus, Albenraum& alben, Kategorienraum& kategorien, W
 Knoten Tonkartei::anordnung() {
     return Spalte({Zeile({Datenbank_Text, Knoten(Datenbank).dehnen(1)}),
                    Zeile({Lieder.Listenknoten(),
-                          Spalte({Lieder.Liedknoten(Kategorien.Lied_Kategorie), Kategorien.anordnung(), Feder(0, 1),
-                                  Gruppe(Wiedergabe_Rahmen, Wiedergabe.anordnung(Fernsteuerung))})})
+                          Gruppe(rechte_Spalte,
+                                 Spalte({Lieder.Liedknoten(Kategorien.Lied_Kategorie), Kategorien.anordnung(), Feder(0, 1),
+                                         Gruppe(Wiedergabe_Rahmen, Wiedergabe.anordnung(Fernsteuerung))}))})
                        .dehnen(1, 1)})
         .rand(120);
 }

@@ -30,6 +30,7 @@ public:
     // The order of making is the tab order; `Lieder` only keeps its reference to `Kategorien` while it is made.
     Listenbereich Lieder;
     Kategorienbereich Kategorien;
+    Rahmen rechte_Spalte{*this, "rechte_Spalte"};
     Rahmen Wiedergabe_Rahmen{*this, "Wiedergabe_Rahmen", "Wiedergabe"};
     Wiedergabebereich Wiedergabe;
     tonkartei::Fernsteuerung Fernsteuerung;

@@ -104,6 +104,7 @@ public:
     int Texthöhe(int punkte) const override { return maler_->Texthöhe(punkte); }
     Größe Wunschgröße(const Element& element) const override { return maler_->Wunschgröße(element); }
     Größe Bildschirm() const override { return t_.bildschirm ? *t_.bildschirm : maler_->Bildschirm(); }
+    Größe freie_Fläche(const Fenster& fenster) const override { return maler_->freie_Fläche(fenster); }
     Bereich Rahmenrand(const Element& rahmen) const override { return maler_->Rahmenrand(rahmen); }
     int Zeilenhöhe(int punkte) const override { return maler_->Zeilenhöhe(punkte); }
 

@@ -196,6 +196,7 @@ int Ansicht_Qt::Textbreite(const Text& text, int punkte) const { return innen_->
 int Ansicht_Qt::Texthöhe(int punkte) const { return innen_->maler.Texthöhe(punkte); }
 Größe Ansicht_Qt::Wunschgröße(const Element& element) const { return innen_->maler.Wunschgröße(element); }
 Größe Ansicht_Qt::Bildschirm() const { return innen_->maler.Bildschirm(); }
+Größe Ansicht_Qt::freie_Fläche(const Fenster& fenster) const { return innen_->maler.freie_Fläche(fenster); }
 Bereich Ansicht_Qt::Rahmenrand(const Element& rahmen) const { return innen_->maler.Rahmenrand(rahmen); }
 int Ansicht_Qt::Zeilenhöhe(int punkte) const { return innen_->maler.Zeilenhöhe(punkte); }
 

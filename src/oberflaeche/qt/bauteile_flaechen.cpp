@@ -7,6 +7,7 @@
 #include "oberflaeche/qt/bauteile.hpp"
 #include "oberflaeche/qt/farben.hpp"
 #include "oberflaeche/qt/fensterwidget.hpp"
+#include "oberflaeche/qt/rollflaeche.hpp"
 #include "oberflaeche/qt/umrechnung.hpp"
 #include "oberflaeche/qt/widgets.hpp"
 
@@ -62,11 +63,13 @@ public:
     Rahmen_Bauteil(Umfeld& umfeld, Fensterwidget& fenster, Rahmen& rahmen)
         : Bauteil(umfeld, fenster, rahmen), bild_(new Rahmenbild) {
         bild_->deckend = rahmen.deckend;
+        if (rahmen.rollbar) rolle_ = new Rollfläche(Rollfläche::Art::schmal, bild_);
         aufnehmen(bild_);
     }
     ~Rahmen_Bauteil() override {
         if (widget() != nullptr) Teile_lösen(*bild_);
     }
+    QWidget* Inneres() const noexcept override { return rolle_ == nullptr ? widget() : rolle_->Boden(); }
 
 private:
     void Aussehen_zeigen() override {
@@ -97,9 +100,13 @@ private:
     void Lage_zeigen() override {
         Bauteil::Lage_zeigen();
         if (bild_->deckend) bild_->raise();
+        if (rolle_ == nullptr) return;
+        rolle_->setGeometry(bild_->rect());
+        rolle_->Bedarf({0, Pixel(static_cast<const Rahmen&>(element()).Inhaltshöhe())});
     }
 
     Rahmenbild* bild_;
+    Rollfläche* rolle_ = nullptr;
     Farbe innen_ = Farbe_Standard;
 };
 

@@ -89,6 +89,7 @@ int Fenstermaler_Qt::Textbreite(const Text& text, int punkte) const { return inn
 int Fenstermaler_Qt::Texthöhe(int punkte) const { return innen_->maße.Texthöhe(punkte); }
 Größe Fenstermaler_Qt::Wunschgröße(const Element& element) const { return innen_->maße.Wunschgröße(element); }
 Größe Fenstermaler_Qt::Bildschirm() const { return innen_->maße.Bildschirm(); }
+Größe Fenstermaler_Qt::freie_Fläche(const Fenster& fenster) const { return innen_->maße.freie_Fläche(fenster); }
 Bereich Fenstermaler_Qt::Rahmenrand(const Element& rahmen) const { return innen_->maße.Rahmenrand(rahmen); }
 int Fenstermaler_Qt::Zeilenhöhe(int punkte) const { return Zeilenhöhe_Pixel(punkte) * Twips_je_Pixel; }
 

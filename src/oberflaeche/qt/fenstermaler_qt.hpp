@@ -31,6 +31,7 @@ public:
     int Texthöhe(int punkte) const override;
     Größe Wunschgröße(const Element& element) const override;
     Größe Bildschirm() const override;
+    Größe freie_Fläche(const Fenster& fenster) const override;
     Bereich Rahmenrand(const Element& rahmen) const override;
     int Zeilenhöhe(int punkte) const override;
 

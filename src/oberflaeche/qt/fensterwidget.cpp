@@ -18,7 +18,9 @@
 #include "oberflaeche/hand.hpp"
 #include "oberflaeche/qt/ablage.hpp"
 #include "oberflaeche/qt/farben.hpp"
+#include "oberflaeche/qt/masse.hpp"
 #include "oberflaeche/qt/menueleiste.hpp"
+#include "oberflaeche/qt/rollflaeche.hpp"
 #include "oberflaeche/qt/umrechnung.hpp"
 
 namespace tonkartei {
@@ -52,7 +54,8 @@ Fensterwidget::Fensterwidget(Umfeld& umfeld, Fenster& fenster)
     : umfeld_(umfeld),
       fenster_(fenster),
       teil_(fenster.Elternfenster() != nullptr),
-      boden_(new QWidget(this)),
+      rolle_(teil_ ? nullptr : new Rollfläche(Rollfläche::Art::ganz, this)),
+      boden_(teil_ ? new QWidget(this) : rolle_->Boden()),
       flaggen_(Flaggen(fenster)) {
     setWindowFlags(flaggen_);
     setObjectName(Anzeigetext(fenster.Name()));
@@ -206,18 +209,40 @@ void Fensterwidget::Fenster_zeigen() {
 
 void Fensterwidget::Maße_zeigen() {
     const Bereich& lage = fenster_.lage();
-    const QSize größe(Pixel(lage.breite), Pixel(lage.höhe) + Menühöhe());
+    const QSize innen(Pixel(lage.breite), Pixel(lage.höhe));
+    const QSize größe = auf_dem_Schirm(innen);
     if (fenster_.größenveränderlich) {
         const Größe mindest = fenster_.Mindestgröße();
-        setMinimumSize(aufgerundet(mindest.breite), aufgerundet(mindest.höhe) + Menühöhe());
+        setMinimumSize(auf_dem_Schirm({aufgerundet(mindest.breite), aufgerundet(mindest.höhe)}));
         setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
         if (!isMaximized() && !isFullScreen()) resize(größe);
     } else {
         setFixedSize(größe);
     }
-    const QPoint stelle(Pixel(lage.links), Pixel(lage.oben));
+    rolle_->Bedarf(innen);
+    const QPoint stelle = auf_dem_Schirm(QPoint(Pixel(lage.links), Pixel(lage.oben)), größe);
     if (pos() != stelle || !testAttribute(Qt::WA_Moved)) move(stelle);
     Boden_legen();
+}
+
+// As large as the inside asks for, with the menu; no larger than the screen has room, what is beyond is scrolled to.
+QSize Fensterwidget::auf_dem_Schirm(QSize innen) const {
+    const QSize ganz = innen + QSize(0, Menühöhe());
+    const Größe frei = umfeld_.ansicht.freie_Fläche(fenster_);
+    if (frei.breite <= 0) return ganz;
+    const QSize platz = QSize(Pixel(frei.breite), Pixel(frei.höhe) + Menühöhe());
+    const int leiste = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const QSize mit_Leisten(ganz.width() + (ganz.height() > platz.height() ? leiste : 0),
+                            ganz.height() + (ganz.width() > platz.width() ? leiste : 0));
+    return mit_Leisten.boundedTo(platz);
+}
+
+QPoint Fensterwidget::auf_dem_Schirm(QPoint stelle, QSize größe) const {
+    const QRect frei = freier_Schirm();
+    if (frei.isEmpty() || !umfeld_.stapelt || QGuiApplication::screens().size() > 1) return stelle;
+    const QSize rahmen = isVisible() ? frameGeometry().size() - size() : QSize(0, 0);
+    const QPoint ende = frei.bottomRight() - QPoint(größe.width() + rahmen.width(), größe.height() + rahmen.height());
+    return {std::max(frei.left(), std::min(stelle.x(), ende.x())), std::max(frei.top(), std::min(stelle.y(), ende.y()))};
 }
 
 void Fensterwidget::Sichtbarkeit_zeigen() {
@@ -263,7 +288,7 @@ int Fensterwidget::Menühöhe() const {
 void Fensterwidget::Boden_legen() {
     const int oben = Menühöhe();
     if (menü_) menü_->leiste()->setGeometry(0, 0, width(), oben);
-    boden_->setGeometry(0, oben, width(), std::max(0, height() - oben));
+    (teil_ ? boden_ : rolle_)->setGeometry(0, oben, width(), std::max(0, height() - oben));
 }
 
 // The dialog that a locked window waits for: the one in front of those that came up above it.
@@ -313,9 +338,11 @@ void Fensterwidget::resizeEvent(QResizeEvent* was) {
     QWidget::resizeEvent(was);
     Boden_legen();
     if (teil_ || !umfeld_.hört() || fenster_geändert_ || !isVisible() || isMinimized()) return;
-    const QSize innen = boden_->size();
+    const Größe mindest = fenster_.Mindestgröße();
+    const QSize innen = rolle_->frei({aufgerundet(mindest.breite), aufgerundet(mindest.höhe)});
     const QSize bisher(Pixel(fenster_.lage().breite), Pixel(fenster_.lage().höhe));
     if (innen != bisher) umfeld_.von_Hand([&] { fenster_.von_Hand_bemessen(Twips(innen.width()), Twips(innen.height())); });
+    rolle_->Bedarf({Pixel(fenster_.lage().breite), Pixel(fenster_.lage().höhe)});
 }
 
 void Fensterwidget::changeEvent(QEvent* was) {

@@ -15,6 +15,7 @@ namespace tonkartei {
 
 class Fenster;
 class Menüleiste;
+class Rollfläche;
 
 class Fensterwidget : public QWidget {
 public:
@@ -75,6 +76,8 @@ private:
     void Maße_zeigen();
     void Sichtbarkeit_zeigen();
     void Boden_legen();
+    QSize auf_dem_Schirm(QSize innen) const;
+    QPoint auf_dem_Schirm(QPoint stelle, QSize größe) const;
     int Menühöhe() const;
     void Wartenden_heben();
     void Kürzel_machen();
@@ -82,8 +85,9 @@ private:
 
     Umfeld& umfeld_;
     Fenster& fenster_;
-    const bool teil_;  // of another window
-    QWidget* boden_ = nullptr;
+    const bool teil_;          // of another window
+    Rollfläche* const rolle_;  // under the ground of what is no part
+    QWidget* const boden_;
     std::unique_ptr<Menüleiste> menü_;
     std::map<const Element*, std::unique_ptr<Bauteil>> bauteile_;
     std::size_t gesehene_ = 0;

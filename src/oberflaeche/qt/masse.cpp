@@ -5,6 +5,7 @@
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
@@ -16,6 +17,7 @@
 #include <unordered_map>
 
 #include "oberflaeche/elemente.hpp"
+#include "oberflaeche/fenster.hpp"
 #include "oberflaeche/listen.hpp"
 #include "oberflaeche/qt/schieberbild.hpp"
 #include "oberflaeche/qt/stil.hpp"
@@ -37,6 +39,9 @@ struct Merkmal {
 
 // Pixels; so that "Ok" alone is no harder to hit than its neighbours.
 constexpr int Knopf_mindestens = 76;
+
+// Title bar and borders that a window manager puts around a window, pixels: known only once it has.
+constexpr QSize Fensterrand(8, 38);
 
 struct Eintrag {
     Merkmal merkmal;
@@ -67,6 +72,8 @@ struct Maße::Innen {
     QSlider schieber{Qt::Horizontal};
     QScrollBar bildlauf{Qt::Horizontal};
     QProgressBar balken;
+    QMenuBar menü;
+    Innen() { menü.addAction(QStringLiteral("?")); }
     mutable std::unordered_map<const Element*, Eintrag> bekannte;
 
     // Of the application's font in so many points: rows of dashes are measured by the dozen.
@@ -193,6 +200,21 @@ Größe Maße::Bildschirm() const {
     const QScreen* schirm = QGuiApplication::primaryScreen();
     if (schirm == nullptr) return {};
     return {Twips(schirm->geometry().width()), Twips(schirm->geometry().height())};
+}
+
+QRect freier_Schirm() {
+    constexpr QSize keiner(800, 800);  // what the off-screen platform says of itself
+    const QScreen* schirm = QGuiApplication::primaryScreen();
+    if (schirm == nullptr || (schirm->name().isEmpty() && schirm->size() == keiner)) return {};
+    return schirm->availableGeometry();
+}
+
+Größe Maße::freie_Fläche(const Fenster& fenster) const {
+    const QRect frei = freier_Schirm();
+    if (frei.isEmpty() || fenster.Elternfenster() != nullptr) return {};
+    const int menü = fenster.menü() == nullptr ? 0 : innen_->menü.sizeHint().height();
+    const QSize rand = fenster.ohne_Rand ? QSize(0, 0) : Fensterrand;
+    return {Twips(frei.width() - rand.width()), Twips(frei.height() - rand.height() - menü)};
 }
 
 Bereich Maße::Rahmenrand(const Element& e) const {

@@ -6,9 +6,16 @@
 #include "oberflaeche/element.hpp"
 #include "oberflaeche/geometrie.hpp"
 
+class QRect;
+
 namespace tonkartei {
 
+class Fenster;
+
 int Zeilenhöhe_Pixel(int punkte);
+
+// Where windows may lie, pixels; empty on a platform whose screen is none (off-screen, unless it was told a screen).
+QRect freier_Schirm();
 
 class Maße {
 public:
@@ -22,6 +29,7 @@ public:
     // Remembered as long as nothing changes that it depends on: layouts ask for all controls again and again.
     Größe Wunschgröße(const Element& element) const;
     Größe Bildschirm() const;
+    Größe freie_Fläche(const Fenster& fenster) const;
     Bereich Rahmenrand(const Element& rahmen) const;
 
 private:
