@@ -119,6 +119,7 @@ void Kategorie_bearbeiten::hinzufügen() {
     Tabelle_geändert();
     Liste.wähle(k - 1);
     ansicht().fokus(Kategorie_Name);
+    Kategorie_Name.alles_markieren();
 }
 
 void Kategorie_bearbeiten::löschen() {

@@ -12,6 +12,7 @@ Kategorie_Wahl::Kategorie_Wahl(Ansicht& ansicht, const Modell& modell)
     abspielen.tooltip("spielt das Lied mit WinAmp ab");
     Kategorie_Edit.tooltip("öffnet das Fenster zum Bearbeiten der Kategorien");
     Liste.tooltip("Wählen sie die Kategorie des Liedes");
+    Liste.wählt_erst_auf_Return = true;
     Liste.Klick.verbinden([this] { antworten(als_Byte(Liste.gewählt() + 1)); });
     abspielen.Klick.verbinden([this] {
         if (Datei_abspielen && wartet()) Datei_abspielen(datei_);

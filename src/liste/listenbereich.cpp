@@ -72,6 +72,7 @@ Listenbereich::Listenbereich(Fenster& f, Haus& haus, Albenraum& alben, Kategorie
     Liste2.Doppelklick.verbinden([this] { Zeile_ausführen(); });
     for (Listenfeld* liste : {&Liste, static_cast<Listenfeld*>(&Liste2)})
         liste->Tastendruck.verbinden([this](Taste& taste) {
+            if (taste.art == Taste::Art::F2) Titel.Klick();
             if (taste.art != Taste::Art::Return) return;
             taste.erledigt = true;
             Zeile_ausführen();
@@ -183,6 +184,7 @@ void Listenbereich::Suchtaste(Taste& taste) {
             if (letzte >= 0) Liste.wähle(Liste.gewählt() < letzte ? Liste.gewählt() + 1 : 0);
             break;
         case Taste::Art::Return: Start_gewünscht(); break;
+        case Taste::Art::F2: Titel.Klick(); break;
         case Taste::Art::Escape: Schnellsuche.text(""); break;
         default: return;
     }

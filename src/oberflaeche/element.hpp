@@ -41,7 +41,7 @@ enum Änderung : unsigned {
 
 // A key as handlers see it. A handler that sets `erledigt` keeps the key from its usual effect.
 struct Taste {
-    enum class Art { Zeichen, Return, Escape, Tab, Auf, Ab, Alt, Löschen } art = Art::Zeichen;
+    enum class Art { Zeichen, Return, Escape, Tab, Auf, Ab, Alt, Löschen, F2 } art = Art::Zeichen;
     Text zeichen;  // for Zeichen and Alt
     bool erledigt = false;
 };

@@ -86,6 +86,12 @@ public:
     Ereignis<> Geändert;
     // Only to be read and copied from.
     bool nur_lesen = false;
+    // All of it is marked, ready to be typed over.
+    void alles_markieren() {
+        ++markierungen_;
+        melden(Änderung_Wert);
+    }
+    int Markierungen() const noexcept { return markierungen_; }
     // With a button in it that empties it.
     bool leerbar = false;
     void Startwerte_merken() override;
@@ -93,6 +99,7 @@ public:
 
 private:
     Text text_, start_;
+    int markierungen_ = 0;
 };
 
 // Slider or scroll bar.

@@ -1,6 +1,7 @@
 #include "oberflaeche/fenster.hpp"
 
 #include <algorithm>
+#include <utility>
 
 #include "grundlagen/waehrend.hpp"
 #include "oberflaeche/ansicht.hpp"
@@ -211,6 +212,12 @@ void Fenster::einbetten(Rahmen& platz) {
 }
 
 Fenster* Fenster::Elternfenster() const noexcept { return platz_ == nullptr ? nullptr : &platz_->fenster(); }
+
+void Fenster::Vorgabe_wechseln(Element& knopf) {
+    Element* bisher = std::exchange(Vorgabeknopf, &knopf);
+    if (bisher != nullptr) ansicht_.Element_geändert(*bisher, Änderung_Aussehen);
+    ansicht_.Element_geändert(knopf, Änderung_Aussehen);
+}
 
 void Fenster::malen() {
     if (sichtbar()) ansicht_.Fenster_malen(*this);

@@ -96,6 +96,8 @@ public:
     // Default and cancel button: Return and Escape, where the control itself does not use them.
     Element* Vorgabeknopf = nullptr;
     Element* Abbruchknopf = nullptr;
+    // Another default button, while the window is up.
+    void Vorgabe_wechseln(Element& knopf);
     // The user may change its size.
     bool größenveränderlich = true;
     // No title bar, always in front of the others (splash, progress).

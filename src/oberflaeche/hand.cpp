@@ -1,6 +1,8 @@
 #include "oberflaeche/hand.hpp"
 
 #include <algorithm>
+#include <cstddef>
+#include <vector>
 
 #include "grundlagen/codepage.hpp"
 #include "oberflaeche/ansicht.hpp"
@@ -28,11 +30,32 @@ Text Zugriffszeichen(const Text& beschriftung) {
     return {};
 }
 
+bool wählt_erst_auf_Return(const Element& element) {
+    return element.art() == Elementart::Liste && static_cast<const Listenfeld&>(element).wählt_erst_auf_Return;
+}
+
+// The next option of its group that can be chosen, round about.
+void Option_verschieben(Optionsfeld& option, int schritt) {
+    std::vector<Optionsfeld*> gruppe;
+    for (Element* e : option.fenster().elemente())
+        if (e->art() == Elementart::Option && e->bedienbar())
+            if (auto* eine = static_cast<Optionsfeld*>(e); eine->Gruppe == option.Gruppe) gruppe.push_back(eine);
+    const auto hier = std::find(gruppe.begin(), gruppe.end(), &option);
+    if (hier == gruppe.end() || gruppe.size() < 2) return;
+    const auto anzahl = static_cast<std::ptrdiff_t>(gruppe.size());
+    klicken(*gruppe[static_cast<std::size_t>((hier - gruppe.begin() + schritt + anzahl) % anzahl)]);
+}
+
 bool Wahl_verschieben(Element& element, int schritt) {
     if (element.art() == Elementart::Liste || element.art() == Elementart::Auswahl) {
         auto& liste = static_cast<Zeilenelement&>(element);
         const int neu = std::clamp(liste.gewählt() + schritt, 0, std::max(0, liste.Anzahl() - 1));
-        if (liste.Anzahl() > 0 && neu != liste.gewählt()) liste.wähle(neu);
+        if (liste.Anzahl() > 0 && neu != liste.gewählt())
+            wählt_erst_auf_Return(element) ? liste.markieren(neu) : liste.wähle(neu);
+        return true;
+    }
+    if (element.art() == Elementart::Option) {
+        Option_verschieben(static_cast<Optionsfeld&>(element), schritt);
         return true;
     }
     if (element.art() == Elementart::Regler) {
@@ -124,6 +147,12 @@ void schieben(Element& element, int wert) {
 void Taste_drücken(Element& element, Taste taste) {
     element.Tastendruck(taste);
     if (taste.erledigt) return;
+    if (wählt_erst_auf_Return(element) &&
+        (taste.art == Taste::Art::Return || (taste.art == Taste::Art::Zeichen && taste.zeichen == " "))) {
+        auto& liste = static_cast<Listenfeld&>(element);
+        if (liste.gewählt() >= 0) liste.wähle(liste.gewählt());
+        return;
+    }
     Fenster& fenster = element.fenster();
     switch (taste.art) {
         case Taste::Art::Return: Knopf_drücken(element.art() == Elementart::Knopf ? &element : fenster.Vorgabeknopf); break;
@@ -153,6 +182,7 @@ void Taste_drücken(Element& element, Taste taste) {
             }
             break;
         case Taste::Art::Zeichen: tippen(element, taste); break;
+        case Taste::Art::F2: break;
     }
 }
 

@@ -44,11 +44,15 @@ void Zeilenelement::entfernen(int stelle) {
 void Zeilenelement::leeren() { setzen({}); }
 
 void Zeilenelement::wähle(int stelle) {
+    markieren(stelle);
+    if (stelle >= 0) Klick();
+}
+
+void Zeilenelement::markieren(int stelle) {
     if (stelle < -1 || stelle >= Anzahl()) throw Laufzeitfehler(380, "Ungültiger Eigenschaftswert");
     gewählt_ = stelle;
     Wahl_sichtbar_machen();
     melden(Änderung_Wert);
-    if (stelle >= 0) Klick();
 }
 
 Text Zeilenelement::gewählter_Text() const { return gewählt_ < 0 ? Text{} : zeile(gewählt_); }

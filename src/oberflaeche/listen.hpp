@@ -28,6 +28,8 @@ public:
     int gewählt() const noexcept { return gewählt_; }
     // Error 380 outside -1 to the last line.
     void wähle(int stelle);
+    // The choice moves there, for the eye; nothing is raised.
+    void markieren(int stelle);
     // Text of the chosen line, empty without one.
     Text gewählter_Text() const;
 
@@ -53,6 +55,8 @@ public:
         leertext_ = std::move(wert);
         melden(Änderung_Aussehen);
     }
+    // Choosing does something at once: keys only move the choice, Return and blank choose.
+    bool wählt_erst_auf_Return = false;
     // First visible line. A choice outside the visible lines moves it just as far as needed.
     int erste() const noexcept { return erste_; }
     // Scrolling by hand or view; raises nothing.

@@ -32,6 +32,7 @@ Splash::Splash(Datenbankraum& datenbank)
     Button_4.tooltip("Beendet das Proramm");
     Liste.sichtbar(false);
     for (Knopf* knopf : {&Button_1, &Button_2, &Button_3, &Button_4}) knopf->sichtbar(false);
+    Willkommen.sichtbar(false);
     Vorgabeknopf = &Button_1;
     Liste.Klick.verbinden([this] { Vorschau_zeigen(); });
     Liste.Doppelklick.verbinden([this] { diese_öffnen(); });
@@ -50,7 +51,7 @@ Knoten Splash::anordnung() {
                             Spalte({Knoten(Button_1).Platz_halten(), Knoten(Button_2).Platz_halten(),
                                     Knoten(Button_3).Platz_halten(), Feder(0, 1), Knoten(Button_4).Platz_halten()})})})
                     .dehnen(1, 1),
-                Knoten(Status).zeichen(60)})
+                Knoten(Status).zeichen(60), Willkommen})
         .rand(240);
 }
 
@@ -105,7 +106,12 @@ void Splash::Datenbank_wählen() {
     Informationen_ = {};
     Liste.sichtbar(true);
     for (Knopf* knopf : {&Button_1, &Button_2, &Button_3, &Button_4}) knopf->sichtbar(true);
-    ansicht().fokus(Button_1);
+    // At the very first start there is nothing to be opened.
+    const bool erster_Start = Liste.Anzahl() == 0;
+    Willkommen.sichtbar(erster_Start);
+    Vorgabe_wechseln(erster_Start ? Button_3 : Button_1);
+    neu_anordnen();
+    ansicht().fokus(erster_Start ? Button_3 : Button_1);
     fertig_ = false;
     ansicht().warten_bis(*this, [this] { return fertig_; });
     wählt_ = false;

@@ -29,6 +29,8 @@ public:
     Knopf Button_3{*this, "Button", "&neue erstellen", 3};
     Knopf Button_4{*this, "Button", "Programm-&Ende", 4};
     Schriftfeld Status{*this, "Status"};
+    Schriftfeld Willkommen{*this, "Willkommen",
+                           "Willkommen! Eine Datenbank ist ein Ordner, in dem die Tonkartei Ihre Lieder ordnet."};
 
     // Second half of the start: opens the last collection or lets the user choose. False when the start is given up.
     bool lade_erste_Datenbank();

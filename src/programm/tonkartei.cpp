@@ -22,6 +22,7 @@ Tonkartei::Tonkartei(Haus& haus, Albenraum& alben, Kategorienraum& kategorien, W
     rechte_Spalte.rollbar = true;
     Kürzel.emplace_back("Ctrl+F", [this] { Lieder.Schnellsuche_fokussieren(); });
     Kürzel.emplace_back("Ctrl+Q", [this] { Menüleiste.ausführen("MP_Beenden"); });
+    Kürzel.emplace_back("Alt+F", [this] { Fernsteuerung.mit_Taste_öffnen(); });
     Datenbank.tooltip("Die zuletzt geöffneten Datenbanken, die erste ist die geöffnete");
     Datenbank.Klick.verbinden([this] {
         if (füllt_Liste_ || Datenbank.gewählt() < 0) return;

@@ -64,6 +64,7 @@ Fernsteuerung::Fernsteuerung(Fenster& f, Einstellungen& einstellungen, WinAmp& w
     Vol_Bild.tooltip(WinAmp_Vol.tooltip());
     WinAmp_Zeit.tooltip("gespielte Zeit oder Restzeit, ein Klick wechselt");
 
+    Tasten_verbinden();
     WinAmp_Play.Klick.verbinden([this] {
         if (winamp_.WinAmp_Status != Status_spielt) winamp_.Befehl(WinAmp_Code_Play);
     });
@@ -117,6 +118,23 @@ void Fernsteuerung::Fernsteuerung_schließen(bool animiert) {
     bewegung_.schließen(animiert);
     const Element* fokus = WinAmp_Frame.fenster().ansicht().fokus();
     if (!sichtbar() && fokus != nullptr && fokus->rahmen() == &WinAmp_Frame) Fokus_frei();
+}
+
+void Fernsteuerung::Tasten_verbinden() {
+    WinAmp_Show.Klick.verbinden([this] { mit_Taste_öffnen(); });
+    for (Element* e : std::initializer_list<Element*>{&WinAmp_zurück, &WinAmp_Play, &Winamp_Pause, &WinAmp_Stop, &WinAmp_vor,
+                                                      &WinAmp_Vol, &WinAmp_Zeit, &WinAmp_Position})
+        e->Tastendruck.verbinden([this](Taste& taste) {
+            if (taste.art != Taste::Art::Escape) return;
+            taste.erledigt = true;
+            Fernsteuerung_schließen(einstellungen_.WinAmp_Fernsteuerung_animiert);
+        });
+}
+
+void Fernsteuerung::mit_Taste_öffnen() {
+    if (!WinAmp_Show.bedienbar()) return;
+    if (!sichtbar()) Fernsteuerung_öffnen(einstellungen_.WinAmp_Fernsteuerung_animiert);
+    if (sichtbar()) WinAmp_Frame.fenster().ansicht().fokus(WinAmp_Play);
 }
 
 void Fernsteuerung::Lautstärke_geändert() {

@@ -32,6 +32,8 @@ public:
     bool sichtbar() const noexcept { return WinAmp_Frame.sichtbar(); }
     void Fernsteuerung_öffnen(bool animiert) { bewegung_.öffnen(animiert); }
     void Fernsteuerung_schließen(bool animiert);
+    // Opens it for the keyboard, whose focus goes there; Escape closes it again. Nothing where it is not offered.
+    void mit_Taste_öffnen();
 
     // The main window opens, the settings have been read: marker and volume as they say; nothing is sent.
     void Einstellungen_setzen();
@@ -53,6 +55,7 @@ public:
     Knoten Tafelknoten();
 
 private:
+    void Tasten_verbinden();
     void Lautstärke_geändert();
     void Leiste_angeklickt(int x);
 

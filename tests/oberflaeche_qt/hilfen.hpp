@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWidget>
@@ -26,6 +27,11 @@ inline void Taste_auf(QWidget& w, int taste, const QString& text = {}) {
     QApplication::sendEvent(&w, &unten);
     QKeyEvent oben(QEvent::KeyRelease, taste, Qt::NoModifier, text);
     QApplication::sendEvent(&w, &oben);
+}
+
+inline bool Menütaste(QWidget& w) {
+    QContextMenuEvent ereignis(QContextMenuEvent::Keyboard, QPoint(), w.mapToGlobal(QPoint()));
+    return QApplication::sendEvent(&w, &ereignis);
 }
 
 }  // namespace tonkartei

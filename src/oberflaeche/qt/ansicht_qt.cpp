@@ -183,7 +183,7 @@ void Ansicht_Qt::modal_laufen(Fenster& fenster) {
 
 void Ansicht_Qt::Menü_zeigen(Menüpunkt& wurzel) {
     innen_->maler.abgleichen();
-    Menüpunkt* gewählt = Kontextmenü_zeigen(wurzel, innen_->Eltern());
+    Menüpunkt* gewählt = Kontextmenü_zeigen(wurzel, innen_->maler.Menüplatz(), innen_->Eltern());
     // Entries may have gone while the menu was up.
     if (gewählt != nullptr && enthält(wurzel, gewählt) && gewählt->bedienbar() && !endet()) gewählt->von_Hand_klicken();
 }

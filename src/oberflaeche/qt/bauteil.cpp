@@ -1,6 +1,7 @@
 #include "oberflaeche/qt/bauteil.hpp"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QFile>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -10,6 +11,7 @@
 
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/hand.hpp"
+#include "oberflaeche/listen.hpp"
 #include "oberflaeche/qt/fensterwidget.hpp"
 #include "oberflaeche/qt/stil.hpp"
 #include "oberflaeche/qt/umfeld.hpp"
@@ -81,6 +83,8 @@ bool Bauteil::eventFilter(QObject* wer, QEvent* was) {
             return false;
         case QEvent::Wheel: return !umfeld_.erreichbar(element_.fenster());
         case QEvent::KeyPress: return wer == widget_ && Taste_gedrückt(static_cast<QKeyEvent&>(*was));
+        case QEvent::ContextMenu:
+            return (wer == widget_ || wer == fläche_) && Kontextmenü(static_cast<const QContextMenuEvent&>(*was));
         case QEvent::Shortcut: return !umfeld_.erreichbar(element_.fenster());
         case QEvent::FocusIn:
             if (wer == widget_ && umfeld_.hört()) Fokus_bekommen(static_cast<QFocusEvent&>(*was).reason());
@@ -171,14 +175,15 @@ void Bauteil::Fokus_bekommen(int grund) {
 
 bool Bauteil::Taste_gedrückt(QKeyEvent& ereignis) {
     Taste taste;
-    if (!Taste_aus(ereignis, taste)) return !umfeld_.erreichbar(element_.fenster());
+    if (!Taste_aus(ereignis, taste, element_.art() == Elementart::Option)) return !umfeld_.erreichbar(element_.fenster());
     if (!darf()) return true;
-    const bool auslösend = taste.art == Taste::Art::Return || (taste.art == Taste::Art::Zeichen && taste.zeichen == " ");
+    const bool auslösend = taste.art == Taste::Art::Return || taste.art == Taste::Art::F2 ||
+                           (taste.art == Taste::Art::Zeichen && taste.zeichen == " ");
     if (auslösend && !element_.nimmt_Fokus() && element_.Klick.hat_Hörer()) {
         umfeld_.von_Hand([this] { Hand::klicken(element_); });
         return true;
     }
-    if (taste.art == Taste::Art::Return || taste.art == Taste::Art::Escape) {
+    if (taste.art == Taste::Art::Return || taste.art == Taste::Art::Escape || nach_Modell(taste)) {
         umfeld_.von_Hand([&] { Hand::Taste_drücken(element_, taste); });
         return true;
     }
@@ -187,16 +192,42 @@ bool Bauteil::Taste_gedrückt(QKeyEvent& ereignis) {
     return taste.erledigt;
 }
 
-bool Taste_aus(const QKeyEvent& ereignis, Taste& taste) {
+// Keys whose usual effect is told by the model alone: Qt's option buttons know no groups, and its lists choose where they
+// are to move only.
+bool Bauteil::nach_Modell(const Taste& taste) const {
+    const bool pfeil = taste.art == Taste::Art::Auf || taste.art == Taste::Art::Ab;
+    if (element_.art() == Elementart::Option) return pfeil;
+    if (element_.art() != Elementart::Liste || !static_cast<const Listenfeld&>(element_).wählt_erst_auf_Return) return false;
+    return pfeil || (taste.art == Taste::Art::Zeichen && taste.zeichen == " ");
+}
+
+// A right click without a mouse: on the chosen line of a list.
+bool Bauteil::Kontextmenü(const QContextMenuEvent& ereignis) {
+    if (ereignis.reason() != QContextMenuEvent::Keyboard || !element_.Rechtsklick.hat_Hörer() || !darf()) return false;
+    const int zeile = element_.art() == Elementart::Liste ? static_cast<const Listenfeld&>(element_).gewählt() : -1;
+    umfeld_.menüplatz = fläche_->mapToGlobal(Platz_von(zeile).bottomLeft());
+    umfeld_.von_Hand([&] { Hand::rechtsklicken(element_, zeile); });
+    umfeld_.menüplatz.reset();
+    return true;
+}
+
+QRect Bauteil::Platz_von(int) const { return fläche_->rect(); }
+
+bool Taste_aus(const QKeyEvent& ereignis, Taste& taste, bool option) {
     const bool alt = ereignis.modifiers().testFlag(Qt::AltModifier);
     switch (ereignis.key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter: taste.art = Taste::Art::Return; return !alt;
         case Qt::Key_Escape: taste.art = Taste::Art::Escape; return !alt;
         case Qt::Key_Tab: taste.art = Taste::Art::Tab; return !alt;
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+            taste.art = ereignis.key() == Qt::Key_Left ? Taste::Art::Auf : Taste::Art::Ab;
+            return option && !alt;
         case Qt::Key_Up: taste.art = Taste::Art::Auf; return !alt;
         case Qt::Key_Down: taste.art = Taste::Art::Ab; return !alt;
         case Qt::Key_Delete: taste.art = Taste::Art::Löschen; return !alt;
+        case Qt::Key_F2: taste.art = Taste::Art::F2; return !alt;
         default: break;
     }
     const QString zeichen = ereignis.text();

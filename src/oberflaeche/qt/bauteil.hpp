@@ -5,11 +5,13 @@
 #include <QObject>
 #include <QPoint>
 #include <QPointer>
+#include <QRect>
 #include <QWidget>
 #include <memory>
 
 #include "oberflaeche/element.hpp"
 
+class QContextMenuEvent;
 class QKeyEvent;
 class QMouseEvent;
 
@@ -49,6 +51,8 @@ protected:
     virtual void Zeilen_zeigen() {}
     // The line at a place of the mouse area; -1 none.
     virtual int Zeile_an(QPoint) const { return -1; }
+    // Of a line in the mouse area; of all of it for -1.
+    virtual QRect Platz_von(int zeile) const;
     // The widget lies bare on the ground below: a colour of its own must be filled in.
     virtual bool malt_Grund_nicht() const { return false; }
     // The widget tells clicks by itself.
@@ -67,6 +71,8 @@ private:
     void lesbare_Schrift(QPalette& farben) const;
     bool Maus(QMouseEvent& ereignis);
     bool Taste_gedrückt(QKeyEvent& ereignis);
+    bool nach_Modell(const Taste& taste) const;
+    bool Kontextmenü(const QContextMenuEvent& ereignis);
     void Fokus_bekommen(int grund);
     bool Ablage(QEvent& ereignis);
     QWidget* Zielwidget() const;
@@ -81,6 +87,7 @@ private:
 };
 
 // The key as handlers see it; false for keys that no handler is told of.
-bool Taste_aus(const QKeyEvent& ereignis, Taste& taste);
+// Left and right are keys of option buttons alone, where they are the same as up and down.
+bool Taste_aus(const QKeyEvent& ereignis, Taste& taste, bool option = false);
 
 }  // namespace tonkartei

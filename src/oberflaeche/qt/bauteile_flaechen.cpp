@@ -99,10 +99,30 @@ private:
     }
     void Lage_zeigen() override {
         Bauteil::Lage_zeigen();
-        if (bild_->deckend) bild_->raise();
+        if (bild_->deckend) {
+            bild_->raise();
+            Verdeckte_nachführen();
+        }
         if (rolle_ == nullptr) return;
         rolle_->setGeometry(bild_->rect());
         rolle_->Bedarf({0, Pixel(static_cast<const Rahmen&>(element()).Inhaltshöhe())});
+    }
+
+    // What lies under it can't be reached by the tab key.
+    void Verdeckte_nachführen() const {
+        constexpr char sonst[] = "Fokus_sonst";
+        for (QObject* objekt : bild_->parentWidget()->children()) {
+            auto* nachbar = qobject_cast<QWidget*>(objekt);
+            if (nachbar == nullptr || nachbar == bild_) continue;
+            const bool verdeckt = element().sichtbar() && bild_->geometry().contains(nachbar->geometry());
+            if (verdeckt && nachbar->focusPolicy() != Qt::NoFocus) {
+                nachbar->setProperty(sonst, static_cast<int>(nachbar->focusPolicy()));
+                nachbar->setFocusPolicy(Qt::NoFocus);
+            } else if (!verdeckt && nachbar->property(sonst).isValid()) {
+                nachbar->setFocusPolicy(static_cast<Qt::FocusPolicy>(nachbar->property(sonst).toInt()));
+                nachbar->setProperty(sonst, QVariant());
+            }
+        }
     }
 
     Rahmenbild* bild_;
@@ -121,6 +141,8 @@ private:
     void Aussehen_zeigen() override {
         Bauteil::Aussehen_zeigen();
         const auto& fläche = static_cast<const Bildfläche&>(element());
+        if (fläche.Klick.hat_Hörer() && bild_->focusPolicy() == Qt::NoFocus && !bild_->property("Fokus_sonst").isValid())
+            bild_->setFocusPolicy(Qt::TabFocus);
         bild_->Name(fläche.Bild);
         bild_->eingerahmt = fläche.eingerahmt;
         bild_->füllung = Grundfarbe();

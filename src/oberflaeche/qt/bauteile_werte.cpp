@@ -4,6 +4,7 @@
 #include <QScrollBar>
 #include <algorithm>
 #include <functional>
+#include <utility>
 
 #include "oberflaeche/elemente.hpp"
 #include "oberflaeche/hand.hpp"
@@ -38,11 +39,14 @@ private:
     }
     void Wert_zeigen() override {
         // The caret stays where it is while the user types.
-        const QString text = Anzeigetext(static_cast<const Textfeld&>(element()).text());
+        const auto& feld = static_cast<const Textfeld&>(element());
+        const QString text = Anzeigetext(feld.text());
         if (zeile_->text() != text) zeile_->setText(text);
+        if (std::exchange(markierungen_, feld.Markierungen()) != feld.Markierungen()) zeile_->selectAll();
     }
 
     QLineEdit* zeile_;
+    int markierungen_ = 0;
 };
 
 // A scroll bar whose repeating rests while a handler works: a box that the handler opens takes the release of the button

@@ -47,7 +47,14 @@ public:
         aufnehmen(ansicht_, ansicht_->viewport());
         QObject::connect(ansicht_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
                          [this](const QModelIndex& neu) {
-                             if (neu.isValid()) umfeld_.von_Hand([&] { Hand::wählen(liste_, neu.row()); });
+                             if (!neu.isValid()) return;
+                             umfeld_.von_Hand([&] {
+                                 // By a page or a letter: the mouse and the other keys do not come this way.
+                                 if (liste_.wählt_erst_auf_Return)
+                                     liste_.markieren(neu.row());
+                                 else
+                                     Hand::wählen(liste_, neu.row());
+                             });
                          });
         QObject::connect(ansicht_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int neu) {
             if (umfeld_.hört()) liste_.erste(neu);
@@ -57,6 +64,10 @@ public:
 
 private:
     int Zeile_an(QPoint stelle) const override { return ansicht_->indexAt(stelle).row(); }
+    QRect Platz_von(int zeile) const override {
+        const QRect platz = zeile < 0 ? QRect() : ansicht_->visualRect(modell_.index(zeile));
+        return platz.intersects(ansicht_->viewport()->rect()) ? platz : QRect(0, 0, 1, 1);
+    }
 
     void gedrückt(QPoint stelle) override {
         const int zeile = Zeile_an(stelle);

@@ -1,6 +1,7 @@
 #include "oberflaeche/qt/fenstermaler_qt.hpp"
 
 #include <QCoreApplication>
+#include <QCursor>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QInputDialog>
@@ -124,6 +125,8 @@ bool Fenstermaler_Qt::Bild_speichern(const Eingabefeld& feld, const Text& datei)
     kasten->show();
     return schreiben(kasten->grab(), datei);
 }
+
+QPoint Fenstermaler_Qt::Menüplatz() const { return innen_->umfeld.menüplatz.value_or(QCursor::pos()); }
 
 QWidget* Fenstermaler_Qt::Widget(Fenster& fenster) const { return innen_->umfeld.widget(fenster); }
 

@@ -3,6 +3,7 @@
 // guard of the view. Needs a living Qt_Umgebung.
 #pragma once
 
+#include <QPoint>
 #include <memory>
 
 #include "oberflaeche/fenstermaler.hpp"
@@ -44,6 +45,8 @@ public:
     // Boxes as they would come up.
     bool Bild_speichern(const Meldungsfeld& feld, const Text& datei);
     bool Bild_speichern(const Eingabefeld& feld, const Text& datei);
+    // Where a pop-up menu belongs: at the mouse, or at what a key has called it for.
+    QPoint Menüplatz() const;
     // The window's widget, null before its first loading; parent of boxes.
     QWidget* Widget(Fenster& fenster) const;
     // The control's widget, null when it has none.

@@ -2,6 +2,7 @@
 
 #include <QColorDialog>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -9,6 +10,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QStandardPaths>
 
 #include "oberflaeche/qt/umrechnung.hpp"
 
@@ -45,6 +47,9 @@ Text Pfad(const QString& name) { return QFile::encodeName(name).toStdString(); }
 
 Text Pfad_wählen(QFileDialog& dialog) {
     dialog.setSupportedSchemes({QStringLiteral("file")});
+    // Qt goes on where the last choice was; before the first one it would begin where the program was started.
+    const QString musik = QStandardPaths::writableLocation(QStandardPaths::MusicLocation);
+    if (dialog.directory() == QDir() && QDir(musik).exists()) dialog.setDirectory(musik);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
     return Pfad(dialog.selectedFiles().constFirst());
 }

@@ -1,7 +1,6 @@
 #include "oberflaeche/qt/menueleiste.hpp"
 
 #include <QAction>
-#include <QCursor>
 #include <QEvent>
 #include <QMenu>
 #include <QMenuBar>
@@ -121,10 +120,10 @@ Menüleiste::Menüleiste(Umfeld& umfeld, const Menü& menü, QWidget* eltern)
 
 void Menüleiste::zeigen() { anpassen(*leiste_, menü_.einträge()); }
 
-Menüpunkt* Kontextmenü_zeigen(const Menüpunkt& wurzel, QWidget* eltern) {
+Menüpunkt* Kontextmenü_zeigen(const Menüpunkt& wurzel, QPoint wo, QWidget* eltern) {
     QPointer<QMenu> menü = new QMenu(eltern);
     anpassen(*menü, wurzel.einträge());
-    const QAction* gewählt = menü->exec(QCursor::pos());
+    const QAction* gewählt = menü->exec(wo);
     Menüpunkt* punkt = gewählt == nullptr ? nullptr : punkt_von(*gewählt);
     delete menü;
     return punkt;

@@ -28,7 +28,7 @@ private:
 };
 
 // A pop-up menu with the entries of `wurzel`, shown at the mouse. The entry that was chosen, or null.
-Menüpunkt* Kontextmenü_zeigen(const Menüpunkt& wurzel, QWidget* eltern);
+Menüpunkt* Kontextmenü_zeigen(const Menüpunkt& wurzel, QPoint wo, QWidget* eltern);
 // The same menu as it would come up, without showing it; submenus stay shut.
 QPixmap Menübild(const Menüpunkt& wurzel);
 

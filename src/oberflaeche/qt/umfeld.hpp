@@ -1,9 +1,11 @@
 // What all windows of a painter share.
 #pragma once
 
+#include <QPoint>
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/qt/zielmarken.hpp"
@@ -29,6 +31,8 @@ struct Umfeld {
     Element* gezogen = nullptr;
     Element* gezogen_auf = nullptr;
     Zielmarken marken;
+    // Where a pop-up menu comes up that no mouse has called.
+    std::optional<QPoint> menüplatz;
     // The platform has windows lying on each other.
     const bool stapelt;
     // The window last brought to the front on the screen.

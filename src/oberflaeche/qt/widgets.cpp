@@ -150,6 +150,7 @@ void Bildwidget::paintEvent(QPaintEvent*) {
         Tafel_malen(maler, QRectF(rect()), füllung.isValid() ? füllung : ton.Feld, ton.Linie, 3);
     else if (füllung.isValid())
         maler.fillRect(rect(), füllung);
+    if (hasFocus()) Tafel_malen(maler, QRectF(rect()), Qt::transparent, ton.Akzent, 3);
     Raster_malen(maler);
     if (!name_.empty()) Bild_malen(maler, QRectF(rect()), name_, palette().color(QPalette::WindowText));
     Linien_malen(maler);
