@@ -44,6 +44,8 @@ Alben_Verwaltung::Alben_Verwaltung(Ansicht& ansicht, Modell& modell, Einstellung
 }
 
 void Alben_Verwaltung::beim_Laden() {
+    const auto& tisch = einstellungen_.Schreibtisch;
+    if (tisch.Alben_Breite > 0) größe(tisch.Alben_Breite, tisch.Alben_Höhe);
     const Größe schirm = ansicht().Bildschirm();
     const Long x = einstellungen_.Alben_PositionX, y = einstellungen_.Alben_PositionY;
     // A place that the screen no longer has is as good as none.
@@ -54,6 +56,10 @@ void Alben_Verwaltung::beim_Entladen() {
     if (zustand() == Fensterzustand::normal) {
         einstellungen_.Alben_PositionX = lage().links;
         einstellungen_.Alben_PositionY = lage().oben;
+        if (Größe_gewählt()) {
+            einstellungen_.Schreibtisch.Alben_Breite = lage().breite;
+            einstellungen_.Schreibtisch.Alben_Höhe = lage().höhe;
+        }
     }
     Titel_Tabelle.zeigen(nullptr);
     geschlossen();

@@ -24,6 +24,13 @@ struct Display_Einstellungen {
     Long Init_Zeit[4] = {80, 80, 40, 40};
 };
 
+// What the desktop remembers of us beyond that; in the store only where it is not as here. Sizes in twips, 0: the usual.
+struct Schreibtisch_Einstellungen {
+    Long Breite = 0, Höhe = 0;
+    Long Alben_Breite = 0, Alben_Höhe = 0;
+    bool Liedwechsel_melden = false;
+};
+
 struct Einstellungen {
     Byte Datenbank_Liste_Anzahl = 0;
     Feld<Text, Verzeichnisse_maximal> Datenbank_Liste;  // the newest first
@@ -70,6 +77,7 @@ struct Einstellungen {
     bool Playlist_Position_merken = true;
     bool Playlist_Minimieren = true;
     Display_Einstellungen Display;
+    Schreibtisch_Einstellungen Schreibtisch;
 };
 
 }  // namespace tonkartei

@@ -81,6 +81,15 @@ void Display_durchgehen(D& d, F&& f) {
     }
 }
 
+template <class S, class F>
+void Schreibtisch_durchgehen(S& s, F&& f) {
+    f("Schreibtisch\\Breite", s.Breite);
+    f("Schreibtisch\\Höhe", s.Höhe);
+    f("Schreibtisch\\Alben-Breite", s.Alben_Breite);
+    f("Schreibtisch\\Alben-Höhe", s.Alben_Höhe);
+    f("Schreibtisch\\Liedwechsel melden", s.Liedwechsel_melden);
+}
+
 struct Leser {
     const Registry& registry;
     void operator()(const Text& name, Byte& wert) const { registry.Byte_lesen(name, wert); }
@@ -97,6 +106,17 @@ struct Schreiber {
     void operator()(const Text& name, const Text& wert) const { registry.Wert_schreiben(name, wert); }
 };
 
+// Leaves alone what stands there already, and what does not stand there because it is nothing.
+struct Nachtrag {
+    Registry& registry;
+    template <class T>
+    void operator()(const Text& name, const T& wert) const {
+        T bisher{};
+        Leser{registry}(name, bisher);
+        if (bisher != wert) Schreiber{registry}(name, wert);
+    }
+};
+
 }  // namespace
 
 void Einstellungen_lesen(Registry& registry, Einstellungen& werte, const Einstellungs_Vorgaben& vorgaben) {
@@ -109,6 +129,7 @@ void Einstellungen_lesen(Registry& registry, Einstellungen& werte, const Einstel
     werte.Playlist_Höhe = vorgaben.Playlist_Höhe;
     werte.WinAmp_Verzeichnis = vorgaben.WinAmp_Verzeichnis;
     Einstellungen_durchgehen(werte, Leser{registry});
+    Schreibtisch_durchgehen(werte.Schreibtisch, Leser{registry});
     Display_durchgehen(werte.Display, Schreiber{registry});
     registry.sichern();
 }
@@ -116,6 +137,7 @@ void Einstellungen_lesen(Registry& registry, Einstellungen& werte, const Einstel
 void Einstellungen_schreiben(Registry& registry, const Einstellungen& werte) {
     Einstellungen_durchgehen(werte, Schreiber{registry});
     Display_durchgehen(werte.Display, Schreiber{registry});
+    Schreibtisch_durchgehen(werte.Schreibtisch, Nachtrag{registry});
     registry.sichern();
 }
 

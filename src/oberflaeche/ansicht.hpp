@@ -74,6 +74,10 @@ public:
     virtual void modal_laufen(Fenster& fenster) = 0;                         // until it is hidden
     virtual void Menü_zeigen(Menüpunkt& wurzel) = 0;                         // a pop-up menu at the mouse
     virtual void Zwischenablage_setzen(const Text& text) = 0;
+    // Shows the handbook; false where there is none.
+    virtual bool Handbuch_zeigen() { return false; }
+    // Help was asked for, by F1 in any window.
+    std::function<void()> Hilfe;
     // Whether the desktop has a place for a tray symbol, from which a hidden window can be brought back.
     virtual bool Tray_da() const { return true; }
     // A progress window that has run to its end.

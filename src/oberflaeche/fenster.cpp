@@ -31,6 +31,7 @@ void Fenster::laden() {
     titel_ = start_titel_;
     zustand_ = Fensterzustand::normal;
     aktiv_ = true;
+    größe_gewählt_ = false;
     geladen_ = true;
     if (!anordnung_) anordnung_ = std::make_unique<Anordnung>(ansicht_, anordnung());
     ansicht_.Fenster_aufnehmen(*this);
@@ -151,6 +152,7 @@ void Fenster::von_Hand_bemessen(int breite, int höhe) {
     if (lage_.breite == breite && lage_.höhe == höhe) return;
     lage_.breite = breite;
     lage_.höhe = höhe;
+    größe_gewählt_ = true;
     neu_anordnen();
     if (geladen_) bei_neuer_Größe();
 }

@@ -70,6 +70,8 @@ public:
     // The view's report of what the user did; no echo to the view.
     void von_Hand_bewegt(int links, int oben);
     void von_Hand_bemessen(int breite, int höhe);
+    // The size is another than it was at the loading, by more than the layout's own doing.
+    bool Größe_gewählt() const noexcept { return größe_gewählt_; }
     void von_Hand_Zustand(Fensterzustand neu);
     void zentrieren();
     Größe Mindestgröße();
@@ -145,7 +147,7 @@ private:
     std::unique_ptr<Anordnung> anordnung_;
     Bereich lage_{};
     bool geladen_ = false, sichtbar_ = false, modal_ = false, aktiv_ = true, immer_oben_ = false, startwerte_da_ = false;
-    bool ordnet_ = false, schließt_ = false, außen_verlangt_ = false;
+    bool ordnet_ = false, größe_gewählt_ = false, schließt_ = false, außen_verlangt_ = false;
     Fensterzustand zustand_ = Fensterzustand::normal;
 };
 

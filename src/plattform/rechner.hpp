@@ -20,6 +20,8 @@ public:
     virtual void Sleep(int ms) = 0;
     // True when another instance of the program runs. The answer of the first call holds for the process.
     virtual bool andere_Instanz_läuft() = 0;
+    // Asks that other one to show itself; nothing where it can't be reached.
+    virtual void andere_Instanz_rufen() {}
     // Next value of the generator, in single precision, 0 <= r < 1; and seeding from the clock.
     virtual float Zufallszahl() = 0;
     virtual void Zufall_säen() = 0;

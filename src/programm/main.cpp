@@ -34,10 +34,6 @@ int main(int argc, char** argv) {
     Qt_Umgebung qt(argc, argv);
     const Farbwunsch farben([&qt](Schema schema) { qt.Schema_setzen(schema); });
     Ansicht_Qt ansicht;
-    ansicht.bei_Lesbarkeit(signale.Deskriptor(), [&] {
-        signale.abholen();
-        ansicht.Sitzung_beenden();
-    });
 
     Dateisystem_Linux dateien;
     Registrierung_Linux registrierung(Einstellungsordner() + "einstellungen.reg");
@@ -48,6 +44,11 @@ int main(int argc, char** argv) {
     if (const Text spieler = Spieler_Pfad(); !spieler.empty()) WinAmp_Verknüpfung_anlegen(rechner.WinAmp_Vorgabe(), spieler);
 
     Programm programm(Plattform{dateien, registrierung, fenster, shell, rechner}, ansicht, qt.Kommandozeile());
+    ansicht.bei_Lesbarkeit(signale.Deskriptor(), [&] {
+        const auto zeichen = signale.abholen();
+        if (zeichen.Ende) ansicht.Sitzung_beenden();
+        if (zeichen.Ruf) ansicht.ausführen([&programm] { programm.gerufen(); });
+    });
     ansicht.ausführen([&programm] { programm.starten(); });
     if (!ansicht.endet()) ansicht.Hauptschleife();
     return 0;

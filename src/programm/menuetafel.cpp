@@ -80,7 +80,8 @@ Menüzeile Lieder() {
 
 Menüzeile Hilfe() {
     return Untermenü("OMP_Hilfe", "&?",
-                     {Eintrag("zeige_Info", "&Info"), Eintrag("zeige_Parameter", "Kommandozeilen-Parameter")});
+                     {Eintrag("zeige_Info", "&Info"), Eintrag("zeige_Parameter", "Kommandozeilen-Parameter"),
+                      Strich("Hilfe_Strich1"), Eintrag("zeige_Handbuch", "&Handbuch")});
 }
 
 }  // namespace

@@ -13,6 +13,8 @@ Programm::~Programm() = default;
 
 void Programm::starten() { teile_->starten(); }
 
+void Programm::gerufen() { teile_->gerufen(); }
+
 Programm::Teile::Teile(const Plattform& plattform, Ansicht& ansicht, const Text& Kommandozeile)
     : parameter_(Kommandozeile), haus_(plattform, ansicht) {
     anschließen();
@@ -22,6 +24,11 @@ Programm::Teile::Teile(const Plattform& plattform, Ansicht& ansicht, const Text&
     fenster_.Menüleiste.Befehl("zeige_Info", [this] { infofenster_.zeigen_modal(); });
     fenster_.Menüleiste.Befehl("zeige_Parameter",
                                [this] { haus_.ansicht.informieren("Kommandozeilen-Parameter", Parameter_Beschreibung()); });
+    haus_.ansicht.Hilfe = [this] {
+        if (!haus_.ansicht.Handbuch_zeigen())
+            haus_.ansicht.informieren("Handbuch", "Das Handbuch ist hier nicht installiert.");
+    };
+    fenster_.Menüleiste.Befehl("zeige_Handbuch", haus_.ansicht.Hilfe);
     wiedergabe_.Optionen.geändert.verbinden([this] { kontextmenüs_.nachführen(); });
     // Last: it numbers the controls, and looks which of them do anything.
     markierung_.anschließen();
@@ -47,6 +54,7 @@ void Programm::Teile::anschließen() {
 void Programm::Teile::starten() {
     if (haus_.plattform.Rechner.andere_Instanz_läuft()) {
         haus_.ansicht.informieren(Programmtitel, "Dieses Programm läuft bereits!");
+        haus_.plattform.Rechner.andere_Instanz_rufen();
         haus_.ansicht.beenden();
         return;
     }
@@ -73,6 +81,11 @@ void Programm::Teile::starten() {
     if (parameter_.hat("RA")) fenster_.Wiedergabe.Autoplay.wert(true);
     const int schema = parameter_.Parameter_KS();
     if (schema >= 1 && schema <= haus_.modell.Anz_Kat_Schemas) fenster_.Kategorien.Schema_klicken(schema);
+}
+
+void Programm::Teile::gerufen() {
+    // While the splash is up, it is what there is to see.
+    if (fenster_.geladen() && !splash_.sichtbar()) fenster_.hervorholen();
 }
 
 bool Programm::Teile::darf_schließen(Schließgrund grund) {
@@ -106,6 +119,10 @@ void Programm::Teile::wird_geschlossen() {
     if (fenster_.zustand() == Fensterzustand::normal) {
         haus_.einstellungen.PositionX = fenster_.lage().links;
         haus_.einstellungen.PositionY = fenster_.lage().oben;
+        if (fenster_.Größe_gewählt()) {
+            haus_.einstellungen.Schreibtisch.Breite = fenster_.lage().breite;
+            haus_.einstellungen.Schreibtisch.Höhe = fenster_.lage().höhe;
+        }
     }
     albenverwaltung_.fenster.entladen();
     austausch_.entladen();

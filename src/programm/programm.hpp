@@ -19,6 +19,8 @@ public:
     // The start sequence, up to the shown main window with its collection. Afterwards the view's main loop runs until
     // `Ansicht::endet`. To be called under `Ansicht::ausführen`.
     void starten();
+    // Another start of the program has asked for the one that runs: its window comes to the front.
+    void gerufen();
 
     struct Teile;
 

@@ -33,6 +33,7 @@ struct Programm::Teile {
 
     // The start sequence's steps.
     void starten();
+    void gerufen();
 
 private:
     void anschließen();

@@ -55,6 +55,8 @@ void Tonkartei::beim_Laden() {
 }
 
 void Tonkartei::platzieren(const Startparameter& parameter) {
+    if (const auto& tisch = einstellungen_.Schreibtisch; einstellungen_.Position_merken && tisch.Breite > 0)
+        größe(tisch.Breite, tisch.Höhe);
     const Größe schirm = ansicht().Bildschirm();
     const bool minimiert_starten = parameter.hat("M");
     const bool zentriert_starten = parameter.hat("Z");

@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <optional>
 
+#include "plattform/linux/endesignale.hpp"
 #include "plattform/linux/xdg.hpp"
 #include "testordner.hpp"
 
@@ -37,6 +38,10 @@ TEST(Rechner, ZweiteInstanz) {
         EXPECT_FALSE(erste.andere_Instanz_läuft());
         Rechner_Linux zweite(ordner.pfad());
         EXPECT_TRUE(zweite.andere_Instanz_läuft());
+        const Endesignale signale;
+        zweite.andere_Instanz_rufen();
+        const auto zeichen = signale.abholen();
+        EXPECT_TRUE(zeichen.Ruf && !zeichen.Ende);
         // A started process does not hold the lock on: exec closes it.
         if (::fork() == 0) {
             ::execl("/bin/sleep", "sleep", "0.4", static_cast<char*>(nullptr));

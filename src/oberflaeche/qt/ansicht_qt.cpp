@@ -3,11 +3,15 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QClipboard>
+#include <QDesktopServices>
 #include <QDialog>
+#include <QDir>
 #include <QEventLoop>
+#include <QFile>
 #include <QSocketNotifier>
 #include <QSystemTrayIcon>
 #include <QTimer>
+#include <QUrl>
 #include <algorithm>
 #include <cstdlib>
 #include <map>
@@ -184,6 +188,12 @@ void Ansicht_Qt::modal_laufen(Fenster& fenster) {
 void Ansicht_Qt::Menü_zeigen(Menüpunkt& wurzel) {
     innen_->maler.abgleichen();
     Menüpunkt* gewählt = Kontextmenü_zeigen(wurzel, innen_->maler.Menüplatz(), innen_->Eltern());
+    QGuiApplication::sync();
+    if (QWidget* fenster = innen_->Eltern()) {
+        const Innen::Ruhe ruhe(*innen_);
+        fenster->repaint();
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers);
+    }
     // Entries may have gone while the menu was up.
     if (gewählt != nullptr && enthält(wurzel, gewählt) && gewählt->bedienbar() && !endet()) gewählt->von_Hand_klicken();
 }
@@ -191,6 +201,15 @@ void Ansicht_Qt::Menü_zeigen(Menüpunkt& wurzel) {
 void Ansicht_Qt::Zwischenablage_setzen(const Text& text) { QGuiApplication::clipboard()->setText(Anzeigetext(text)); }
 
 bool Ansicht_Qt::Tray_da() const { return QSystemTrayIcon::isSystemTrayAvailable(); }
+
+bool Ansicht_Qt::Handbuch_zeigen() {
+    const QDir ordner(QCoreApplication::applicationDirPath());
+    // Installed; in the build tree, where it is made beside the presets' folders; beside the program.
+    for (const char* ort : {"../share/doc/tonkartei/handbuch.html", "../../handbuch/handbuch.html", "handbuch.html"})
+        if (const QString pfad = ordner.absoluteFilePath(QLatin1String(ort)); QFile::exists(pfad))
+            return QDesktopServices::openUrl(QUrl::fromLocalFile(QDir::cleanPath(pfad)));
+    return false;
+}
 
 int Ansicht_Qt::Textbreite(const Text& text, int punkte) const { return innen_->maler.Textbreite(text, punkte); }
 int Ansicht_Qt::Texthöhe(int punkte) const { return innen_->maler.Texthöhe(punkte); }

@@ -29,6 +29,7 @@ public:
     void Menü_zeigen(Menüpunkt& wurzel) override;
     void Zwischenablage_setzen(const Text& text) override;
     bool Tray_da() const override;
+    bool Handbuch_zeigen() override;
 
     int Textbreite(const Text& text, int punkte) const override;
     int Texthöhe(int punkte) const override;

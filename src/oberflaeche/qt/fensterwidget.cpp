@@ -358,6 +358,10 @@ void Fensterwidget::changeEvent(QEvent* was) {
 void Fensterwidget::keyPressEvent(QKeyEvent* was) {
     Taste taste;
     Element* knopf = nullptr;
+    if (was->key() == Qt::Key_F1 && umfeld_.hört() && umfeld_.ansicht.Hilfe) {
+        umfeld_.von_Hand(umfeld_.ansicht.Hilfe);
+        return;
+    }
     if (darf() && Taste_aus(*was, taste)) {
         if (taste.art == Taste::Art::Return) knopf = fenster_.Vorgabeknopf;
         if (taste.art == Taste::Art::Escape) knopf = fenster_.Abbruchknopf;

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QEvent>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPixmap>
@@ -114,6 +115,9 @@ Menüleiste::Menüleiste(Umfeld& umfeld, const Menü& menü, QWidget* eltern)
         // Qt has moved the check mark; the model says where it stands.
         aktion->setChecked(punkt->haken());
         if (!punkt->bedienbar() || !umfeld_.erreichbar(punkt->fenster())) return;
+        // The menu is hidden, but perhaps still on the screen: what the entry does may take its time without an event.
+        QGuiApplication::sync();
+        umfeld_.ansicht.Fenster_malen(punkt->fenster());
         umfeld_.von_Hand([punkt] { punkt->von_Hand_klicken(); });
     });
 }

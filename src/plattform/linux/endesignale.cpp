@@ -12,7 +12,7 @@ namespace {
 sigset_t Signale() {
     sigset_t menge;
     sigemptyset(&menge);
-    for (const int signal : {SIGTERM, SIGHUP, SIGINT}) sigaddset(&menge, signal);
+    for (const int signal : {SIGTERM, SIGHUP, SIGINT, SIGURG}) sigaddset(&menge, signal);
     return menge;
 }
 
@@ -31,10 +31,11 @@ Endesignale::~Endesignale() {
     ::close(deskriptor_);
 }
 
-void Endesignale::abholen() const {
+Endesignale::Zeichen Endesignale::abholen() const {
+    Zeichen zeichen;
     signalfd_siginfo signal;
-    while (::read(deskriptor_, &signal, sizeof signal) > 0) {
-    }
+    while (::read(deskriptor_, &signal, sizeof signal) > 0) (signal.ssi_signo == SIGURG ? zeichen.Ruf : zeichen.Ende) = true;
+    return zeichen;
 }
 
 }  // namespace tonkartei

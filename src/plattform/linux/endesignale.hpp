@@ -1,9 +1,10 @@
-// The signals that ask a process to end, as something to read: what they cause runs in the main loop and not in a handler.
+// The signals that ask a process to end, or to show itself, as something to read: what they cause runs in the main loop and
+// not in a handler.
 #pragma once
 
 namespace tonkartei {
 
-// SIGTERM, SIGHUP and SIGINT, for as long as it lives; one a process.
+// SIGTERM, SIGHUP and SIGINT end; SIGURG is the call of a second start. For as long as it lives; one a process.
 class Endesignale {
 public:
     Endesignale();
@@ -13,8 +14,11 @@ public:
 
     // Readable once a signal has come; -1 when there is none, and signals do what they always do.
     int Deskriptor() const noexcept { return deskriptor_; }
+    struct Zeichen {
+        bool Ende = false, Ruf = false;
+    };
     // Takes what has come.
-    void abholen() const;
+    Zeichen abholen() const;
 
 private:
     int deskriptor_ = -1;

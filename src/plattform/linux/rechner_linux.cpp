@@ -3,7 +3,9 @@
 #include <pwd.h>
 #include <sys/file.h>
 
+#include <array>
 #include <climits>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
@@ -64,7 +66,15 @@ bool Rechner_Linux::andere_Instanz_läuft() {
     sperre_ = öffne(ordner + "instanz.lock", O_RDWR | O_CREAT | O_NOFOLLOW, 0600);
     andere_läuft_ =
         sperre_ && ungestört([&] { return ::flock(sperre_.fd(), LOCK_EX | LOCK_NB); }) != 0 && errno == EWOULDBLOCK;
+    // Who holds the lock is in the file.
+    if (sperre_ && !*andere_läuft_ && ::ftruncate(sperre_.fd(), 0) == 0) ::dprintf(sperre_.fd(), "%d", ::getpid());
     return *andere_läuft_;
+}
+
+void Rechner_Linux::andere_Instanz_rufen() {
+    std::array<char, 16> puffer{};
+    if (!andere_läuft_.value_or(false) || ::pread(sperre_.fd(), puffer.data(), puffer.size() - 1, 0) <= 0) return;
+    if (const int prozess = std::atoi(puffer.data()); prozess > 1) ::kill(prozess, SIGURG);
 }
 
 // 24 bits: exact in single precision, so never rounded up to 1.

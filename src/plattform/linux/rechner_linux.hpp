@@ -22,6 +22,8 @@ public:
     void Sleep(int ms) override;
     // Holds the lock for as long as this object lives. Where no lock can be had at all, nobody else is assumed.
     bool andere_Instanz_läuft() override;
+    // By the signal SIGURG, which kills nobody who does not expect it.
+    void andere_Instanz_rufen() override;
     float Zufallszahl() override;
     void Zufall_säen() override;
     Text WinAmp_Vorgabe() override;
