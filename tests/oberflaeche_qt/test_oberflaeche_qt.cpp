@@ -114,11 +114,16 @@ TEST_F(Desktop, MenusTriggerAndShowTheModelsMarks) {
 }
 
 TEST_F(Desktop, ModalWindowBlocksTheOthersUntilItIsHidden) {
+    const auto verschleiert = [&](Fenster& eines) {
+        const auto* schleier = ansicht.maler().Widget(eines)->findChild<QWidget*>("Schleier");
+        return schleier != nullptr && schleier->isVisible();
+    };
     {
         Schaufenster zweites(ansicht);
         QTimer::singleShot(20, [&] {
             Klick(widget<QWidget>(fenster.Ok));
             EXPECT_EQ(fenster.ok, 0);
+            EXPECT_TRUE(verschleiert(fenster) && !verschleiert(zweites));
             Klick(widget<QWidget>(zweites.Ok));
             zweites.verstecken();
         });
@@ -128,6 +133,8 @@ TEST_F(Desktop, ModalWindowBlocksTheOthersUntilItIsHidden) {
     ansicht.Ereignisse_laufen_lassen();
     Klick(widget<QWidget>(fenster.Ok));
     EXPECT_EQ(fenster.ok, 1);
+    ansicht.maler().Sperren_zeigen();
+    EXPECT_FALSE(verschleiert(fenster));
 }
 
 TEST_F(Desktop, TheEndLeavesNestedWaits) {

@@ -50,7 +50,10 @@ struct Ansicht_Qt::Innen {
     explicit Innen(Ansicht_Qt& a) : ansicht(a), maler(a) {
         QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, &verbindungen, [this] { Sitzungsende(); });
         QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &verbindungen,
-                         [this] { offene_schließen(); });
+                         [this] {
+                             offene_schließen();
+                             maler.Sperren_zeigen();
+                         });
     }
 
     // A box that came up when the end was decided already says something about it, and stays until it is answered.

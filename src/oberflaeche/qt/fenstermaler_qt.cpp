@@ -103,6 +103,10 @@ void Fenstermaler_Qt::abgleichen() {
         if (!fenster->geladen()) widget->abgleichen();
 }
 
+void Fenstermaler_Qt::Sperren_zeigen() {
+    for (const auto& [fenster, widget] : innen_->umfeld.fenster) widget->Sperre_zeigen();
+}
+
 bool Fenstermaler_Qt::Bild_speichern(Fenster& fenster, const Text& datei) {
     Fensterwidget* widget = innen_->umfeld.widget(fenster);
     if (widget == nullptr || !fenster.geladen()) return false;

@@ -38,6 +38,8 @@ public:
 
     // Brings all windows up to date with the model now.
     void abgleichen();
+    // Shows which of them wait for a dialog.
+    void Sperren_zeigen();
     // The inside of a loaded window as PNG, in the pixels of the screen; false when the file cannot be written.
     bool Bild_speichern(Fenster& fenster, const Text& datei);
     // The menu below that entry.

@@ -21,6 +21,7 @@
 #include "oberflaeche/qt/masse.hpp"
 #include "oberflaeche/qt/menueleiste.hpp"
 #include "oberflaeche/qt/rollflaeche.hpp"
+#include "oberflaeche/qt/schleier.hpp"
 #include "oberflaeche/qt/umrechnung.hpp"
 
 namespace tonkartei {
@@ -301,6 +302,14 @@ void Fensterwidget::Wartenden_heben() {
         dialog->activateWindow();
         return;
     }
+}
+
+void Fensterwidget::Sperre_zeigen() {
+    const bool wartet = !teil_ && gezeigt_ && !umfeld_.erreichbar(fenster_);
+    if (wartet == (schleier_ != nullptr && !schleier_->isHidden())) return;
+    if (schleier_ == nullptr) schleier_ = new Schleier(this, [this] { Wartenden_heben(); });
+    schleier_->setVisible(wartet);
+    schleier_->raise();
 }
 
 bool Fensterwidget::event(QEvent* was) {

@@ -16,6 +16,7 @@ namespace tonkartei {
 class Fenster;
 class Menüleiste;
 class Rollfläche;
+class Schleier;
 
 class Fensterwidget : public QWidget {
 public:
@@ -43,6 +44,8 @@ public:
     std::vector<QWidget*> Ziele(const Element& quelle);
     // The focus goes to the next control.
     void weitergeben() { focusNextChild(); }
+    // Shows whether it waits for a dialog.
+    void Sperre_zeigen();
     // What lies in the frame gets colours anew.
     void Inhalt_neu_färben(const Element& rahmen);
 
@@ -88,6 +91,7 @@ private:
     const bool teil_;          // of another window
     Rollfläche* const rolle_;  // under the ground of what is no part
     QWidget* const boden_;
+    Schleier* schleier_ = nullptr;  // once it is needed
     std::unique_ptr<Menüleiste> menü_;
     std::map<const Element*, std::unique_ptr<Bauteil>> bauteile_;
     std::size_t gesehene_ = 0;
