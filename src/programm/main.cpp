@@ -32,7 +32,7 @@ int main(int argc, char** argv) {
     // Before anything starts a thread, which would die of a signal in our place.
     const Endesignale signale;
     Qt_Umgebung qt(argc, argv);
-    const Farbwunsch farben([&qt](Schema schema) { qt.Schema_setzen(schema); });
+    const Farbwunsch farben([&qt](Farbschema schema) { qt.Schema_setzen(schema); });
     Ansicht_Qt ansicht;
 
     Dateisystem_Linux dateien;

@@ -37,8 +37,8 @@ TEST(Farbwunsch, FollowsThePortalAndDoesWithoutOne) {
     ASSERT_TRUE(bus.waitForReadyRead()) << bus.errorString().toStdString();
     qputenv("DBUS_SESSION_BUS_ADDRESS", bus.readLine().trimmed());
 
-    std::optional<Schema> schema;
-    const auto merken = [&schema](Schema neues) { schema = neues; };
+    std::optional<Farbschema> schema;
+    const auto merken = [&schema](Farbschema neues) { schema = neues; };
     {
         const Farbwunsch ohne_Portal(merken);
         EXPECT_FALSE(schema.has_value());
@@ -53,9 +53,9 @@ TEST(Farbwunsch, FollowsThePortalAndDoesWithoutOne) {
     ASSERT_TRUE(seine.registerVirtualObject("/org/freedesktop/portal/desktop", &portal));
     ASSERT_TRUE(seine.registerService("org.freedesktop.portal.Desktop"));
     const Farbwunsch wunsch(merken);
-    EXPECT_EQ(schema, Schema::dunkel) << "at once";
+    EXPECT_EQ(schema, Farbschema::dunkel) << "at once";
 
-    const auto sagen = [&](const char* bereich, const char* was, const QVariant& wert, Schema erwartet) {
+    const auto sagen = [&](const char* bereich, const char* was, const QVariant& wert, Farbschema erwartet) {
         QDBusMessage signal = QDBusMessage::createSignal("/org/freedesktop/portal/desktop",
                                                          "org.freedesktop.portal.Settings", "SettingChanged");
         signal << bereich << was << QVariant::fromValue(QDBusVariant(wert));
@@ -64,11 +64,11 @@ TEST(Farbwunsch, FollowsThePortalAndDoesWithoutOne) {
         while (schema != erwartet && !frist.hasExpired()) QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
         EXPECT_EQ(schema, erwartet) << was;
     };
-    sagen("org.freedesktop.appearance", "contrast", 1U, Schema::kontrast_dunkel);
-    sagen("org.freedesktop.appearance", "color-scheme", 2U, Schema::kontrast_hell);
-    sagen("org.gnome.desktop.a11y.interface", "high-contrast", true, Schema::kontrast_hell);
-    sagen("org.freedesktop.appearance", "contrast", 0U, Schema::kontrast_hell);
-    sagen("org.gnome.desktop.a11y.interface", "high-contrast", false, Schema::hell);
+    sagen("org.freedesktop.appearance", "contrast", 1U, Farbschema::kontrast_dunkel);
+    sagen("org.freedesktop.appearance", "color-scheme", 2U, Farbschema::kontrast_hell);
+    sagen("org.gnome.desktop.a11y.interface", "high-contrast", true, Farbschema::kontrast_hell);
+    sagen("org.freedesktop.appearance", "contrast", 0U, Farbschema::kontrast_hell);
+    sagen("org.gnome.desktop.a11y.interface", "high-contrast", false, Farbschema::hell);
 
     faden.quit();
     faden.wait();

@@ -31,7 +31,8 @@ TEST(Farben, TextsMoveJustAsFarAsNeeded) {
 
 TEST(Farben, EveryPaletteCanBeReadThroughout) {
     std::vector<Töne> alle;
-    for (const Schema schema : {Schema::hell, Schema::dunkel, Schema::kontrast_hell, Schema::kontrast_dunkel})
+    for (const Farbschema schema :
+         {Farbschema::hell, Farbschema::dunkel, Farbschema::kontrast_hell, Farbschema::kontrast_dunkel})
         alle.push_back(Töne::von(Farbtafel(schema)));
     EXPECT_EQ(Kontrast(alle[2].Schrift, alle[2].Linie) * Kontrast(alle[3].Schrift, alle[3].Linie), 1);
     for (const QColor& grund :
@@ -101,7 +102,7 @@ TEST_F(Desktop, AnotherSchemeReachesTheWindowsThatAreUp) {
     auto& knopf = widget<QAbstractButton>(fenster.Ok);
     fenster.Ok.farbe(RGB(0, 0, 60));
     abgleichen();
-    for (const Schema schema : {Schema::dunkel, Schema::kontrast_hell, Schema::hell}) {
+    for (const Farbschema schema : {Farbschema::dunkel, Farbschema::kontrast_hell, Farbschema::hell}) {
         QApplication::setPalette(Farbtafel(schema));
         ansicht.Ereignisse_laufen_lassen();
         ansicht.Ereignisse_laufen_lassen();

@@ -142,12 +142,12 @@ QColor getönt(const QColor& fläche, const QColor& ton, double anteil, const QC
 
 Töne Töne::zu(const QColor& grund) { return ist_dunkel(grund) ? auf_Dunklem(grund) : auf_Hellem(grund); }
 
-Töne Töne::im(Schema schema) {
+Töne Töne::im(Farbschema schema) {
     switch (schema) {
-        case Schema::hell: break;
-        case Schema::dunkel: return zu(QColor::fromRgb(dunkler_Grund));
-        case Schema::kontrast_hell: return mit_viel_Kontrast(false);
-        case Schema::kontrast_dunkel: return mit_viel_Kontrast(true);
+        case Farbschema::hell: break;
+        case Farbschema::dunkel: return zu(QColor::fromRgb(dunkler_Grund));
+        case Farbschema::kontrast_hell: return mit_viel_Kontrast(false);
+        case Farbschema::kontrast_dunkel: return mit_viel_Kontrast(true);
     }
     return {};
 }
@@ -179,7 +179,7 @@ QPalette Töne::Palette() const {
     return p;
 }
 
-QPalette Farbtafel(Schema schema) { return Töne::im(schema).Palette(); }
+QPalette Farbtafel(Farbschema schema) { return Töne::im(schema).Palette(); }
 
 QPalette Farbtafel_für(Farbe grund) { return Töne::zu(Qt_Farbe(grund)).Palette(); }
 

@@ -10,7 +10,7 @@
 namespace tonkartei {
 
 // As the user's system wishes it.
-enum class Schema { hell, dunkel, kontrast_hell, kontrast_dunkel };
+enum class Farbschema { hell, dunkel, kontrast_hell, kontrast_dunkel };
 
 // Contrasts that can be read, and that can be made out.
 inline constexpr double lesbarer_Text = 4.5, erkennbare_Linie = 3.0;
@@ -35,13 +35,13 @@ struct Töne {
     QColor Bahn = 0xffeef1f4, Griff = 0xff7d8894, Griff_betont = 0xff6b7783, Griff_gehalten = 0xff55626f;
 
     static Töne zu(const QColor& grund);
-    static Töne im(Schema schema);
+    static Töne im(Farbschema schema);
     // Those that the palette was made of, whatever colours a control has of its own.
     static Töne von(const QPalette& palette);
     QPalette Palette() const;
 };
 
-QPalette Farbtafel(Schema schema = Schema::hell);
+QPalette Farbtafel(Farbschema schema = Farbschema::hell);
 // For a window or a frame with that ground.
 QPalette Farbtafel_für(Farbe grund);
 

@@ -13,20 +13,21 @@
 #include "oberflaeche/qt/bilder.hpp"
 #include "oberflaeche/qt/farben.hpp"
 #include "oberflaeche/qt/stil.hpp"
+#include "oberflaeche/qt/zugang.hpp"
 
 namespace tonkartei {
 namespace {
 
-std::optional<Schema> gewünschtes_Schema() {
+std::optional<Farbschema> gewünschtes_Schema() {
     const QByteArray wunsch = qgetenv("TONKARTEI_FARBEN");
-    if (wunsch == "hell") return Schema::hell;
-    if (wunsch == "dunkel") return Schema::dunkel;
-    if (wunsch == "kontrast") return Schema::kontrast_dunkel;
-    if (wunsch == "kontrast-hell") return Schema::kontrast_hell;
+    if (wunsch == "hell") return Farbschema::hell;
+    if (wunsch == "dunkel") return Farbschema::dunkel;
+    if (wunsch == "kontrast") return Farbschema::kontrast_dunkel;
+    if (wunsch == "kontrast-hell") return Farbschema::kontrast_hell;
     return std::nullopt;
 }
 
-void Farben_setzen(Schema schema) {
+void Farben_setzen(Farbschema schema) {
     const QPalette tafel = Farbtafel(schema);
     QApplication::setPalette(tafel);
     QToolTip::setPalette(tafel);
@@ -59,13 +60,14 @@ Qt_Umgebung::Qt_Umgebung(int& argc, char** argv) {
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     innen_ = std::make_unique<Innen>(argc, argv);
     QApplication& anwendung = innen_->anwendung;
+    Zugang_einrichten();
     QCoreApplication::setApplicationName(QStringLiteral("Tonkartei"));
     QGuiApplication::setDesktopFileName(QStringLiteral("tonkartei"));
     // The model decides when the program ends.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     const bool dunkler_Schreibtisch = ist_dunkel(QGuiApplication::palette().color(QPalette::Window));
     QApplication::setStyle(new Stil);
-    Farben_setzen(gewünschtes_Schema().value_or(dunkler_Schreibtisch ? Schema::dunkel : Schema::hell));
+    Farben_setzen(gewünschtes_Schema().value_or(dunkler_Schreibtisch ? Farbschema::dunkel : Farbschema::hell));
     if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
         // No desktop that would say a font: always the same one, so that pictures can be compared.
         QFont schrift(QStringLiteral("DejaVu Sans"));
@@ -81,7 +83,7 @@ Qt_Umgebung::Qt_Umgebung(int& argc, char** argv) {
 
 Qt_Umgebung::~Qt_Umgebung() = default;
 
-void Qt_Umgebung::Schema_setzen(Schema schema) {
+void Qt_Umgebung::Schema_setzen(Farbschema schema) {
     if (!gewünschtes_Schema()) Farben_setzen(schema);
 }
 

@@ -25,7 +25,7 @@ public:
 
     // The colours of all windows, those that are up included. At first they are what the desktop's own palette looks like.
     // What TONKARTEI_FARBEN says ("hell", "dunkel", "kontrast", "kontrast-hell") stays whatever is set here.
-    void Schema_setzen(Schema schema);
+    void Schema_setzen(Farbschema schema);
 
 private:
     struct Innen;

@@ -15,7 +15,7 @@ namespace {
 constexpr char Dienst[] = "org.freedesktop.portal.Desktop", Objekt[] = "/org/freedesktop/portal/desktop",
                Schnittstelle[] = "org.freedesktop.portal.Settings";
 constexpr char Aussehen[] = "org.freedesktop.appearance", Zugang[] = "org.gnome.desktop.a11y.interface";
-constexpr char Farbschema[] = "color-scheme", Kontrast_Wunsch[] = "contrast", Kontrast_alt[] = "high-contrast";
+constexpr char Schemaname[] = "color-scheme", Kontrast_Wunsch[] = "contrast", Kontrast_alt[] = "high-contrast";
 // A portal that runs answers within a few; the first window is waiting.
 constexpr int Geduld_ms = 100, Geduld_beim_Anlaufen_ms = 25000;
 
@@ -27,7 +27,7 @@ QVariant ausgepackt(QVariant wert) {
 
 }  // namespace
 
-Farbwunsch::Farbwunsch(std::function<void(Schema)> neu) : neu_(std::move(neu)) {
+Farbwunsch::Farbwunsch(std::function<void(Farbschema)> neu) : neu_(std::move(neu)) {
     if (!Sitzungsbus_da()) return;
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) return;
@@ -37,7 +37,7 @@ Farbwunsch::Farbwunsch(std::function<void(Schema)> neu) : neu_(std::move(neu)) {
     bus.connect(QLatin1String(Dienst), QLatin1String(Objekt), QLatin1String(Schnittstelle), QStringLiteral("SettingChanged"),
                 this, SLOT(neuer_Wert(QString, QString, QDBusVariant)));
     for (const auto& [bereich, name] :
-         {std::pair(Aussehen, Farbschema), std::pair(Aussehen, Kontrast_Wunsch), std::pair(Zugang, Kontrast_alt)})
+         {std::pair(Aussehen, Schemaname), std::pair(Aussehen, Kontrast_Wunsch), std::pair(Zugang, Kontrast_alt)})
         fragen(bereich, name, läuft);
 }
 
@@ -57,7 +57,7 @@ void Farbwunsch::fragen(const char* bereich, const char* name, bool warten) {
 
 void Farbwunsch::merken(const QString& bereich, const QString& name, const QVariant& wert) {
     const QVariant inhalt = ausgepackt(wert);
-    if (bereich == QLatin1String(Aussehen) && name == QLatin1String(Farbschema))
+    if (bereich == QLatin1String(Aussehen) && name == QLatin1String(Schemaname))
         dunkel_ = inhalt.toUInt() == 1;
     else if (bereich == QLatin1String(Aussehen) && name == QLatin1String(Kontrast_Wunsch))
         kontrast_ = inhalt.toUInt() == 1;
@@ -66,14 +66,14 @@ void Farbwunsch::merken(const QString& bereich, const QString& name, const QVari
 }
 
 void Farbwunsch::neuer_Wert(const QString& bereich, const QString& name, const QDBusVariant& wert) {
-    const Schema bisher = schema();
+    const Farbschema bisher = schema();
     merken(bereich, name, wert.variant());
     if (schema() != bisher) neu_(schema());
 }
 
-Schema Farbwunsch::schema() const {
-    if (kontrast_ || kontrast_alt_) return dunkel_ ? Schema::kontrast_dunkel : Schema::kontrast_hell;
-    return dunkel_ ? Schema::dunkel : Schema::hell;
+Farbschema Farbwunsch::schema() const {
+    if (kontrast_ || kontrast_alt_) return dunkel_ ? Farbschema::kontrast_dunkel : Farbschema::kontrast_hell;
+    return dunkel_ ? Farbschema::dunkel : Farbschema::hell;
 }
 
 }  // namespace tonkartei

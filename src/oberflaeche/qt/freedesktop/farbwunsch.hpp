@@ -15,7 +15,7 @@ class Farbwunsch : public QObject {
 public:
     // Tells `neu` what the desktop wants as soon as that is another than light, and whenever it changes. Waits for the first
     // answer, but not long.
-    explicit Farbwunsch(std::function<void(Schema)> neu);
+    explicit Farbwunsch(std::function<void(Farbschema)> neu);
 
 private slots:  // their names are ASCII: moc knows no umlauts
     void neuer_Wert(const QString& bereich, const QString& name, const QDBusVariant& wert);
@@ -23,9 +23,9 @@ private slots:  // their names are ASCII: moc knows no umlauts
 private:
     void fragen(const char* bereich, const char* name, bool warten);
     void merken(const QString& bereich, const QString& name, const QVariant& wert);
-    Schema schema() const;
+    Farbschema schema() const;
 
-    std::function<void(Schema)> neu_;
+    std::function<void(Farbschema)> neu_;
     bool dunkel_ = false, kontrast_ = false, kontrast_alt_ = false;
 };
 
