@@ -12,6 +12,7 @@
 #include "oberflaeche/element.hpp"
 #include "oberflaeche/farbe.hpp"
 #include "oberflaeche/geometrie.hpp"
+#include "oberflaeche/medien.hpp"
 
 namespace tonkartei {
 
@@ -78,6 +79,13 @@ public:
     virtual bool Handbuch_zeigen() { return false; }
     // Help was asked for, by F1 in any window.
     std::function<void()> Hilfe;
+    // The desktop wants to know what plays; only then it is told, since the telling asks the player.
+    virtual bool fragt_nach_Medien() const { return false; }
+    virtual void Medien_zeigen(const Medienstand&) {}
+    // What it may ask of the program.
+    Medienbefehle Medien;
+    // A word at the edge of the screen that goes by itself.
+    virtual void mitteilen(const Text& /*titel*/, const Text& /*text*/) {}
     // Whether the desktop has a place for a tray symbol, from which a hidden window can be brought back.
     virtual bool Tray_da() const { return true; }
     // A progress window that has run to its end.

@@ -32,6 +32,7 @@ void Datenbank_anschließen(Datenbankraum& datenbank, Tonkartei& fenster);
 void Alben_anschließen(Albenraum& alben, Wiedergabe& wiedergabe, Tonkartei& fenster);
 void Kategorien_anschließen(Kategorie_Wahl& wahl, const Modell& modell, Wiedergabe& wiedergabe, Tonkartei& fenster);
 void Wiedergabe_anschließen(Wiedergabe& wiedergabe, Liedautomatik& automatik, Haus& haus, Tonkartei& fenster);
+void Medien_anschließen(Wiedergabe& wiedergabe, Liedautomatik& automatik, Haus& haus, Tonkartei& fenster);
 void Playlist_anschließen(Playlist& playlist, Liedautomatik& automatik, Sitzung& sitzung, Hinzufügen& hinzufügen);
 void Albenverwaltung_anschließen(Albenverwaltung& verwaltung, Liederraum& lieder, Tonkartei& fenster);
 void Austausch_anschließen(Austausch& austausch, Playlist& playlist, Tonkartei& fenster);

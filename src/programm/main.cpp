@@ -4,6 +4,8 @@
 #include "grundlagen/auskunft.hpp"
 #include "oberflaeche/qt/ansicht_qt.hpp"
 #include "oberflaeche/qt/freedesktop/farbwunsch.hpp"
+#include "oberflaeche/qt/freedesktop/mitteilung.hpp"
+#include "oberflaeche/qt/freedesktop/mpris.hpp"
 #include "oberflaeche/qt/qt_umgebung.hpp"
 #include "plattform/linux/dateisystem_linux.hpp"
 #include "plattform/linux/endesignale.hpp"
@@ -50,6 +52,11 @@ int main(int argc, char** argv) {
         if (zeichen.Ruf) ansicht.ausführen([&programm] { programm.gerufen(); });
     });
     ansicht.ausführen([&programm] { programm.starten(); });
+    // Behind the start: it must not wait for a bus.
+    Mpris medien(ansicht.Medien, [&ansicht](const std::function<void()>& befehl) { ansicht.ausführen(befehl); });
+    Mitteilung mitteilung;
+    if (medien.spricht()) ansicht.bei_Medien = [&medien](const Medienstand& stand) { medien.zeigen(stand); };
+    ansicht.bei_Mitteilung = [&mitteilung](const Text& titel, const Text& text) { mitteilung.zeigen(titel, text); };
     if (!ansicht.endet()) ansicht.Hauptschleife();
     return 0;
 }

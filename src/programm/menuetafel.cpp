@@ -79,9 +79,10 @@ Menüzeile Lieder() {
 }
 
 Menüzeile Hilfe() {
-    return Untermenü("OMP_Hilfe", "&?",
-                     {Eintrag("zeige_Info", "&Info"), Eintrag("zeige_Parameter", "Kommandozeilen-Parameter"),
-                      Strich("Hilfe_Strich1"), Eintrag("zeige_Handbuch", "&Handbuch")});
+    return Untermenü(
+        "OMP_Hilfe", "&?",
+        {Eintrag("zeige_Info", "&Info"), Eintrag("zeige_Parameter", "Kommandozeilen-Parameter"), Strich("Hilfe_Strich1"),
+         Eintrag("zeige_Handbuch", "&Handbuch"), Eintrag("Liedwechsel_melden", "&Liedwechsel melden")});
 }
 
 }  // namespace

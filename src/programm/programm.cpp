@@ -40,6 +40,7 @@ void Programm::Teile::anschließen() {
     Alben_anschließen(alben_, wiedergabe_, fenster_);
     Kategorien_anschließen(kategorien_.wahl, haus_.modell, wiedergabe_, fenster_);
     Wiedergabe_anschließen(wiedergabe_, automatik_, haus_, fenster_);
+    Medien_anschließen(wiedergabe_, automatik_, haus_, fenster_);
     Playlist_anschließen(playlist_, automatik_, datenbank_.sitzung, lieder_.hinzufügen);
     Lieder_anschließen(lieder_, lied_befehle_, haus_, playlist_, fenster_);
     Albenverwaltung_anschließen(albenverwaltung_, lieder_, fenster_);

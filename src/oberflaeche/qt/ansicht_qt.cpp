@@ -214,6 +214,14 @@ bool Ansicht_Qt::Handbuch_zeigen() {
     return false;
 }
 
+void Ansicht_Qt::Medien_zeigen(const Medienstand& stand) {
+    if (bei_Medien) bei_Medien(stand);
+}
+
+void Ansicht_Qt::mitteilen(const Text& titel, const Text& text) {
+    if (bei_Mitteilung) bei_Mitteilung(titel, text);
+}
+
 int Ansicht_Qt::Textbreite(const Text& text, int punkte) const { return innen_->maler.Textbreite(text, punkte); }
 int Ansicht_Qt::Texthöhe(int punkte) const { return innen_->maler.Texthöhe(punkte); }
 Größe Ansicht_Qt::Wunschgröße(const Element& element) const { return innen_->maler.Wunschgröße(element); }

@@ -30,6 +30,9 @@ public:
     void Zwischenablage_setzen(const Text& text) override;
     bool Tray_da() const override;
     bool Handbuch_zeigen() override;
+    bool fragt_nach_Medien() const override { return static_cast<bool>(bei_Medien); }
+    void Medien_zeigen(const Medienstand& stand) override;
+    void mitteilen(const Text& titel, const Text& text) override;
 
     int Textbreite(const Text& text, int punkte) const override;
     int Texthöhe(int punkte) const override;
@@ -50,6 +53,9 @@ public:
     Fenstermaler_Qt& maler() noexcept;
     // The user's session ends: the main window closes, boxes take their default.
     void Sitzung_beenden();
+    // Whoever passes on what plays, and who shows a word; none at first.
+    std::function<void(const Medienstand&)> bei_Medien;
+    std::function<void(const Text& titel, const Text& text)> bei_Mitteilung;
     // Calls it from the main loop whenever the descriptor can be read from; -1 is none.
     void bei_Lesbarkeit(int deskriptor, std::function<void()> handler);
 
