@@ -1,18 +1,10 @@
-// Entry point on Linux with Qt: builds the machine and the view, and runs the program on them.
+// Entry point: builds the machine and the view, and runs the program on them. Which machine, the build says (echt.hpp).
 #include <cstdio>
 
+#include "echt.hpp"
 #include "grundlagen/auskunft.hpp"
 #include "oberflaeche/qt/ansicht_qt.hpp"
 #include "oberflaeche/qt/qt_umgebung.hpp"
-#include "plattform/linux/dateisystem_linux.hpp"
-#include "plattform/linux/endesignale.hpp"
-#include "plattform/linux/fenstersystem_linux.hpp"
-#include "plattform/linux/papierkorb_freedesktop.hpp"
-#include "plattform/linux/rechner_linux.hpp"
-#include "plattform/linux/registrierung_linux.hpp"
-#include "plattform/linux/shell_linux.hpp"
-#include "plattform/linux/spielerort.hpp"
-#include "plattform/linux/xdg.hpp"
 #include "programm/hilfetext.hpp"
 #include "programm/programm.hpp"
 #include "programm/shellfrage.hpp"
@@ -20,30 +12,28 @@
 using namespace tonkartei;
 
 int main(int argc, char** argv) {
-    if (const auto auskunft = Auskunft(argc, argv, Hilfetext(), "Tonkartei " TONKARTEI_VERSION "\n")) {
+    Aufruf aufruf(argc, argv);
+    if (const auto auskunft = Auskunft(aufruf.Anzahl, aufruf.Argumente, Hilfetext(), "Tonkartei " TONKARTEI_VERSION "\n")) {
         std::fputs(auskunft->c_str(), stdout);
         return 0;
     }
-    if (!Qt_Umgebung::Bildschirm_da()) {
-        std::fputs("Tonkartei: kein Bildschirm da (weder DISPLAY noch WAYLAND_DISPLAY ist gesetzt).\n", stderr);
+    if (const Text hindernis = Aufruf::Hindernis(); !hindernis.empty()) {
+        std::fputs(("Tonkartei: " + hindernis + ".\n").c_str(), stderr);
         return 1;
     }
     // Before anything starts a thread, which would die of a signal in our place.
-    const Endesignale signale;
-    const Qt_Umgebung qt(argc, argv);
+    Endesignale signale;
+    const Qt_Umgebung qt(aufruf.Anzahl, aufruf.Argumente);
     Ansicht_Qt ansicht;
-    ansicht.bei_Lesbarkeit(signale.Deskriptor(), [&] {
-        signale.abholen();
-        ansicht.Sitzung_beenden();
-    });
+    signale.anschließen(ansicht, [&] { ansicht.Sitzung_beenden(); });
 
-    Dateisystem_Linux dateien;
-    Registrierung_Linux registrierung(Einstellungsordner() + "einstellungen.reg");
-    Fenstersystem_Linux fenster;
-    Papierkorb_Freedesktop papierkorb(dateien);
-    Shell_Linux shell(dateien, papierkorb, Frage_über(ansicht));
-    Rechner_Linux rechner;
-    if (const Text spieler = Spieler_Pfad(); !spieler.empty()) WinAmp_Verknüpfung_anlegen(rechner.WinAmp_Vorgabe(), spieler);
+    Dateisystem_echt dateien;
+    Registrierung_echt registrierung(Einstellungsort());
+    Fenstersystem_echt fenster;
+    Papierkorb_echt papierkorb(dateien);
+    Shell_echt shell(dateien, papierkorb, Frage_über(ansicht));
+    Rechner_echt rechner;
+    Spieler_bereitstellen(rechner.WinAmp_Vorgabe());
 
     Programm programm(Plattform{dateien, registrierung, fenster, shell, rechner}, ansicht, qt.Kommandozeile());
     ansicht.ausführen([&programm] { programm.starten(); });

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <sstream>
 
-#include "plattform/linux/registrierung_linux.hpp"
+#include "echt.hpp"
 #include "testordner.hpp"
 
 namespace tonkartei {
@@ -37,7 +37,7 @@ const Text Wurzel = "Software\\Tonkartei\\";
 
 struct Einstellungen_Test : testing::Test {
     Testordner ordner;
-    Registrierung_Linux registrierung{ordner.pfad("e.reg")};
+    Registrierung_echt registrierung{ordner.pfad("e.reg")};
     Registry registry{registrierung};
     Einstellungen werte;
     Einstellungs_Vorgaben vorgaben{100, 200, 300, 400, 500, 600, "C:\\Programme\\WinAmp\\"};

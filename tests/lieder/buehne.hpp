@@ -10,14 +10,12 @@
 
 #include "alben/albenraum.hpp"
 #include "datenbank/datenbankraum.hpp"
+#include "echt.hpp"
 #include "kategorien/kategorienraum.hpp"
 #include "lieder/hinzufuegen/hinzufuegen.hpp"
 #include "mp3/bausteine.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/hand.hpp"
-#include "plattform/linux/dateisystem_linux.hpp"
-#include "plattform/linux/registrierung_linux.hpp"
-#include "plattform/linux/shell_linux.hpp"
 #include "probe/fenstersystem_probe.hpp"
 #include "probe/rechner_probe.hpp"
 #include "probe/stumme_ansicht.hpp"
@@ -68,15 +66,15 @@ public:
     }
 };
 
-struct Dateisystem_Knapp : Dateisystem_Linux {
+struct Dateisystem_Knapp : Dateisystem_echt {
     std::optional<std::uint64_t> frei = std::uint64_t{1} << 40;
     Text unlesbare_Länge;  // asking this file's length fails
 
     std::optional<std::uint64_t> freie_Bytes(const Text&) override { return frei; }
-    bool Datei_da(const Text& pfad) override { return Dateisystem_Linux::Dateilänge(pfad) >= 0; }
+    bool Datei_da(const Text& pfad) override { return Dateisystem_echt::Dateilänge(pfad) >= 0; }
     std::int64_t Dateilänge(const Text& pfad) override {
         if (pfad == unlesbare_Länge) throw Dateifehler(57, pfad);
-        return Dateisystem_Linux::Dateilänge(pfad);
+        return Dateisystem_echt::Dateilänge(pfad);
     }
 };
 
@@ -151,9 +149,9 @@ struct Bühne {
     Drehbuch ansicht;
     Dateisystem_Knapp dateien;
     Eimer korb;
-    Shell_Linux echte_Shell{dateien, korb};
+    Shell_echt echte_Shell{dateien, korb};
     Shell_mit_Tücken shell{echte_Shell};
-    Registrierung_Linux registrierung{ordner.pfad("reg")};
+    Registrierung_echt registrierung{ordner.pfad("reg")};
     Fenstersystem_Probe spieler;
     Rechner_Probe rechner{{2026, 1, 15, 12, 0, 0}, ordner.pfad(), false};
     Haus haus{{dateien, registrierung, spieler, shell, rechner}, ansicht};

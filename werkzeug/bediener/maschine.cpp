@@ -6,12 +6,7 @@
 #include <system_error>
 #include <thread>
 
-#include "plattform/linux/dateisystem_linux.hpp"
-#include "plattform/linux/fenstersystem_linux.hpp"
-#include "plattform/linux/papierkorb_freedesktop.hpp"
-#include "plattform/linux/rechner_linux.hpp"
-#include "plattform/linux/registrierung_linux.hpp"
-#include "plattform/linux/shell_linux.hpp"
+#include "echt.hpp"
 #include "probe/dateisystem_probe.hpp"
 #include "probe/fenstersystem_probe.hpp"
 #include "probe/rechner_probe.hpp"
@@ -81,11 +76,11 @@ public:
 
 private:
     Störungen störungen_;
-    Dateisystem_Linux platte_;
+    Dateisystem_echt platte_;
     Dateisystem_Probe dateien_{platte_, störungen_};
-    Registrierung_Linux registrierung_;
-    Papierkorb_Freedesktop papierkorb_;
-    Shell_Linux schale_{dateien_, papierkorb_};
+    Registrierung_echt registrierung_;
+    Papierkorb_echt papierkorb_;
+    Shell_echt schale_{dateien_, papierkorb_};
     Fenstersystem_Probe fenster_;
     Shell_Probe shell_{schale_, fenster_, störungen_};
     Rechner_Probe rechner_;
@@ -98,9 +93,9 @@ private:
 };
 
 // The real machine, but a player's folder of the run's own: the user's stays as it is.
-class Rechner_echt : public Rechner_Linux {
+class Rechner_des_Laufs : public Rechner_echt {
 public:
-    explicit Rechner_echt(const Text& wurzel) : Rechner_Linux(wurzel), winamp_(wurzel + "winamp/") {
+    explicit Rechner_des_Laufs(const Text& wurzel) : Rechner_echt(wurzel), winamp_(wurzel + "winamp/") {
         std::error_code fehler;
         const auto programm = std::filesystem::read_symlink("/proc/self/exe", fehler);
         if (!fehler) WinAmp_Verknüpfung_anlegen(winamp_, (programm.parent_path() / "WinAmp.Exe").string());
@@ -143,13 +138,13 @@ public:
     }
 
 private:
-    Dateisystem_Linux dateien_;
-    Registrierung_Linux registrierung_;
-    Papierkorb_Freedesktop papierkorb_;
-    Shell_Linux schale_{dateien_, papierkorb_};
-    Fenstersystem_Linux fenster_;
-    Rechner_echt rechner_;
-    Rechner_Linux andere_;  // plays the other instance where one is asked for
+    Dateisystem_echt dateien_;
+    Registrierung_echt registrierung_;
+    Papierkorb_echt papierkorb_;
+    Shell_echt schale_{dateien_, papierkorb_};
+    Fenstersystem_echt fenster_;
+    Rechner_des_Laufs rechner_;
+    Rechner_echt andere_;  // plays the other instance where one is asked for
     Wanduhr uhr_;
     Mitschrift mitschrift_{[this] { return uhr_.jetzt(); }};
     Fenstersystem_Mitschrift fenster_mit_{fenster_, mitschrift_};

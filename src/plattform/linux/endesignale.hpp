@@ -1,6 +1,9 @@
 // The signals that ask a process to end, as something to read: what they cause runs in the main loop and not in a handler.
 #pragma once
 
+#include <functional>
+#include <utility>
+
 namespace tonkartei {
 
 // SIGTERM, SIGHUP and SIGINT, for as long as it lives; one a process.
@@ -11,12 +14,19 @@ public:
     Endesignale(const Endesignale&) = delete;
     Endesignale& operator=(const Endesignale&) = delete;
 
-    // Readable once a signal has come; -1 when there is none, and signals do what they always do.
-    int Deskriptor() const noexcept { return deskriptor_; }
+    // `sicht` calls back when the descriptor can be read. Without one, signals do what they always do.
+    template <class Sicht>
+    void anschließen(Sicht& sicht, std::function<void()> handler) const {
+        sicht.bei_Lesbarkeit(deskriptor_, [this, handler = std::move(handler)] {
+            abholen();
+            handler();
+        });
+    }
+
+private:
     // Takes what has come.
     void abholen() const;
 
-private:
     int deskriptor_ = -1;
 };
 
