@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "plattform/dateisystem.hpp"
-#include "plattform/windows/breit.hpp"
+#include "plattform/windows/ordnersuche.hpp"
 #include "plattform/windows/pfadform.hpp"
 #include "plattform/windows/systemgriff.hpp"
 #include "plattform/windows/winapi.hpp"
@@ -22,21 +22,12 @@ void eintragen(DWORD merkmale, std::uint64_t länge, const FILETIME& geändert, 
     ziel.geändert = zusammen(geändert.dwHighDateTime, geändert.dwLowDateTime);
 }
 
-// Many things are reparse points, such as files whose bytes lie in a cloud; only these two lead elsewhere.
-bool ist_Verweis(const std::wstring& pfad) {
-    WIN32_FIND_DATAW fund;
-    const HANDLE suche = ::FindFirstFileW(pfad.c_str(), &fund);
-    if (suche == INVALID_HANDLE_VALUE) return false;
-    ::FindClose(suche);
-    return fund.dwReserved0 == IO_REPARSE_TAG_SYMLINK || fund.dwReserved0 == IO_REPARSE_TAG_MOUNT_POINT;
-}
-
 }  // namespace
 
 unsigned long ansehen(const std::wstring& pfad, Dateiangaben& ergebnis, bool Verweis_selbst) {
     WIN32_FILE_ATTRIBUTE_DATA daten;
     if (::GetFileAttributesExW(pfad.c_str(), GetFileExInfoStandard, &daten) == 0) return ::GetLastError();
-    ergebnis.Verweis = (daten.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 && ist_Verweis(pfad);
+    ergebnis.Verweis = (daten.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 && Ordnersuche(pfad).ist_Verweis();
     if (ergebnis.Verweis && !Verweis_selbst) return genau_ansehen(pfad, ergebnis);
     eintragen(daten.dwFileAttributes, zusammen(daten.nFileSizeHigh, daten.nFileSizeLow), daten.ftLastWriteTime, ergebnis);
     return 0;

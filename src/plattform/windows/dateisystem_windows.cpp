@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "plattform/windows/breit.hpp"
-#include "plattform/windows/pfadform.hpp"
+#include "plattform/windows/ordnersuche.hpp"
 #include "plattform/windows/systemfehler.hpp"
 #include "plattform/windows/winapi.hpp"
 
@@ -206,10 +206,7 @@ std::optional<std::uint64_t> Dateisystem_Windows::freie_Bytes(const Text& ordner
 
 void Dateisystem_Windows::aktuellen_Ordner_setzen(const Text& ordner) {
     if (!Ordner_da(ordner)) throw Dateifehler(76, ordner);
-    const std::wstring ganzer = weit(ordner);
-    std::wstring richtig(::GetLongPathNameW(ganzer.c_str(), nullptr, 0), L'\0');
-    richtig.resize(::GetLongPathNameW(ganzer.c_str(), richtig.data(), static_cast<DWORD>(richtig.size())));
-    aktueller_Ordner_ = mit_Trenner(Pfadform_von(schmal(richtig.empty() ? ganzer : richtig), {})->Name);
+    aktueller_Ordner_ = mit_Trenner(ganz_in_seiner_Schreibweise(*Pfadform_von(ordner, aktueller_Ordner_)));
 }
 
 }  // namespace tonkartei

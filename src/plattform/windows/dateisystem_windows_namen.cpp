@@ -3,6 +3,7 @@
 
 #include "plattform/windows/breit.hpp"
 #include "plattform/windows/dateisystem_windows.hpp"
+#include "plattform/windows/ordnersuche.hpp"
 #include "plattform/windows/pfadform.hpp"
 #include "plattform/windows/systemfehler.hpp"
 #include "plattform/windows/winapi.hpp"
@@ -12,30 +13,14 @@ namespace {
 
 constexpr DWORD Handvoll = 256U << 10U;
 
-class Ordnersuche {
-public:
-    explicit Ordnersuche(const std::wstring& muster)
-        : suche_(::FindFirstFileExW(muster.c_str(), FindExInfoBasic, &Fund, FindExSearchNameMatch, nullptr,
-                                    FIND_FIRST_EX_LARGE_FETCH)) {}
-    ~Ordnersuche() {
-        if (*this) ::FindClose(suche_);
-    }
-    Ordnersuche(const Ordnersuche&) = delete;
-    Ordnersuche& operator=(const Ordnersuche&) = delete;
-
-    explicit operator bool() const { return suche_ != INVALID_HANDLE_VALUE; }
-    bool weiter() { return ::FindNextFileW(suche_, &Fund) != 0; }
-
-    WIN32_FIND_DATAW Fund;
-
-private:
-    HANDLE suche_;
-};
-
-// The path with the last name as the disk has it.
-std::wstring in_seiner_Schreibweise(const std::wstring& weit) {
-    const Ordnersuche suche(weit);
-    return suche ? weit.substr(0, weit.rfind(L'\\') + 1) + suche.Fund.cFileName : weit;
+// Some file systems take another spelling of the same name for nothing to do.
+void über_Umweg(const std::wstring& ziel, const Text& nach) {
+    const std::wstring jetzt = in_seiner_Schreibweise(ziel), umweg = ziel + L".neu";
+    if (::MoveFileExW(jetzt.c_str(), umweg.c_str(), 0) == 0) werfen_letzten(nach);
+    if (::MoveFileExW(umweg.c_str(), ziel.c_str(), MOVEFILE_WRITE_THROUGH) != 0) return;
+    const auto fehler = ::GetLastError();
+    ::MoveFileExW(umweg.c_str(), jetzt.c_str(), MOVEFILE_WRITE_THROUGH);
+    werfen(fehler, nach);
 }
 
 // Bytes of one open file into another; false with the system's error set.
@@ -66,7 +51,10 @@ void Dateisystem_Windows::umbenennen(const Text& von, const Text& nach) {
         werfen(fehler, nach);
     }
     if (offen_hier(datei.Kennung) != nullptr) throw Dateifehler(75, von);
-    if (::MoveFileExW(quelle.c_str(), ziel.c_str(), MOVEFILE_WRITE_THROUGH) != 0) return;
+    if (::MoveFileExW(quelle.c_str(), ziel.c_str(), MOVEFILE_WRITE_THROUGH) != 0) {
+        if (in_seiner_Schreibweise(ziel) != ziel) über_Umweg(ziel, nach);
+        return;
+    }
     const auto fehler = ::GetLastError();
     // Somebody else has it open, or something of the folder.
     if (fehler == ERROR_SHARING_VIOLATION) throw Dateifehler(75, von);
@@ -114,20 +102,17 @@ void Dateisystem_Windows::Ordner_löschen(const Text& pfad) {
 std::vector<Dateisystem::Eintrag> Dateisystem_Windows::auflisten(const Text& pfad) {
     if (!Ordner_da(pfad)) throw Dateifehler(76, pfad);
     const Text ordner = mit_Trenner(Pfadform_von(pfad, aktueller_Ordner_)->Name);
-    std::wstring muster = Pfadform{ordner}.weit() + L"*";
-    Ordnersuche suche(muster);
+    Ordnersuche suche(Pfadform{ordner}.weit() + L"*");
     // The root of a drive may hold nothing at all.
     if (!suche && ::GetLastError() == ERROR_FILE_NOT_FOUND) return {};
     if (!suche) werfen_letzten(pfad, 70);
     std::vector<Eintrag> einträge;
     do {
         Eintrag eintrag;
-        eintrag.Name = schmal(suche.Fund.cFileName);
+        eintrag.Name = schmal(suche.Name());
         if (eintrag.Name == "." || eintrag.Name == "..") continue;
-        eintrag.ist_Ordner = (suche.Fund.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-        eintrag.ist_Verweis =
-            (suche.Fund.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
-            (suche.Fund.dwReserved0 == IO_REPARSE_TAG_SYMLINK || suche.Fund.dwReserved0 == IO_REPARSE_TAG_MOUNT_POINT);
+        eintrag.ist_Ordner = suche.ist_Ordner();
+        eintrag.ist_Verweis = suche.ist_Verweis();
         einträge.push_back(std::move(eintrag));
     } while (suche.weiter());
     if (const auto fehler = ::GetLastError(); fehler != ERROR_NO_MORE_FILES) werfen(fehler, pfad, 70);

@@ -12,6 +12,7 @@ namespace {
 
 constexpr std::string_view Freigabe = "\\\\";
 constexpr std::string_view langer_Vorsatz = "\\\\?\\";
+constexpr std::size_t längster_Name = 255;  // 16-bit units
 constexpr std::string_view Gerätevorsatz = "\\\\.\\";
 
 bool hat_Laufwerk(std::string_view pfad) {
@@ -29,8 +30,8 @@ bool reserviert(std::string_view name) {
 }
 
 bool möglich(std::string_view name) {
-    return name.back() != '.' && name.back() != ' ' && !reserviert(name) &&
-           std::none_of(name.begin(), name.end(), [](char zeichen) {
+    return (name.size() <= längster_Name || breit(name).size() <= längster_Name) && name.back() != '.' &&
+           name.back() != ' ' && !reserviert(name) && std::none_of(name.begin(), name.end(), [](char zeichen) {
                return static_cast<unsigned char>(zeichen) < ' ' || std::string_view("<>:\"|?*").find(zeichen) != Text::npos;
            });
 }
@@ -85,7 +86,7 @@ std::optional<Pfadform> Pfadform_von(const Text& pfad, const Text& ordner) {
             return std::nullopt;
         }
     }
-    Pfadform form{ganz.substr(0, wurzel), ganz.size() > wurzel && ganz.back() == Trenner};
+    Pfadform form{ganz.substr(0, wurzel), wurzel, ganz.size() > wurzel && ganz.back() == Trenner};
     for (const auto name : namen) (form.Name += name) += Trenner;
     if (!namen.empty()) form.Name.pop_back();
     return form;

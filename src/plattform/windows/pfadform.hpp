@@ -1,6 +1,7 @@
 // Paths in the forms of this system.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -10,6 +11,7 @@ namespace tonkartei {
 
 struct Pfadform {
     Text Name;                // "C:\a\b" or "\\server\share\a\b"; no separator at its end but a root's
+    std::size_t Wurzel = 0;   // so many bytes of it are the root
     bool als_Ordner = false;  // it was written with one
 
     // For the wide calls: with the prefix that lifts their limit of 260 units, and their habit of reading names otherwise
