@@ -107,7 +107,7 @@ constexpr std::string_view Aufrufe =
     "getuid "
     "fdatasync ftruncate execv execvp strcasecmp strncasecmp dlopen nanosleep fork lstat fstat sigaction mmap ioctl ";
 // Asking for the machine is a way of naming it.
-constexpr std::string_view Schalter = " __linux__ __unix__ __APPLE__ _WIN32 _POSIX_C_SOURCE _GNU_SOURCE ";
+constexpr std::string_view Schalter = " __linux__ __unix__ __APPLE__ _WIN32 _WIN64 _POSIX_C_SOURCE _GNU_SOURCE ";
 
 bool im_Wort(char zeichen) {
     const auto byte = static_cast<unsigned char>(zeichen);

@@ -90,7 +90,8 @@ Dateisystem::Griff Dateisystem_Windows::öffnen(const Text& pfad, Dateimodus mod
     if (!griff) werfen_beim_Öffnen(::GetLastError(), ganzer, pfad);
     Dateiangaben datei;
     if (const auto fehler = ansehen(griff.griff(), datei); fehler != 0) werfen(fehler, pfad);
-    if (datei.Ordner) throw Dateifehler(75, pfad);
+    // Not every server minds the protection.
+    if (datei.Ordner || (schreibend && datei.schreibgeschützt)) throw Dateifehler(75, pfad);
     const Offen* schon = offen_hier(datei.Kennung);
     if (schon != nullptr && (schon->schreibend || schreibend)) throw Dateifehler(55, pfad);
     if (neu && datei.Länge > 0 && ::SetEndOfFile(griff.griff()) == 0) werfen_letzten(pfad);

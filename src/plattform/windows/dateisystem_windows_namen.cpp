@@ -133,7 +133,7 @@ void Dateisystem_Windows::kopieren(const Text& von, const Text& nach) {
                                  FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!in) werfen_beim_Öffnen(::GetLastError(), ziel, nach);
     if (const auto fehler = ansehen(in.griff(), dort); fehler != 0) werfen(fehler, nach);
-    if (dort.Ordner || dort.Kennung == datei.Kennung) throw Dateifehler(75, nach);
+    if (dort.Ordner || dort.schreibgeschützt || dort.Kennung == datei.Kennung) throw Dateifehler(75, nach);
     if (offen_hier(dort.Kennung) != nullptr) throw Dateifehler(55, nach);
     if (dort.Länge > 0 && ::SetEndOfFile(in.griff()) == 0) werfen_letzten(nach);
     const FILETIME zeit{static_cast<DWORD>(datei.geändert), static_cast<DWORD>(datei.geändert >> 32U)};

@@ -44,16 +44,7 @@ bool Fenstersystem_Windows::antwortet(Hwnd fenster) {
     return ::IsWindow(Fenster(fenster)) != 0 && SendMessageA(fenster, WM_NULL, 0, 0).has_value();
 }
 
-// The system's own call does not tell upper from lower case.
-Hwnd Fenstersystem_Windows::FindWindowA(const Text& klasse) {
-    const std::wstring name = breit(klasse);
-    if (name.empty()) return 0;
-    HWND fenster = nullptr;
-    do {
-        fenster = ::FindWindowExW(nullptr, fenster, name.c_str(), nullptr);
-    } while (fenster != nullptr && GetClassNameA(Griff(fenster)) != klasse);
-    return Griff(fenster);
-}
+Hwnd Fenstersystem_Windows::FindWindowA(const Text& klasse) { return Griff(::FindWindowW(breit(klasse).c_str(), nullptr)); }
 
 Hwnd Fenstersystem_Windows::GetWindow(Hwnd fenster, std::uint32_t art) {
     return fenster == 0 ? 0 : Griff(::GetWindow(Fenster(fenster), art));

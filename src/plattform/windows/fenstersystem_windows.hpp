@@ -9,7 +9,8 @@
 
 namespace tonkartei {
 
-// Window order is the system's, topmost first. Whatever would wait for the other process is done only when it has just
+// Window order is the system's, topmost first; names of classes are told apart without case, and answered as their first
+// user in the session has spelt them. Whatever would wait for the other process is done only when it has just
 // shown that it answers.
 class Fenstersystem_Windows final : public Fenstersystem {
 public:

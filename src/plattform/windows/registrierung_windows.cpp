@@ -67,7 +67,6 @@ std::vector<std::wstring> Unterschlüssel(HKEY schlüssel) {
         if (::RegEnumKeyExW(schlüssel, i, name, &länge, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS) break;
         namen.emplace_back(name, länge);
     }
-    std::sort(namen.begin(), namen.end());
     return namen;
 }
 
@@ -181,6 +180,9 @@ std::vector<std::pair<Text, Text>> Registrierung_Windows::alle() const {
         for (const auto& name : untere) besuche(pfad.empty() ? name : pfad + L'\\' + name);
     };
     besuche(eigener_Baum_ ? L"" : L"Software\\Tonkartei");
+    // What lies below a key follows it, whatever its neighbours are called.
+    const auto rang = [](const auto& eintrag) { return ersetzt(groß(eintrag.first), "\\", "\x01"); };
+    std::sort(liste.begin(), liste.end(), [&](const auto& a, const auto& b) { return rang(a) < rang(b); });
     return liste;
 }
 

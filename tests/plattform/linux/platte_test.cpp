@@ -5,9 +5,9 @@
 
 #include <fcntl.h>
 
-#include "platte.hpp"
 #include "plattform/hilfen.hpp"
 #include "plattform/kanaele.hpp"
+#include "plattform/linux/platte.hpp"
 #include "plattform/plattenbuehne.hpp"
 
 namespace tonkartei {

@@ -6,9 +6,9 @@
 #include <chrono>
 #include <thread>
 
-#include "platte.hpp"
 #include "plattform/hilfen.hpp"
 #include "plattform/linux/befehlstext.hpp"
+#include "plattform/linux/platte.hpp"
 #include "plattform/offene_datei.hpp"
 #include "plattform/shellbuehne.hpp"
 
