@@ -2,8 +2,8 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <utime.h>
 
+#include <chrono>
 #include <deque>
 #include <functional>
 #include <vector>
@@ -129,10 +129,9 @@ struct Bühne {
         modell.Lieder[nr].Größe = gerundet(static_cast<double>(länge) / 1024.0);
     }
     static void stellen(const Text& pfad, long zeit) {
-        const utimbuf zeiten{zeit, zeit};
-        if (zeit != 0) {
-            ASSERT_EQ(::utime(pfad.c_str(), &zeiten), 0);
-        }
+        const auto seit_1970 = std::chrono::sys_time<std::chrono::seconds>(std::chrono::seconds(zeit));
+        if (zeit != 0)
+            std::filesystem::last_write_time(Testordner::weg_zu(pfad), std::chrono::file_clock::from_sys(seit_1970));
     }
     Long übernimm(std::vector<Text> pfade, Übernahmeart art = Übernahmeart::kopieren) {
         Übernahme_Auftrag auftrag;

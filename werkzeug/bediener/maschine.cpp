@@ -2,8 +2,6 @@
 
 #include <chrono>
 #include <cstdlib>
-#include <filesystem>
-#include <system_error>
 #include <thread>
 
 #include "echt.hpp"
@@ -19,7 +17,7 @@ namespace {
 const Text Wurzelschlüssel = "Software\\Tonkartei\\";
 
 Text Temp_anlegen(Dateisystem& dateien, const Text& wurzel) {
-    Text temp = wurzel + "temp/";
+    Text temp = mit_Trenner(wurzel + "temp");
     if (!dateien.Ordner_da(temp)) dateien.Ordner_anlegen(temp);
     return temp;
 }
@@ -92,18 +90,16 @@ private:
     Probe probe_{rechner_, dateien_, fenster_, störungen_};
 };
 
-// The real machine, but a player's folder of the run's own: the user's stays as it is.
+// The real machine, but folders of the run's own: the user's stay as they are.
 class Rechner_des_Laufs : public Rechner_echt {
 public:
-    explicit Rechner_des_Laufs(const Text& wurzel) : Rechner_echt(wurzel), winamp_(wurzel + "winamp/") {
-        std::error_code fehler;
-        const auto programm = std::filesystem::read_symlink("/proc/self/exe", fehler);
-        if (!fehler) WinAmp_Verknüpfung_anlegen(winamp_, (programm.parent_path() / "WinAmp.Exe").string());
-    }
+    Rechner_des_Laufs(const Text& wurzel, Text temp)
+        : Rechner_echt(wurzel), winamp_(Spieler_bereitstellen(mit_Trenner(wurzel + "winamp"))), temp_(std::move(temp)) {}
     Text WinAmp_Vorgabe() override { return winamp_; }
+    Text Temp_Verzeichnis() override { return temp_; }
 
 private:
-    Text winamp_;
+    Text winamp_, temp_;
 };
 
 class Maschine_echt : public Maschine {
@@ -111,9 +107,8 @@ public:
     explicit Maschine_echt(const Maschinenwahl& wahl)
         : registrierung_(wahl.wurzel + "einstellungen.reg"),
           papierkorb_(dateien_, wahl.wurzel + "papierkorb"),
-          rechner_(wahl.wurzel),
+          rechner_(wahl.wurzel, Temp_anlegen(dateien_, wahl.wurzel)),
           andere_(wahl.wurzel) {
-        setenv("TEMP", Temp_anlegen(dateien_, wahl.wurzel).c_str(), 1);
         if (wahl.ordner) dateien_.aktuellen_Ordner_setzen(*wahl.ordner);
         if (wahl.zweite_Instanz) andere_.andere_Instanz_läuft();
     }

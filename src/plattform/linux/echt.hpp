@@ -23,9 +23,10 @@ using Rechner_echt = Rechner_Linux;
 
 // Where the settings lie.
 inline Text Einstellungsort() { return Einstellungsordner() + "einstellungen.reg"; }
-// The player, into the folder where it is looked for; without one nothing is done.
-inline void Spieler_bereitstellen(const Text& ordner) {
+// The folder in which the player of this build is found: a link to it is put into this one.
+inline Text Spieler_bereitstellen(const Text& ordner) {
     if (const Text spieler = Spieler_Pfad(); !spieler.empty()) WinAmp_Verknüpfung_anlegen(ordner, spieler);
+    return ordner;
 }
 
 }  // namespace tonkartei

@@ -21,7 +21,7 @@ using Rechner_echt = Rechner_Windows;
 
 // Where the settings lie: the user's own tree.
 inline Text Einstellungsort() { return {}; }
-// Nothing to be done: the player's folder is where the player is.
-inline void Spieler_bereitstellen(const Text&) {}
+// The folder in which the player of this build is found: its own.
+inline Text Spieler_bereitstellen(const Text&) { return Ordner_von(Programmpfad()); }
 
 }  // namespace tonkartei
