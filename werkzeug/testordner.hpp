@@ -66,6 +66,11 @@ public:
         return pfad(std::string(name) + "/");
     }
 
+    // A folder's or file's name that is no text, where the system has such.
+    static constexpr const char* krummer_Name = std::filesystem::path::preferred_separator == '/' ? "Gr\xFC\xDF"
+                                                                                                    "e"
+                                                                                                  : "Grüße";
+
     bool da(std::string_view name) const { return std::filesystem::exists(std::filesystem::symlink_status(weg(name))); }
     // The bytes of a file below the folder; "(fehlt)" when there is none.
     std::string inhalt(std::string_view name) const { return inhalt_von(pfad(name)); }
