@@ -19,12 +19,7 @@ public:
     Testordner() : Testordner(std::filesystem::temp_directory_path()) {}
     // Below another folder, for tests that need another volume.
     explicit Testordner(const std::filesystem::path& oberer) {
-        std::random_device zufall;
-        std::filesystem::path versuch;
-        do versuch = oberer / ("tonkartei-test-" + std::to_string(zufall()));
-        while (!std::filesystem::create_directory(versuch));
-        std::filesystem::permissions(versuch, std::filesystem::perms::owner_all);
-        pfad_ = Text_von(versuch / "");
+        pfad_ = Text_von(frischer_Ordner(oberer, "tonkartei-test-") / "");
     }
     ~Testordner() {
         if (pfad_.empty()) return;
@@ -37,6 +32,16 @@ public:
     }
     Testordner(const Testordner&) = delete;
     Testordner& operator=(const Testordner&) = delete;
+
+    // Under a name that nobody had, and closed to others.
+    static std::filesystem::path frischer_Ordner(const std::filesystem::path& oberer, const std::string& vorsatz) {
+        std::random_device zufall;
+        std::filesystem::path versuch;
+        do versuch = oberer / (vorsatz + std::to_string(zufall()));
+        while (!std::filesystem::create_directory(versuch));
+        std::filesystem::permissions(versuch, std::filesystem::perms::owner_all);
+        return versuch;
+    }
 
     // With a separator at its end; `name` below it.
     const std::string& pfad() const { return pfad_; }
