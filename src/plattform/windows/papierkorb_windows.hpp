@@ -14,6 +14,7 @@ public:
 
     // Never for good: the shell would delete without a word what has no bin (a share, a stick) or a path that its call is
     // too old for. Such a file is carried over to a disk that has one; such a folder is refused (75).
+    // A bin that its user has switched off, or made too small for a file, is his own decision.
     void wegwerfen(const Text& pfad) override;
 
 private:

@@ -24,10 +24,9 @@ void Shell_Windows::starten(const Text& befehl, int fensterstil) {
     start.dwFlags = STARTF_USESHOWWINDOW;
     start.wShowWindow = static_cast<WORD>(fensterstil);
     PROCESS_INFORMATION prozess{};
-    const std::wstring ordner = breit(dateien_.aktueller_Ordner());
     // A console of this one is not handed on: closing it would end the new one.
     if (::CreateProcessW(breit(teile->Programm).c_str(), zeile.data(), nullptr, nullptr, FALSE,
-                         DETACHED_PROCESS | CREATE_NEW_PROCESS_GROUP, nullptr, ordner.c_str(), &start, &prozess) == 0)
+                         DETACHED_PROCESS | CREATE_NEW_PROCESS_GROUP, nullptr, nullptr, &start, &prozess) == 0)
         werfen_letzten(teile->Programm);
     const Systemgriff faden(prozess.hThread), griff(prozess.hProcess);
     // Minimised with focus: it may come to the front when its user wants it.
