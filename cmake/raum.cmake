@@ -32,9 +32,13 @@ function(tonkartei_raum name ordner)
   endif()
 endfunction()
 
-# tonkartei_test(NAME FOLDER LIB...): all *.cpp of FOLDER as one GoogleTest executable, each case a test of CTest.
+# tonkartei_test(NAME FOLDERS LIB...): all *.cpp of the folders as one GoogleTest executable, each case a test of CTest.
 function(tonkartei_test name ordner)
-  file(GLOB quellen CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${ordner}/*.cpp)
+  set(quellen)
+  foreach(teil ${ordner})
+    file(GLOB hier CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${teil}/*.cpp)
+    list(APPEND quellen ${hier})
+  endforeach()
   if(quellen)
     add_executable(${name} ${quellen})
     target_link_libraries(${name} PRIVATE tonkartei_optionen ${ARGN} GTest::gtest_main)

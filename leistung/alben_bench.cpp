@@ -5,10 +5,9 @@
 
 #include "alben/alben_datei.hpp"
 #include "datenbank/modell.hpp"
+#include "echt.hpp"
 #include "leistung/verhaeltnis.hpp"
 #include "plattform/kanaele.hpp"
-#include "plattform/linux/dateisystem_linux.hpp"
-#include "plattform/linux/rechner_linux.hpp"
 #include "probe/stumme_ansicht.hpp"
 #include "testordner.hpp"
 
@@ -16,7 +15,7 @@ namespace {
 
 using namespace tonkartei;
 
-struct Dateisystem_ohne_Sichern : Dateisystem_Linux {
+struct Dateisystem_ohne_Sichern : Dateisystem_echt {
     void sichern(Griff) override {}
 };
 
@@ -46,7 +45,7 @@ int main() {
     const Testordner ordner;
     Dateisystem_ohne_Sichern dateien;
     dateien.aktuellen_Ordner_setzen(ordner.pfad());
-    Rechner_Linux rechner;
+    Rechner_echt rechner;
     Stumme_Ansicht ansicht;
     Kanäle kanäle(dateien);
     Modell modell;

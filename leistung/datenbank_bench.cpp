@@ -9,10 +9,10 @@
 #include <vector>
 
 #include "datenbank/info_datei.hpp"
+#include "echt.hpp"
 #include "leistung/verhaeltnis.hpp"
 #include "oberflaeche/fortschritt.hpp"
 #include "plattform/kanaele.hpp"
-#include "plattform/linux/dateisystem_linux.hpp"
 #include "probe/stumme_ansicht.hpp"
 #include "testordner.hpp"
 
@@ -21,10 +21,10 @@ namespace {
 using namespace tonkartei;
 
 // A disk that waits for the platter only when told: without it the writing itself is measured.
-struct Platte : Dateisystem_Linux {
+struct Platte : Dateisystem_echt {
     bool wartet = false;
     void sichern(Griff griff) override {
-        if (wartet) Dateisystem_Linux::sichern(griff);
+        if (wartet) Dateisystem_echt::sichern(griff);
     }
 };
 

@@ -3,17 +3,17 @@
 #include <string>
 #include <vector>
 
+#include "echt.hpp"
 #include "leistung/verhaeltnis.hpp"
 #include "lieder/hinzufuegen/doppelte_lieder.hpp"
 #include "lieder/wartung/zwillinge.hpp"
-#include "plattform/linux/dateisystem_linux.hpp"
 
 using namespace tonkartei;
 
 namespace {
 
 // Tells the times of song files that need not exist.
-struct Zeitenbuch : Dateisystem_Linux {
+struct Zeitenbuch : Dateisystem_echt {
     explicit Zeitenbuch(const std::vector<std::optional<Zeitpunkt>>& bekannte) : zeiten(bekannte) {}
     std::optional<Zeitpunkt> Änderungszeit(const Text& pfad) override {
         return zeiten[static_cast<std::size_t>(std::stol(pfad.substr(1))) - 1];

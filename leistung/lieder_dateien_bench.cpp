@@ -12,15 +12,11 @@
 #include <string>
 #include <vector>
 
+#include "echt.hpp"
 #include "leistung/sammlung.hpp"
 #include "leistung/verhaeltnis.hpp"
 #include "lieder/hinzufuegen/dateien_uebernehmen.hpp"
 #include "lieder/wartung/neueinlesen.hpp"
-#include "plattform/linux/dateisystem_linux.hpp"
-#include "plattform/linux/fenstersystem_linux.hpp"
-#include "plattform/linux/rechner_linux.hpp"
-#include "plattform/linux/registrierung_linux.hpp"
-#include "plattform/linux/shell_linux.hpp"
 #include "probe/stumme_ansicht.hpp"
 
 using namespace tonkartei;
@@ -83,12 +79,12 @@ private:
     std::vector<std::string> quellen_;
     Übernahme_Auftrag auftrag_;
     Stumme_Ansicht ansicht_;
-    Dateisystem_Linux dateien_;
-    Registrierung_Linux registrierung_{ordner_ + "einstellungen.reg"};
-    Fenstersystem_Linux fenster_;
+    Dateisystem_echt dateien_;
+    Registrierung_echt registrierung_{ordner_ + "einstellungen.reg"};
+    Fenstersystem_echt fenster_;
     Kein_Korb korb_;
-    Shell_Linux shell_{dateien_, korb_};
-    Rechner_Linux rechner_{ordner_};
+    Shell_echt shell_{dateien_, korb_};
+    Rechner_echt rechner_{ordner_};
     Haus haus_{{dateien_, registrierung_, fenster_, shell_, rechner_}, ansicht_};
     Modell& modell_ = haus_.modell;
     MP3_TagHead mp3_{dateien_};
@@ -127,7 +123,7 @@ int main() {
     Modell modell;
     modell.Datenbank_Verzeichnis = sammlung.Ordner();
     modell.Anzahl_Lieder = Sammlung::Anzahl;
-    Dateisystem_Linux dateien;
+    Dateisystem_echt dateien;
     MP3_TagHead mp3(dateien);
     Stumme_Ansicht ansicht;
     Fortschritts_Fenster fortschritt(ansicht);

@@ -11,15 +11,10 @@
 #include "alben/albenraum.hpp"
 #include "datenbank/abr_datei.hpp"
 #include "datenbank/datenbankraum.hpp"
+#include "echt.hpp"
 #include "leistung/verhaeltnis.hpp"
 #include "lieder/lied_nachruecken.hpp"
 #include "lieder/lieder_entfernen.hpp"
-#include "plattform/linux/dateisystem_linux.hpp"
-#include "plattform/linux/fenstersystem_linux.hpp"
-#include "plattform/linux/papierkorb_freedesktop.hpp"
-#include "plattform/linux/rechner_linux.hpp"
-#include "plattform/linux/registrierung_linux.hpp"
-#include "plattform/linux/shell_linux.hpp"
 #include "probe/stumme_ansicht.hpp"
 #include "testordner.hpp"
 #include "wiedergabe/wiedergabe.hpp"
@@ -55,12 +50,12 @@ struct Abgang {
     // is looked at here.
     Testordner ordner{std::filesystem::is_directory("/dev/shm") ? "/dev/shm"
                                                                 : std::filesystem::temp_directory_path().string()};
-    Dateisystem_Linux dateien;
-    Papierkorb_Freedesktop korb{dateien, ordner.pfad("korb")};
-    Shell_Linux shell{dateien, korb};
-    Registrierung_Linux registrierung{ordner.pfad("einstellungen.reg")};
-    Fenstersystem_Linux fenster;
-    Rechner_Linux rechner{ordner.pfad()};
+    Dateisystem_echt dateien;
+    Papierkorb_echt korb{dateien, ordner.pfad("korb")};
+    Shell_echt shell{dateien, korb};
+    Registrierung_echt registrierung{ordner.pfad("einstellungen.reg")};
+    Fenstersystem_echt fenster;
+    Rechner_echt rechner{ordner.pfad()};
     Ja_Ansicht ansicht;
     Haus haus{{dateien, registrierung, fenster, shell, rechner}, ansicht};
     Modell& modell = haus.modell;

@@ -9,10 +9,10 @@
 #include <string>
 #include <vector>
 
+#include "echt.hpp"
 #include "leistung/sammlung.hpp"
 #include "leistung/verhaeltnis.hpp"
 #include "mp3/mp3_taghead.hpp"
-#include "plattform/linux/dateisystem_linux.hpp"
 
 using namespace tonkartei;
 
@@ -56,7 +56,7 @@ std::size_t durch_TagLib(const std::vector<std::string>& pfade) {
 
 int main() {
     const Sammlung sammlung;
-    Dateisystem_Linux dateien;
+    Dateisystem_echt dateien;
     MP3_TagHead mp3(dateien);
     if (durch_uns(mp3, sammlung.Pfade) == 0 || durch_uns(mp3, sammlung.Pfade) != durch_TagLib(sammlung.Pfade)) {
         std::fprintf(stderr, "Die beiden Leser sind sich nicht einig.\n");

@@ -6,12 +6,7 @@
 #include <fstream>
 #include <string>
 
-#include "plattform/linux/dateisystem_linux.hpp"
-#include "plattform/linux/fenstersystem_linux.hpp"
-#include "plattform/linux/papierkorb_freedesktop.hpp"
-#include "plattform/linux/rechner_linux.hpp"
-#include "plattform/linux/registrierung_linux.hpp"
-#include "plattform/linux/shell_linux.hpp"
+#include "echt.hpp"
 #include "plattform/plattform.hpp"
 #include "testordner.hpp"
 
@@ -28,12 +23,12 @@ inline double Speicher_MB() {
 // A folder with a collection of 5000 songs that is the last one opened, and the real machine with its settings in it.
 struct Speicherprobe {
     Testordner ordner;
-    Dateisystem_Linux dateien;
-    Registrierung_Linux registrierung{ordner.pfad("einstellungen.reg")};
-    Fenstersystem_Linux fenster;
-    Papierkorb_Freedesktop papierkorb{dateien, ordner.pfad("korb")};
-    Shell_Linux shell{dateien, papierkorb};
-    Rechner_Linux rechner{ordner.pfad()};
+    Dateisystem_echt dateien;
+    Registrierung_echt registrierung{ordner.pfad("einstellungen.reg")};
+    Fenstersystem_echt fenster;
+    Papierkorb_echt papierkorb{dateien, ordner.pfad("korb")};
+    Shell_echt shell{dateien, papierkorb};
+    Rechner_echt rechner{ordner.pfad()};
 
     Speicherprobe() {
         std::string bytes =

@@ -7,7 +7,7 @@
 #include <string>
 #include <utility>
 
-#include "plattform/linux/dateisystem_linux.hpp"
+#include "echt.hpp"
 #include "probe/dateisystem_probe.hpp"
 
 namespace tonkartei {
@@ -25,7 +25,7 @@ void an_jedem_Byte_abgeschnitten(const std::string& ganz, Lauf&& lauf, std::size
 class Störfall {
 public:
     Störungen Störungen_{[this] { getroffen(); }};
-    Dateisystem_Linux Platte;
+    Dateisystem_echt Platte;
     Dateisystem_Probe Dateien{Platte, Störungen_};
 
     // `lauf` sets the scene, calls the argument with the work, and looks at what is left. It is run for every operation of

@@ -12,8 +12,8 @@
 
 namespace tonkartei {
 
-// Separator of paths. "Trailing backslash" of a folder means this.
-inline constexpr char Trenner = '/';
+// Separator of paths, of the system that was built for. "Trailing backslash" of a folder means this.
+inline constexpr char Trenner = TONKARTEI_TRENNER;
 
 // Bytes. No system knows longer ones, so what is longer in a file is no path.
 inline constexpr std::size_t längster_Pfad = 65535;

@@ -25,9 +25,7 @@ struct Album_starten : Albenbühne {
 
 TEST_F(Album_starten, Liste_der_vorhandenen_Lieder) {
     // Bytes of the folder's name stay as they are.
-    modell.Datenbank_Verzeichnis = ordner.ordner(
-        "Gr\xFC\xDF"
-        "e ö");
+    modell.Datenbank_Verzeichnis = ordner.ordner(Testordner::krummer_Name + std::string(" ö"));
     const Long nr = album("x", {12, 0, 3, 12, 20});
     start.starte_Album(nr);
     const std::string o = modell.Datenbank_Verzeichnis;

@@ -51,7 +51,8 @@ protected:
     std::map<std::string, std::pair<std::string, fs::file_time_type>> Stand(const std::string& name) const {
         std::map<std::string, std::pair<std::string, fs::file_time_type>> stand;
         for (const auto& e : fs::recursive_directory_iterator(ordner.pfad(name)))
-            if (e.is_regular_file()) stand[e.path()] = {Testordner::inhalt_von(e.path()), fs::last_write_time(e.path())};
+            if (const std::string pfad = Testordner::Text_von(e.path()); e.is_regular_file())
+                stand[pfad] = {Testordner::inhalt_von(pfad), fs::last_write_time(e.path())};
         return stand;
     }
     bool vorhanden(const std::string& titel) const {

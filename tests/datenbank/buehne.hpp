@@ -4,7 +4,7 @@
 #include <map>
 
 #include "datenbank/datenbankraum.hpp"
-#include "plattform/linux/registrierung_linux.hpp"
+#include "echt.hpp"
 #include "probe/fenstersystem_probe.hpp"
 #include "probe/rechner_probe.hpp"
 #include "probe/stumme_ansicht.hpp"
@@ -39,7 +39,7 @@ struct Keine_Shell : Shell {
 
 // One run of the program: what it holds open goes with it.
 struct Lauf {
-    Registrierung_Linux registrierung;
+    Registrierung_echt registrierung;
     Fenstersystem_Probe fenster;
     Keine_Shell shell;
     Rechner_Probe rechner;

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <sstream>
 
-#include "plattform/linux/registrierung_linux.hpp"
+#include "echt.hpp"
 #include "testordner.hpp"
 
 namespace tonkartei {
@@ -32,12 +32,15 @@ Adresse Zeile 1=0|Adresse Zeile 2=40|Adresse Zeile 3=20|Adresse Zeile 4=60|Befeh
 Init 1 aktiv=True|Init 1 Wert=48|Init 1 Zeit=80|Init 2 aktiv=True|Init 2 Wert=56|Init 2 Zeit=80|
 Init 3 aktiv=True|Init 3 Wert=12|Init 3 Zeit=40|Init 4 aktiv=True|Init 4 Wert=6|Init 4 Zeit=40)";
 
+// A folder whose name is no text, as each system has them.
+const Text krumm = Trenner == '/' ? "/müsik \xFF/" : "C:\\müsik \xED\xA0\x80\\";
+
 using Werte = std::map<Text, Text>;
 const Text Wurzel = "Software\\Tonkartei\\";
 
 struct Einstellungen_Test : testing::Test {
     Testordner ordner;
-    Registrierung_Linux registrierung{ordner.pfad("e.reg")};
+    Registrierung_echt registrierung{ordner.pfad("e.reg")};
     Registry registry{registrierung};
     Einstellungen werte;
     Einstellungs_Vorgaben vorgaben{100, 200, 300, 400, 500, 600, "C:\\Programme\\WinAmp\\"};
@@ -85,7 +88,7 @@ TEST_F(Einstellungen_Test, alle_Schlüssel) {
     const auto anders = [](const auto& s) -> Text {
         switch (s.art) {
             case '?': return s.vorgabe == "True" ? "False" : "True";
-            case '$': return "/müsik \xFF/";
+            case '$': return krumm;
             case '#': return s.name.ends_with("\\Anzahl") ? s.vorgabe : "200";
             default: return "-70000";
         }
@@ -119,7 +122,7 @@ TEST_F(Einstellungen_Test, Listen_und_fremde_Formen) {
     EXPECT_EQ(werte.Kategorien, 1);
 
     werte.Datenbank_Liste_Anzahl = werte.Verzeichnis_Anzahl = 10;
-    werte.Datenbank_Liste[10] = "/a/\xFF/";
+    werte.Datenbank_Liste[10] = krumm;
     werte.Zuletzt_hinzugefügte_Verzeichnisse[1] = "/b/";
     werte.Display.Enable = 77;
     Einstellungen_schreiben(registry, werte);
@@ -129,7 +132,7 @@ TEST_F(Einstellungen_Test, Listen_und_fremde_Formen) {
     EXPECT_EQ(alles[Wurzel + "Verzeichnis hinzufügen\\Nr. 1"], "/b/");
     EXPECT_EQ(alles[Wurzel + "Display\\Enable"], "77");
     lesen();
-    EXPECT_EQ(werte.Datenbank_Liste[10], "/a/\xFF/");
+    EXPECT_EQ(werte.Datenbank_Liste[10], krumm);
     EXPECT_EQ(werte.Datenbank_Liste[9], "");
     EXPECT_EQ(werte.Display.Enable, 2);
     registry.Byte_schreiben("geöffnete Datenbanken\\Anzahl", 11);

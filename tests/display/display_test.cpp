@@ -1,3 +1,4 @@
+#include "echt.hpp"
 #include "programm/buehne.hpp"
 
 using namespace tonkartei;
@@ -42,9 +43,10 @@ TEST_F(Display, WerteGeltenBisZumNächstenStart) {
     EXPECT_FALSE(b->fenster("Tonkartei")["aktiv"].get<bool>());
     hand("schließe Display_Setup");
     beenden();
-    const std::string reg = ordner.inhalt("wurzel/einstellungen.reg");
+    const auto alle = Registrierung_echt(ordner.pfad("wurzel/einstellungen.reg")).alle();
+    std::map<std::string, std::string> geschrieben(alle.begin(), alle.end());
     for (const auto& [element, vorher, tat, schlüssel, nachher] : fälle)
-        EXPECT_NE(reg.find("\\Display\\" + schlüssel + "]\r\n@=\"" + nachher + "\""), std::string::npos) << element;
+        EXPECT_EQ(geschrieben["Software\\Tonkartei\\Display\\" + schlüssel], nachher) << element;
     starten();
     EXPECT_EQ(wert("Display\\Enable") + wert("Display\\Taster 2 aktiv"), "2False");
 }

@@ -13,7 +13,7 @@
 namespace tonkartei::haus {
 namespace {
 
-enum Fremdes : unsigned { nichts = 0, Qt = 1, POSIX = 2, mpv = 4 };
+enum Fremdes : unsigned { nichts = 0, Qt = 1, Maschine = 2, mpv = 4 };
 
 struct Stock {
     int Höhe;
@@ -39,10 +39,11 @@ constexpr std::array Stockwerke{
     Stock{40, 40, nichts,
           " albenverwaltung austausch austausch/sicherung austausch/vergleich austausch/abgleich austausch/aufloesung "
           "statistik ausgabe display dj dj/alt "},
-    Stock{Anbau, 10, Qt, " oberflaeche/qt oberflaeche/qt/freedesktop "},
-    Stock{Anbau, 10, POSIX, " plattform/linux "},
+    Stock{Anbau, 10, Qt, " oberflaeche/qt oberflaeche/qt/freedesktop oberflaeche/qt/windows "},
+    Stock{Anbau, 10, Maschine, " plattform/linux "},
+    Stock{Anbau, 10, Maschine, " plattform/windows "},
     Stock{60, 60, nichts, " programm "},
-    Stock{70, 10, POSIX | mpv, " spieler "},
+    Stock{70, 10, Maschine | mpv, " spieler "},
 };
 
 // Nobody else may know an annex, but through a door: from (a folder or a file) into (a folder).
@@ -51,9 +52,10 @@ struct Tür {
     std::string_view Nach;
 };
 // The player has both ends of the wire that stands for window messages.
-constexpr std::array Türen{Tür{"programm/main.cpp", "oberflaeche/qt"}, Tür{"programm/main.cpp", "oberflaeche/qt/freedesktop"},
-                           Tür{"oberflaeche/qt/freedesktop/", "oberflaeche/qt"},
-                           Tür{"programm/main.cpp", "plattform/linux"}, Tür{"spieler/", "plattform/linux"}};
+constexpr std::array Türen{
+    Tür{"programm/main.cpp", "oberflaeche/qt"},       Tür{"programm/main.cpp", "oberflaeche/qt/freedesktop"},
+    Tür{"oberflaeche/qt/windows/", "oberflaeche/qt"}, Tür{"oberflaeche/qt/freedesktop/", "oberflaeche/qt"},
+    Tür{"programm/main.cpp", "plattform/linux"},      Tür{"spieler/", "plattform/linux"}};
 
 bool steht_in(std::string_view liste, std::string_view wort) {
     return liste.find(" " + std::string(wort) + " ") != std::string_view::npos;
@@ -75,10 +77,15 @@ bool ist_Einschluss(std::string_view zeile) {
     return zeile.starts_with('#') && Rest(zeile.substr(1)).starts_with("include");
 }
 
-// Beside the including file first, then below the include folders, as the compiler looks.
+// Beside the including file first, then below the include folders, as the compiler looks. What has no folder is the header
+// of the machine that is built for; all machines' look alike.
 std::optional<std::string> Ziel(const Quellen& quellen, const std::string& von, const std::string& pfad) {
-    const std::string beide[] = {von.substr(0, von.rfind('/') + 1) + pfad, "src/" + pfad, "werkzeug/" + pfad,
-                                 "tests/" + pfad, "leistung/" + pfad};
+    const std::string beide[] = {von.substr(0, von.rfind('/') + 1) + pfad,
+                                 "src/" + pfad,
+                                 "werkzeug/" + pfad,
+                                 "tests/" + pfad,
+                                 "leistung/" + pfad,
+                                 "src/plattform/linux/" + pfad};
     for (const std::filesystem::path versuch : beide)
         if (const std::string ziel = versuch.lexically_normal().generic_string(); quellen.contains(ziel)) return ziel;
     return std::nullopt;
@@ -91,10 +98,10 @@ Fremdes Herkunft(const std::string& kopf) {
     if (kopf.size() > 1 && kopf[0] == 'Q' && (std::isupper(static_cast<unsigned char>(kopf[1])) || kopf[1] == 't'))
         return Qt;
     if (kopf.starts_with("q") && kopf.ends_with(".h")) return Qt;
-    return kopf.find_first_of("./") == std::string::npos ? nichts : POSIX;
+    return kopf.find_first_of("./") == std::string::npos ? nichts : Maschine;
 }
 
-const char* Name(Fremdes fremdes) { return fremdes == Qt ? "Qt" : fremdes == mpv ? "libmpv" : "the machine (POSIX)"; }
+const char* Name(Fremdes fremdes) { return fremdes == Qt ? "Qt" : fremdes == mpv ? "libmpv" : "the machine"; }
 
 // Calls that headers of the standard library bring along or that need no header at all.
 constexpr std::string_view Aufrufe =
@@ -102,7 +109,7 @@ constexpr std::string_view Aufrufe =
     "getuid "
     "fdatasync ftruncate execv execvp strcasecmp strncasecmp dlopen nanosleep fork lstat fstat sigaction mmap ioctl ";
 // Asking for the machine is a way of naming it.
-constexpr std::string_view Schalter = " __linux__ __unix__ __APPLE__ _WIN32 _POSIX_C_SOURCE _GNU_SOURCE ";
+constexpr std::string_view Schalter = " __linux__ __unix__ __APPLE__ _WIN32 _WIN64 _POSIX_C_SOURCE _GNU_SOURCE ";
 
 bool im_Wort(char zeichen) {
     const auto byte = static_cast<unsigned char>(zeichen);
@@ -113,8 +120,9 @@ Fremdes Herkunft_des_Wortes(std::string_view wort, bool ist_Aufruf) {
     if (wort.size() > 2 && wort[0] == 'Q' && (wort[1] == '_' || std::isupper(static_cast<unsigned char>(wort[1]))))
         return Qt;
     if (wort.starts_with("mpv_")) return mpv;
-    if (steht_in(Schalter, wort)) return POSIX;
-    if (ist_Aufruf && (steht_in(Aufrufe, wort) || wort.starts_with("posix_") || wort.starts_with("pthread_"))) return POSIX;
+    if (steht_in(Schalter, wort)) return Maschine;
+    if (ist_Aufruf && (steht_in(Aufrufe, wort) || wort.starts_with("posix_") || wort.starts_with("pthread_")))
+        return Maschine;
     return nichts;
 }
 

@@ -2,22 +2,20 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <utime.h>
 
+#include <chrono>
 #include <deque>
 #include <functional>
 #include <vector>
 
 #include "alben/albenraum.hpp"
 #include "datenbank/datenbankraum.hpp"
+#include "echt.hpp"
 #include "kategorien/kategorienraum.hpp"
 #include "lieder/hinzufuegen/hinzufuegen.hpp"
 #include "mp3/bausteine.hpp"
 #include "oberflaeche/ansicht.hpp"
 #include "oberflaeche/hand.hpp"
-#include "plattform/linux/dateisystem_linux.hpp"
-#include "plattform/linux/registrierung_linux.hpp"
-#include "plattform/linux/shell_linux.hpp"
 #include "probe/fenstersystem_probe.hpp"
 #include "probe/rechner_probe.hpp"
 #include "probe/stumme_ansicht.hpp"
@@ -68,15 +66,15 @@ public:
     }
 };
 
-struct Dateisystem_Knapp : Dateisystem_Linux {
+struct Dateisystem_Knapp : Dateisystem_echt {
     std::optional<std::uint64_t> frei = std::uint64_t{1} << 40;
     Text unlesbare_Länge;  // asking this file's length fails
 
     std::optional<std::uint64_t> freie_Bytes(const Text&) override { return frei; }
-    bool Datei_da(const Text& pfad) override { return Dateisystem_Linux::Dateilänge(pfad) >= 0; }
+    bool Datei_da(const Text& pfad) override { return Dateisystem_echt::Dateilänge(pfad) >= 0; }
     std::int64_t Dateilänge(const Text& pfad) override {
         if (pfad == unlesbare_Länge) throw Dateifehler(57, pfad);
-        return Dateisystem_Linux::Dateilänge(pfad);
+        return Dateisystem_echt::Dateilänge(pfad);
     }
 };
 
@@ -131,10 +129,9 @@ struct Bühne {
         modell.Lieder[nr].Größe = gerundet(static_cast<double>(länge) / 1024.0);
     }
     static void stellen(const Text& pfad, long zeit) {
-        const utimbuf zeiten{zeit, zeit};
-        if (zeit != 0) {
-            ASSERT_EQ(::utime(pfad.c_str(), &zeiten), 0);
-        }
+        const auto seit_1970 = std::chrono::sys_time<std::chrono::seconds>(std::chrono::seconds(zeit));
+        if (zeit != 0)
+            std::filesystem::last_write_time(Testordner::weg_zu(pfad), std::chrono::file_clock::from_sys(seit_1970));
     }
     Long übernimm(std::vector<Text> pfade, Übernahmeart art = Übernahmeart::kopieren) {
         Übernahme_Auftrag auftrag;
@@ -151,9 +148,9 @@ struct Bühne {
     Drehbuch ansicht;
     Dateisystem_Knapp dateien;
     Eimer korb;
-    Shell_Linux echte_Shell{dateien, korb};
+    Shell_echt echte_Shell{dateien, korb};
     Shell_mit_Tücken shell{echte_Shell};
-    Registrierung_Linux registrierung{ordner.pfad("reg")};
+    Registrierung_echt registrierung{ordner.pfad("reg")};
     Fenstersystem_Probe spieler;
     Rechner_Probe rechner{{2026, 1, 15, 12, 0, 0}, ordner.pfad(), false};
     Haus haus{{dateien, registrierung, spieler, shell, rechner}, ansicht};

@@ -81,7 +81,7 @@ TEST(Dateien_übernehmen, fragt_so_oft_wie_die_doppelte_Schleife) {
         alte.push_back(irgendeine());
         b.lege_Lied(alte.back().länge, alte.back().zeit);
     }
-    std::filesystem::remove(b.modell.Lied_Pfad(7));
+    std::filesystem::remove(Testordner::weg_zu(b.modell.Lied_Pfad(7)));
     std::vector<Text> pfade;
     for (int i = 0; i < 40; ++i) {
         neue.push_back(irgendeine());
@@ -103,7 +103,7 @@ TEST(Dateien_übernehmen, fragt_so_oft_wie_die_doppelte_Schleife) {
     EXPECT_EQ(b.übernimm(pfade), genommen);
     std::vector<Text> gefragt;
     for (const Text& box : b.ansicht.Ablauf) {
-        const auto name = box.find("/quelle/") + 8, titel = box.rfind("Titel: ") + 7;
+        const auto name = box.find(b.quelle) + b.quelle.size(), titel = box.rfind("Titel: ") + 7;
         gefragt.push_back(box.substr(name, 7) + " wie " + box.substr(titel, box.find('\r', titel) - titel));
     }
     EXPECT_EQ(gefragt, erwartet);

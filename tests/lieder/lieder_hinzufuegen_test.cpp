@@ -50,7 +50,7 @@ TEST(Lieder_hinzufügen, letzte_Verzeichnisse_tauschen_den_Platz) {
 
 TEST(Verzeichnis_add, Wege_zum_Ergebnis) {
     Bühne b;
-    const Text roh = b.ordner.ordner("\xe4");
+    const Text roh = b.ordner.ordner(Testordner::krummer_Name);
     b.einstellungen.Verzeichnis_Anzahl = 1;
     b.einstellungen.Zuletzt_hinzugefügte_Verzeichnisse[1] = roh;
     Verzeichnis_add& v = b.verzeichnis;

@@ -21,7 +21,7 @@ struct Albenbühne {
     Albenbühne() { modell.Datenbank_Verzeichnis = ordner.ordner("db"); }
     Testordner ordner;
     Eingebender ansicht;
-    Dateisystem_Linux dateien;
+    Dateisystem_echt dateien;
     Kanäle kanäle{dateien};
     Modell modell;
     Rechner_Probe rechner{{2026, 1, 15, 12, 0, 0}, ordner.pfad(), false};

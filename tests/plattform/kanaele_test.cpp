@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "echt.hpp"
 #include "plattform/hilfen.hpp"
-#include "plattform/linux/dateisystem_linux.hpp"
 #include "testordner.hpp"
 
 namespace tonkartei {
@@ -12,7 +12,7 @@ namespace {
 class KanäleTest : public testing::Test {
 protected:
     Testordner ordner;
-    Dateisystem_Linux dateien;
+    Dateisystem_echt dateien;
     Kanäle kanäle{dateien};
 
     int lesend(std::string_view inhalt) { return kanäle.öffnen_zum_Lesen(ordner.datei("datei", inhalt)); }
@@ -115,27 +115,6 @@ TEST_F(KanäleTest, NummernUndModus) {
     EXPECT_EQ(Fehler_von([&] { kanäle.öffnen_zum_Lesen(pfad); }), 67);
     kanäle.schließen(77);
     EXPECT_EQ(kanäle.öffnen_zum_Lesen(pfad), 77);
-}
-
-// What cannot be written keeps its channel and its file, whether it shows while writing or while closing.
-TEST_F(KanäleTest, VollerDatenträgerLässtDenKanalOffen) {
-    const Text pfad = ordner.pfad("neu");
-    {
-        const Voller_Datenträger voll(100'000);
-        const int nr = kanäle.öffnen_zum_Schreiben(pfad);
-        EXPECT_EQ(Fehler_von([&] {
-                      for (int i = 0; i < 200; ++i) kanäle.schreibe_Zeile(nr, Text(1000, 'z'));
-                  }),
-                  61);
-        EXPECT_EQ(Fehler_von([&] { kanäle.schließen(nr); }), 61);
-        EXPECT_TRUE(kanäle.offen(nr));
-        EXPECT_EQ(Fehler_von([&] { kanäle.öffnen_zum_Schreiben(pfad); }), 55);
-        EXPECT_EQ(kanäle.öffnen_zum_Schreiben(ordner.pfad("andere")), 2);
-        kanäle.aufgeben(nr);
-        EXPECT_FALSE(kanäle.offen(nr));
-    }
-    EXPECT_EQ(std::filesystem::file_size(pfad), 100'000U) << "giving up writes nothing more";
-    dateien.umbenennen(pfad, ordner.pfad("x"));
 }
 
 TEST_F(KanäleTest, EndeSchreibtNichtsMehr) {

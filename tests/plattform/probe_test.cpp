@@ -1,8 +1,8 @@
 // The simulated disk at a crash.
 #include <gtest/gtest.h>
 
+#include "echt.hpp"
 #include "plattform/kanaele.hpp"
-#include "plattform/linux/dateisystem_linux.hpp"
 #include "plattform/offene_datei.hpp"
 #include "probe/dateisystem_probe.hpp"
 #include "testordner.hpp"
@@ -12,7 +12,7 @@ namespace {
 
 TEST(Probe, VerliertWasNichtGesichertIst) {
     const Testordner ordner;
-    Dateisystem_Linux echt;
+    Dateisystem_echt echt;
     Störungen störungen{[] {}};
     Dateisystem_Probe dateien(echt, störungen);
     Kanäle kanäle(dateien);

@@ -33,7 +33,7 @@ struct Bühne : Probehaus {
         Spiel.Spieler.nachsehen();
         return spieler;
     }
-    Text Befehl(const Text& rest = {}) const { return ordner.pfad("WinAmp.Exe /CLASS=\"Tonkartei\"") + rest; }
+    Text Befehl(const Text& rest = {}) const { return ordner.pfad("WinAmp.Exe") + " /CLASS=\"Tonkartei\"" + rest; }
     // What was done to other processes since the last look.
     Aufzeichnung nehmen() {
         Aufzeichnung zeilen;

@@ -1,16 +1,9 @@
 #include "bediener/bediener.hpp"
 
-#include <fcntl.h>
-#include <poll.h>
-#include <spawn.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <array>
-#include <cerrno>
+#include <algorithm>
 #include <chrono>
-#include <csignal>
 #include <stdexcept>
+#include <thread>
 
 namespace tonkartei {
 namespace {
@@ -25,26 +18,6 @@ std::string ohne_Ersatzzeichen(std::string zeile) {
         ++i;
     }
     return zeile;
-}
-
-std::vector<char*> Zeiger(std::vector<std::string>& texte) {
-    std::vector<char*> ergebnis;
-    for (std::string& text : texte) ergebnis.push_back(text.data());
-    ergebnis.push_back(nullptr);
-    return ergebnis;
-}
-
-// The environment of the test, with the names of `zusätze` replaced.
-std::vector<std::string> Umgebung(const std::vector<std::string>& zusätze) {
-    std::vector<std::string> ergebnis = zusätze;
-    for (char** e = environ; *e != nullptr; ++e) {
-        const std::string eintrag = *e;
-        const std::string name = eintrag.substr(0, eintrag.find('=') + 1);
-        bool ersetzt = false;
-        for (const std::string& zusatz : zusätze) ersetzt = ersetzt || zusatz.starts_with(name);
-        if (!ersetzt) ergebnis.push_back(eintrag);
-    }
-    return ergebnis;
 }
 
 std::vector<std::string> Aufruf(const Bediener::Optionen& o) {
@@ -67,64 +40,14 @@ std::vector<std::string> Aufruf(const Bediener::Optionen& o) {
 
 }  // namespace
 
-Bediener::Bediener(const Optionen& optionen) : frist_(optionen.Frist) {
-    std::array<int, 2> hin{}, her{};
-    if (pipe2(hin.data(), O_CLOEXEC) != 0 || pipe2(her.data(), O_CLOEXEC) != 0) throw std::runtime_error("no pipe");
-    posix_spawn_file_actions_t griffe;
-    posix_spawn_file_actions_init(&griffe);
-    posix_spawn_file_actions_adddup2(&griffe, hin[0], STDIN_FILENO);
-    posix_spawn_file_actions_adddup2(&griffe, her[1], STDOUT_FILENO);
-    auto aufruf = Aufruf(optionen);
-    auto umgebung = Umgebung(optionen.umgebung);
-    const int fehler =
-        posix_spawn(&prozess_, aufruf.front().c_str(), &griffe, nullptr, Zeiger(aufruf).data(), Zeiger(umgebung).data());
-    posix_spawn_file_actions_destroy(&griffe);
-    close(hin[0]);
-    close(her[1]);
-    hinein_ = hin[1];
-    heraus_ = her[0];
-    if (fehler != 0) {
-        prozess_ = -1;
-        beenden();
-        throw std::runtime_error("cannot start " + aufruf.front());
-    }
+Bediener::Bediener(const Optionen& optionen) : frist_(optionen.Frist), prozess_(Aufruf(optionen), optionen.umgebung) {
     Antworten_lesen();
 }
 
-Bediener::~Bediener() { beenden(); }
-
-void Bediener::beenden() noexcept {
-    // Without input it ends by itself and takes its scratch folder along, unless it hangs.
-    if (hinein_ >= 0) close(hinein_);
-    hinein_ = -1;
-    if (heraus_ >= 0) close(heraus_);
-    heraus_ = -1;
-    if (prozess_ <= 0) return;
-    for (int versuch = 0; versuch < 400; ++versuch) {
-        if (waitpid(prozess_, nullptr, WNOHANG) == prozess_) {
-            prozess_ = -1;
-            return;
-        }
-        poll(nullptr, 0, 5);
-    }
-    kill(prozess_, SIGKILL);
-    waitpid(prozess_, nullptr, 0);
-    prozess_ = -1;
-}
+Bediener::~Bediener() = default;
 
 const Bediener::Antworten& Bediener::operator()(const std::string& zeile) {
-    const std::string ganz = zeile + "\n";
-    // A process that has died must not take the test along.
-    struct sigaction ruhig {};
-    struct sigaction alt {};
-    ruhig.sa_handler = SIG_IGN;
-    sigaction(SIGPIPE, &ruhig, &alt);
-    for (std::size_t stelle = 0; stelle < ganz.size();) {
-        const ssize_t n = write(hinein_, ganz.data() + stelle, ganz.size() - stelle);
-        if (n < 0 && errno != EINTR) break;
-        if (n > 0) stelle += static_cast<std::size_t>(n);
-    }
-    sigaction(SIGPIPE, &alt, nullptr);
+    prozess_.schreiben(zeile + "\n");
     Antworten_lesen();
     return antworten_;
 }
@@ -135,17 +58,11 @@ bool Bediener::Zeile_lesen(std::string& zeile) {
     while ((ende = puffer_.find('\n')) == std::string::npos) {
         const auto rest =
             std::chrono::duration_cast<std::chrono::milliseconds>(ende_der_Frist - std::chrono::steady_clock::now());
-        pollfd auge{heraus_, POLLIN, 0};
-        const int bereit = rest.count() > 0 ? poll(&auge, 1, static_cast<int>(rest.count())) : 0;
-        if (bereit < 0 && errno == EINTR) continue;
-        if (bereit <= 0) {
-            beenden();
-            throw std::runtime_error("no reply within the time limit");
+        switch (prozess_.lesen(puffer_, static_cast<int>(std::max<std::int64_t>(rest.count(), 0)))) {
+            case Kindprozess::Lage::gelesen: break;
+            case Kindprozess::Lage::Ende: return false;
+            case Kindprozess::Lage::Zeit_um: prozess_.beenden(); throw std::runtime_error("no reply within the time limit");
         }
-        std::array<char, 65536> stück;
-        const ssize_t n = read(heraus_, stück.data(), stück.size());
-        if (n <= 0) return false;
-        puffer_.append(stück.data(), static_cast<std::size_t>(n));
     }
     zeile = puffer_.substr(0, ende);
     puffer_.erase(0, ende + 1);
@@ -155,7 +72,7 @@ bool Bediener::Zeile_lesen(std::string& zeile) {
 void Bediener::Antworten_lesen() {
     antworten_.clear();
     std::string zeile;
-    while (heraus_ >= 0 && Zeile_lesen(zeile)) {
+    while (Zeile_lesen(zeile)) {
         antworten_.push_back(json::parse(ohne_Ersatzzeichen(zeile)));
         if (antworten_.back().contains("bereit")) return;
     }
@@ -211,20 +128,15 @@ json Bediener::registrierung() { return schau("registrierung", "registrierung")[
 json Bediener::spieler() { return schau("spieler", "spieler")["spieler"]; }
 
 int Bediener::Ende_abwarten() {
-    if (prozess_ > 0) {
-        const auto ende_der_Frist = std::chrono::steady_clock::now() + std::chrono::seconds(frist_);
-        int status = 0;
-        while (waitpid(prozess_, &status, WNOHANG) == 0) {
-            if (std::chrono::steady_clock::now() > ende_der_Frist) {
-                beenden();
-                throw std::runtime_error("it does not end");
-            }
-            poll(nullptr, 0, 2);
+    const auto ende_der_Frist = std::chrono::steady_clock::now() + std::chrono::seconds(frist_);
+    for (;;) {
+        if (const auto status = prozess_.Status()) return *status;
+        if (std::chrono::steady_clock::now() > ende_der_Frist) {
+            prozess_.beenden();
+            throw std::runtime_error("it does not end");
         }
-        prozess_ = -1;
-        status_ = WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
     }
-    return status_;
 }
 
 std::string Bediener::Pfadbytes(const std::string& text) {

@@ -5,11 +5,11 @@
 //     EXPECT_EQ(b.zeige("Tonkartei.Liste_Anzahl")["text"], "0");
 #pragma once
 
-#include <sys/types.h>
-
 #include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
+
+#include "bediener/kindprozess.hpp"
 
 namespace tonkartei {
 
@@ -78,12 +78,9 @@ private:
     nlohmann::json schau(const std::string& zeile, const std::string& schlüssel);
     void Antworten_lesen();
     bool Zeile_lesen(std::string& zeile);
-    void beenden() noexcept;
 
-    pid_t prozess_ = -1;
-    int hinein_ = -1, heraus_ = -1;
     int frist_;
-    int status_ = 0;
+    Kindprozess prozess_;
     std::string puffer_;
     Antworten antworten_;
 };

@@ -1,11 +1,8 @@
 #include "bediener/bedienung.hpp"
 
-#include <unistd.h>
-
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <stdexcept>
 
 #include "bediener/ansicht_bediener.hpp"
 #include "bediener/befehle.hpp"
@@ -13,7 +10,8 @@
 #include "bediener/malstube.hpp"
 #include "bediener/maschine.hpp"
 #include "bediener/optionen.hpp"
-#include "plattform/dateisystem.hpp"
+#include "echt.hpp"
+#include "testordner.hpp"
 
 namespace tonkartei {
 namespace {
@@ -27,12 +25,11 @@ class Wurzel {
 public:
     explicit Wurzel(const std::optional<Text>& gewünscht) : behalten_(gewünscht.has_value()) {
         if (gewünscht) {
-            std::filesystem::create_directories(*gewünscht);
-            pfad_ = std::filesystem::canonical(*gewünscht).string();
+            std::filesystem::create_directories(Testordner::weg_zu(*gewünscht));
+            pfad_ = Testordner::Text_von(std::filesystem::canonical(Testordner::weg_zu(*gewünscht)));
         } else {
-            Text muster = (std::filesystem::temp_directory_path() / "tonkartei-bediener-XXXXXX").string();
-            if (mkdtemp(muster.data()) == nullptr) throw std::runtime_error("no temporary folder");
-            pfad_ = muster;
+            pfad_ = Testordner::Text_von(
+                Testordner::frischer_Ordner(std::filesystem::temp_directory_path(), "tonkartei-bediener-"));
         }
     }
     ~Wurzel() { aufräumen(); }
@@ -42,7 +39,7 @@ public:
     Text pfad() const { return mit_Trenner(pfad_); }
     void aufräumen() const {
         std::error_code fehler;
-        if (!behalten_) std::filesystem::remove_all(pfad_, fehler);
+        if (!behalten_) std::filesystem::remove_all(Testordner::weg_zu(pfad_), fehler);
     }
 
 private:
@@ -64,7 +61,7 @@ int betreiben(const Optionen& optionen, const char* programmname, const Bauplan&
     const auto abbrechen = [&wurzel](int status) {
         wurzel.aufräumen();
         std::fflush(nullptr);
-        _exit(status);
+        std::_Exit(status);
     };
 
     Maschinenwahl wahl;
@@ -111,8 +108,9 @@ int betreiben(const Optionen& optionen, const char* programmname, const Bauplan&
 }  // namespace
 
 int bedienen(int argc, char** argv, const Bauplan& bauplan) {
+    const Aufruf aufruf(argc, argv);
     try {
-        return betreiben(Optionen_lesen({argv + 1, argv + argc}), argv[0], bauplan);
+        return betreiben(Optionen_lesen({aufruf.Argumente + 1, aufruf.Argumente + aufruf.Anzahl}), argv[0], bauplan);
     } catch (const std::exception& fehler) {
         std::fprintf(stderr, "%s: %s\n", argv[0], fehler.what());
         return Status_Aufruf;

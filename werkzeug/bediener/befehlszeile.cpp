@@ -31,10 +31,10 @@ Text Befehlszeile::nächstes(const char* was) {
 long Befehlszeile::Zahl(const char* was) {
     const Text wort = nächstes(was);
     char* ende = nullptr;
-    const long zahl = std::strtol(wort.c_str(), &ende, 10);
-    if (wort.empty() || *ende != '\0' || zahl > 2147483647L || zahl < -2147483648L)
+    const long long zahl = std::strtoll(wort.c_str(), &ende, 10);
+    if (wort.empty() || *ende != '\0' || zahl > 2147483647LL || zahl < -2147483648LL)
         throw Befehlsfehler(Text("keine Zahl: ") + was);
-    return zahl;
+    return static_cast<long>(zahl);
 }
 
 double Befehlszeile::Kommazahl(const char* was) {

@@ -2,16 +2,9 @@
 
 #include <chrono>
 #include <cstdlib>
-#include <filesystem>
-#include <system_error>
 #include <thread>
 
-#include "plattform/linux/dateisystem_linux.hpp"
-#include "plattform/linux/fenstersystem_linux.hpp"
-#include "plattform/linux/papierkorb_freedesktop.hpp"
-#include "plattform/linux/rechner_linux.hpp"
-#include "plattform/linux/registrierung_linux.hpp"
-#include "plattform/linux/shell_linux.hpp"
+#include "echt.hpp"
 #include "probe/dateisystem_probe.hpp"
 #include "probe/fenstersystem_probe.hpp"
 #include "probe/rechner_probe.hpp"
@@ -24,7 +17,7 @@ namespace {
 const Text Wurzelschlüssel = "Software\\Tonkartei\\";
 
 Text Temp_anlegen(Dateisystem& dateien, const Text& wurzel) {
-    Text temp = wurzel + "temp/";
+    Text temp = mit_Trenner(wurzel + "temp");
     if (!dateien.Ordner_da(temp)) dateien.Ordner_anlegen(temp);
     return temp;
 }
@@ -81,11 +74,11 @@ public:
 
 private:
     Störungen störungen_;
-    Dateisystem_Linux platte_;
+    Dateisystem_echt platte_;
     Dateisystem_Probe dateien_{platte_, störungen_};
-    Registrierung_Linux registrierung_;
-    Papierkorb_Freedesktop papierkorb_;
-    Shell_Linux schale_{dateien_, papierkorb_};
+    Registrierung_echt registrierung_;
+    Papierkorb_echt papierkorb_;
+    Shell_echt schale_{dateien_, papierkorb_};
     Fenstersystem_Probe fenster_;
     Shell_Probe shell_{schale_, fenster_, störungen_};
     Rechner_Probe rechner_;
@@ -97,18 +90,16 @@ private:
     Probe probe_{rechner_, dateien_, fenster_, störungen_};
 };
 
-// The real machine, but a player's folder of the run's own: the user's stays as it is.
-class Rechner_echt : public Rechner_Linux {
+// The real machine, but folders of the run's own: the user's stay as they are.
+class Rechner_des_Laufs : public Rechner_echt {
 public:
-    explicit Rechner_echt(const Text& wurzel) : Rechner_Linux(wurzel), winamp_(wurzel + "winamp/") {
-        std::error_code fehler;
-        const auto programm = std::filesystem::read_symlink("/proc/self/exe", fehler);
-        if (!fehler) WinAmp_Verknüpfung_anlegen(winamp_, (programm.parent_path() / "WinAmp.Exe").string());
-    }
+    Rechner_des_Laufs(const Text& wurzel, Text temp)
+        : Rechner_echt(wurzel), winamp_(Spieler_bereitstellen(mit_Trenner(wurzel + "winamp"))), temp_(std::move(temp)) {}
     Text WinAmp_Vorgabe() override { return winamp_; }
+    Text Temp_Verzeichnis() override { return temp_; }
 
 private:
-    Text winamp_;
+    Text winamp_, temp_;
 };
 
 class Maschine_echt : public Maschine {
@@ -116,9 +107,8 @@ public:
     explicit Maschine_echt(const Maschinenwahl& wahl)
         : registrierung_(wahl.wurzel + "einstellungen.reg"),
           papierkorb_(dateien_, wahl.wurzel + "papierkorb"),
-          rechner_(wahl.wurzel),
+          rechner_(wahl.wurzel, Temp_anlegen(dateien_, wahl.wurzel)),
           andere_(wahl.wurzel) {
-        setenv("TEMP", Temp_anlegen(dateien_, wahl.wurzel).c_str(), 1);
         if (wahl.ordner) dateien_.aktuellen_Ordner_setzen(*wahl.ordner);
         if (wahl.zweite_Instanz) andere_.andere_Instanz_läuft();
     }
@@ -143,13 +133,13 @@ public:
     }
 
 private:
-    Dateisystem_Linux dateien_;
-    Registrierung_Linux registrierung_;
-    Papierkorb_Freedesktop papierkorb_;
-    Shell_Linux schale_{dateien_, papierkorb_};
-    Fenstersystem_Linux fenster_;
-    Rechner_echt rechner_;
-    Rechner_Linux andere_;  // plays the other instance where one is asked for
+    Dateisystem_echt dateien_;
+    Registrierung_echt registrierung_;
+    Papierkorb_echt papierkorb_;
+    Shell_echt schale_{dateien_, papierkorb_};
+    Fenstersystem_echt fenster_;
+    Rechner_des_Laufs rechner_;
+    Rechner_echt andere_;  // plays the other instance where one is asked for
     Wanduhr uhr_;
     Mitschrift mitschrift_{[this] { return uhr_.jetzt(); }};
     Fenstersystem_Mitschrift fenster_mit_{fenster_, mitschrift_};

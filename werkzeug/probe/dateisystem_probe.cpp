@@ -20,7 +20,7 @@ Text Dateisystem_Probe::voller_Pfad(const Text& pfad) const {
         }
         anfang = ende + 1;
     }
-    Text ergebnis(1, Trenner);
+    Text ergebnis(ganz.starts_with("\\\\") ? 2U : ganz.starts_with(Trenner) ? 1U : 0U, Trenner);  // as its system has it
     for (const Text& teil : teile) ergebnis += teil + Trenner;
     return ergebnis;
 }

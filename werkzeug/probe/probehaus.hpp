@@ -2,10 +2,7 @@
 #pragma once
 
 #include "datenbank/haus.hpp"
-#include "plattform/linux/dateisystem_linux.hpp"
-#include "plattform/linux/papierkorb_freedesktop.hpp"
-#include "plattform/linux/registrierung_linux.hpp"
-#include "plattform/linux/shell_linux.hpp"
+#include "echt.hpp"
 #include "probe/antwortende_ansicht.hpp"
 #include "probe/dateisystem_probe.hpp"
 #include "probe/fenstersystem_probe.hpp"
@@ -32,15 +29,15 @@ struct Probehaus {
     Rechner_Probe rechner;
 
 private:
-    Dateisystem_Linux echte_Dateien_;
-    Registrierung_Linux registrierung_{ordner.pfad("einstellungen.reg")};
+    Dateisystem_echt echte_Dateien_;
+    Registrierung_echt registrierung_{ordner.pfad("einstellungen.reg")};
 
 public:
     Dateisystem_Probe dateien{echte_Dateien_, störungen};
 
 private:
-    Papierkorb_Freedesktop korb_{dateien, ordner.pfad("korb")};
-    Shell_Linux echte_Shell_{dateien, korb_};
+    Papierkorb_echt korb_{dateien, ordner.pfad("korb")};
+    Shell_echt echte_Shell_{dateien, korb_};
     Shell_Probe shell_{echte_Shell_, fenster, störungen};
 
 public:

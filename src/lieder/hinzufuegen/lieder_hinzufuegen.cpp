@@ -105,7 +105,7 @@ void Lieder_hinzufügen::Playlist_lesen(const Text& datei, int nummer) {
         Text pfad(*wert);
         // Nothing, or a name that the system would take for a shorter one.
         if (pfad.empty() || pfad.find('\0') != Text::npos) continue;
-        if (pfad.find(Trenner) == Text::npos && !nebenan.vielleicht_da(pfad)) continue;
+        if (Ordner_von(pfad).empty() && !nebenan.vielleicht_da(pfad)) continue;
         if (!ist_absolut(pfad)) pfad.insert(0, ordner);
         // Asked first, since a failed opening costs far more, and a list may be nothing but lines that are no files.
         if (dateien_.Datei_da(pfad) && Länge_wenn_lesbar(pfad) >= 0) liste_.add_Lied(pfad);

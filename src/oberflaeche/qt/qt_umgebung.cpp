@@ -6,9 +6,7 @@
 #include <QLocale>
 #include <QToolTip>
 #include <QTranslator>
-#include <cstdlib>
 #include <optional>
-#include <string_view>
 
 #include "oberflaeche/qt/bilder.hpp"
 #include "oberflaeche/qt/farben.hpp"
@@ -47,14 +45,6 @@ struct Qt_Umgebung::Innen {
         }
     }
 };
-
-bool Qt_Umgebung::Bildschirm_da() {
-    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
-        const char* wert = std::getenv(name);
-        if (wert != nullptr && *wert != '\0') return true;
-    }
-    return false;
-}
 
 Qt_Umgebung::Qt_Umgebung(int& argc, char** argv) {
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);

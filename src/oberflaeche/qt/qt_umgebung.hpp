@@ -10,11 +10,8 @@ namespace tonkartei {
 
 class Qt_Umgebung {
 public:
-    // Whether a window system can be reached; asked before the first Qt_Umgebung is made, which ends the process without
-    // one.
-    static bool Bildschirm_da();
-
-    // Takes Qt's own arguments (such as -platform offscreen) out; what is left are the program's.
+    // Ends the process where no window system can be reached. Takes Qt's own arguments (such as -platform offscreen) out;
+    // what is left are the program's.
     Qt_Umgebung(int& argc, char** argv);
     ~Qt_Umgebung();
     Qt_Umgebung(const Qt_Umgebung&) = delete;

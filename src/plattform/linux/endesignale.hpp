@@ -2,6 +2,9 @@
 // not in a handler.
 #pragma once
 
+#include <functional>
+#include <utility>
+
 namespace tonkartei {
 
 // SIGTERM, SIGHUP and SIGINT end; SIGURG is the call of a second start. For as long as it lives; one a process.
@@ -12,15 +15,23 @@ public:
     Endesignale(const Endesignale&) = delete;
     Endesignale& operator=(const Endesignale&) = delete;
 
-    // Readable once a signal has come; -1 when there is none, and signals do what they always do.
-    int Deskriptor() const noexcept { return deskriptor_; }
+    // `sicht` calls back when the descriptor can be read: to end, or since a second start calls. Without one, signals do
+    // what they always do.
+    template <class Sicht>
+    void anschließen(Sicht& sicht, std::function<void()> ende, std::function<void()> ruf) const {
+        sicht.bei_Lesbarkeit(deskriptor_, [this, ende = std::move(ende), ruf = std::move(ruf)] {
+            const Zeichen zeichen = abholen();
+            if (zeichen.Ende) ende();
+            if (zeichen.Ruf) ruf();
+        });
+    }
+
     struct Zeichen {
         bool Ende = false, Ruf = false;
     };
     // Takes what has come.
     Zeichen abholen() const;
 
-private:
     int deskriptor_ = -1;
 };
 

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "plattform/dateisystem.hpp"
-#include "plattform/linux/papierkorb.hpp"
 #include "plattform/linux/schreibweise.hpp"
+#include "plattform/papierkorb.hpp"
 
 namespace tonkartei {
 

@@ -1,7 +1,7 @@
 // The shell on Linux: file operations, and processes that outlive this one.
 #pragma once
 
-#include "plattform/linux/schale_dateien.hpp"
+#include "plattform/schale_dateien.hpp"
 
 namespace tonkartei {
 

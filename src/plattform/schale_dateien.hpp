@@ -4,7 +4,7 @@
 #include <unordered_map>
 
 #include "plattform/dateisystem.hpp"
-#include "plattform/linux/papierkorb.hpp"
+#include "plattform/papierkorb.hpp"
 #include "plattform/shell.hpp"
 
 namespace tonkartei {

@@ -1,4 +1,4 @@
-#include "plattform/linux/schale_dateien.hpp"
+#include "plattform/schale_dateien.hpp"
 
 #include "grundlagen/fehler.hpp"
 #include "plattform/offene_datei.hpp"
