@@ -5,7 +5,7 @@
 set -eu
 
 # Building and running. libgl1 and the xcb libraries come with Qt; sound comes with libmpv.
-pakete="g++ cmake ninja-build pkg-config ccache qt6-base-dev libmpv-dev"
+pakete="g++ cmake ninja-build pkg-config ccache qt6-base-dev libmpv-dev libsystemd-dev"
 # German buttons in the dialogs that Qt brings; Qt itself only recommends them.
 pakete="$pakete qt6-translations-l10n"
 # Letters for the windows: without a font every character is a box.

@@ -18,7 +18,7 @@ namespace {
 constexpr auto Sprungfrist = std::chrono::seconds(2);  // a jump that has shown no effect by then had none
 constexpr double Gerätepuffer = 0.5;                   // seconds
 constexpr double Höchstlücke = 0.3;                    // seconds between two news of the position
-constexpr std::uint64_t Beobachtet_Position = 1, Beobachtet_Länge = 2;
+constexpr std::uint64_t Beobachtet_Position = 1, Beobachtet_Länge = 2, Beobachtet_Titel = 3, Beobachtet_Interpret = 4;
 
 // A plain player of local songs: no pictures, no scripts, no settings of the user's, and no file that leads to another one.
 constexpr const char* Einstellungen[][2] = {
@@ -73,6 +73,8 @@ Abspieler::Abspieler(const Text& ausgabe) : wecker_(::eventfd(0, EFD_CLOEXEC | E
     if (mpv_initialize(mpv_.get()) < 0) throw std::runtime_error("player library does not start");
     mpv_observe_property(mpv_.get(), Beobachtet_Position, "time-pos", MPV_FORMAT_DOUBLE);
     mpv_observe_property(mpv_.get(), Beobachtet_Länge, "duration", MPV_FORMAT_DOUBLE);
+    mpv_observe_property(mpv_.get(), Beobachtet_Titel, "metadata/by-key/Title", MPV_FORMAT_STRING);
+    mpv_observe_property(mpv_.get(), Beobachtet_Interpret, "metadata/by-key/Artist", MPV_FORMAT_STRING);
 }
 
 void Abspieler::abholen() {
@@ -89,6 +91,11 @@ void Abspieler::verarbeiten(const mpv_event& ereignis) {
     switch (ereignis.event_id) {
         case MPV_EVENT_PROPERTY_CHANGE: {
             const auto& wert = *static_cast<const mpv_event_property*>(ereignis.data);
+            if (ereignis.reply_userdata == Beobachtet_Titel || ereignis.reply_userdata == Beobachtet_Interpret) {
+                const char* text = wert.format == MPV_FORMAT_STRING ? *static_cast<char* const*>(wert.data) : "";
+                (ereignis.reply_userdata == Beobachtet_Titel ? titel_ : interpret_) = text;
+                return;
+            }
             const double* zahl = wert.format == MPV_FORMAT_DOUBLE ? static_cast<const double*>(wert.data) : nullptr;
             if (!geladen_ || !zahl) return;
             if (ereignis.reply_userdata == Beobachtet_Position) Position_übernehmen(*zahl);

@@ -41,6 +41,9 @@ public:
     // Position in milliseconds: the target while a jump is under way. Length in seconds, none before it is known.
     std::int64_t Position() const;
     std::optional<double> Länge() const noexcept { return länge_; }
+    // As the song's file tells them; empty unknown.
+    const Text& Titel() const noexcept { return titel_; }
+    const Text& Interpret() const noexcept { return interpret_; }
 
 private:
     using Uhr = std::chrono::steady_clock;
@@ -66,6 +69,7 @@ private:
     double boden_ = 0;     // seconds: the last jump's target, as long as the library has not reached it
     Uhr::time_point erzählt_um_{};
     std::optional<double> länge_;
+    Text titel_, interpret_;
 
     std::optional<std::int64_t> sprungziel_;  // ms
     std::uint64_t sprungkennung_ = 0;

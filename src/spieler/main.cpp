@@ -17,6 +17,7 @@
 #include "plattform/linux/fenstersystem_linux.hpp"
 #include "plattform/linux/schreibtisch.hpp"
 #include "spieler/argumente.hpp"
+#include "spieler/mpris/medienbus.hpp"
 #include "spieler/sperre.hpp"
 #include "spieler/spieler.hpp"
 
@@ -46,11 +47,12 @@ int Wartezeit(Uhr::time_point bis) {
 
 void Schleife(Fenster& fenster, Spieler& spieler, Abspieler& abspieler, const Deskriptor& signale) {
     std::vector<pollfd> liste;
+    Medienbus bus(spieler);
     while (fenster.offen() && !spieler.Ende_verlangt()) {
-        liste.assign({{signale.fd(), POLLIN, 0}, {abspieler.Wecker(), POLLIN, 0}});
+        liste.assign({{signale.fd(), POLLIN, 0}, {abspieler.Wecker(), POLLIN, 0}, bus.Wache()});
         fenster.anmelden(liste);
-        if (::poll(liste.data(), liste.size(), Wartezeit(std::min(fenster.spätestens(), spieler.spätestens()))) < 0)
-            continue;
+        const auto bis = std::min({fenster.spätestens(), spieler.spätestens(), bus.spätestens()});
+        if (::poll(liste.data(), liste.size(), Wartezeit(bis)) < 0) continue;
         if (liste[0].revents != 0) {
             fenster.verschwinden();
             spieler.geschlossen();
@@ -58,6 +60,7 @@ void Schleife(Fenster& fenster, Spieler& spieler, Abspieler& abspieler, const De
         }
         if (liste[1].revents != 0) abspieler.abholen();
         fenster.bedienen(liste);
+        bus.bedienen();
         spieler.Fälliges_erledigen();
     }
 }

@@ -11,8 +11,6 @@ namespace tonkartei::spieler {
 
 namespace {
 
-constexpr std::int32_t Befehl_Wiedergabe = 40045, Befehl_Pause = 40046, Befehl_Stopp = 40047;
-constexpr std::int32_t Befehl_zurück = 40144, Befehl_vor = 40148;
 constexpr std::int64_t Frage_Status = 104, Frage_Zeit = 105, Befehl_springen = 106, Befehl_Lautstärke = 122;
 constexpr std::int64_t Schritt = 5000;  // ms
 constexpr auto Merkpause = std::chrono::milliseconds(300);
@@ -65,11 +63,7 @@ std::int32_t Spieler::Anwenderbefehl(std::int32_t w, std::int64_t l) {
             if (status_ == Status::gestoppt) return -1;
             springen(w);
             return 0;
-        case Befehl_Lautstärke:
-            lautstärke_ = std::clamp(w, 0, 255);
-            abspieler_.Lautstärke_setzen(lautstärke_);
-            merken_um_ = std::min(merken_um_, std::chrono::steady_clock::now() + Merkpause);
-            return 0;
+        case Befehl_Lautstärke: Lautstärke_stellen(w); return 0;
         default: return 0;
     }
 }
@@ -102,6 +96,16 @@ void Spieler::spielen_ab(std::size_t stelle) {
     aktuell_ = stelle;
     abspieler_.laden(lieder_[stelle]);
     anhalten(false);
+}
+
+void Spieler::nächstes() {
+    if (hat_nächstes()) spielen_ab(aktuell_ + 1);
+}
+
+void Spieler::Lautstärke_stellen(int wert) {
+    lautstärke_ = std::clamp(wert, 0, 255);
+    abspieler_.Lautstärke_setzen(lautstärke_);
+    merken_um_ = std::min(merken_um_, std::chrono::steady_clock::now() + Merkpause);
 }
 
 void Spieler::stoppen() {

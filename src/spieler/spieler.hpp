@@ -11,6 +11,10 @@
 
 namespace tonkartei::spieler {
 
+// Codes of WM_COMMAND.
+inline constexpr std::int32_t Befehl_Wiedergabe = 40045, Befehl_Pause = 40046, Befehl_Stopp = 40047;
+inline constexpr std::int32_t Befehl_zurück = 40144, Befehl_vor = 40148;
+
 class Spieler final : public Fensterprozedur {
 public:
     Spieler(Abspieler& abspieler, const Lautstärkegedächtnis& gedächtnis);
@@ -20,6 +24,15 @@ public:
     void Dateien(const std::vector<Text>& dateien, bool ersetzen) override;
     Auskunft Auskunft_geben() const override;
     void geschlossen() override;
+
+    // What other doors than the window ask: on in the list, to a place in the song, the volume (0 to 255).
+    bool hat_nächstes() const noexcept { return aktuell_ + 1 < lieder_.size(); }
+    void nächstes();
+    void an_Stelle(std::int64_t ms) { springen(ms); }
+    void Lautstärke_stellen(int wert);
+    // As the file tells them; empty unknown.
+    const Text& Titel() const noexcept { return abspieler_.Titel(); }
+    const Text& Interpret() const noexcept { return abspieler_.Interpret(); }
 
     bool Ende_verlangt() const noexcept { return ende_; }
     // Until when the loop may sleep, and what is due then: a slider that is dragged writes its last value only.

@@ -43,7 +43,7 @@ constexpr std::array Stockwerke{
     Stock{Anbau, 10, Maschine, " plattform/linux "},
     Stock{Anbau, 10, Maschine, " plattform/windows "},
     Stock{60, 60, nichts, " programm "},
-    Stock{70, 10, Maschine | mpv, " spieler "},
+    Stock{70, 10, Maschine | mpv, " spieler spieler/mpris "},
 };
 
 // Nobody else may know an annex, but through a door: from (a folder or a file) into (a folder).
@@ -85,7 +85,7 @@ std::optional<std::string> Ziel(const Quellen& quellen, const std::string& von, 
                                  "werkzeug/" + pfad,
                                  "tests/" + pfad,
                                  "leistung/" + pfad,
-                                 "src/plattform/linux/" + pfad};
+                                 "src/plattform/linux/" + pfad, "src/oberflaeche/qt/freedesktop/" + pfad};
     for (const std::filesystem::path versuch : beide)
         if (const std::string ziel = versuch.lexically_normal().generic_string(); quellen.contains(ziel)) return ziel;
     return std::nullopt;
