@@ -85,7 +85,8 @@ std::optional<std::string> Ziel(const Quellen& quellen, const std::string& von, 
                                  "werkzeug/" + pfad,
                                  "tests/" + pfad,
                                  "leistung/" + pfad,
-                                 "src/plattform/linux/" + pfad, "src/oberflaeche/qt/freedesktop/" + pfad};
+                                 "src/plattform/linux/" + pfad,
+                                 "src/oberflaeche/qt/freedesktop/" + pfad};
     for (const std::filesystem::path versuch : beide)
         if (const std::string ziel = versuch.lexically_normal().generic_string(); quellen.contains(ziel)) return ziel;
     return std::nullopt;
