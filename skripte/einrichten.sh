@@ -11,7 +11,9 @@ pakete="$pakete qt6-translations-l10n"
 # Letters for the windows: without a font every character is a box.
 pakete="$pakete fontconfig fonts-dejavu-core"
 # Tests and the operator.
-pakete="$pakete libgtest-dev libgmock-dev nlohmann-json3-dev dbus-daemon"
+pakete="$pakete libgtest-dev libgmock-dev nlohmann-json3-dev dbus-daemon dbus-bin"
+# A private X server with a window manager, and hands on its keyboard.
+pakete="$pakete xvfb openbox xdotool x11-utils"
 
 for gruppe in "$@"; do
     case $gruppe in

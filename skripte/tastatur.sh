@@ -25,6 +25,8 @@ export XDG_RUNTIME_DIR=$arbeit/lauf QT_QPA_PLATFORM=xcb TONKARTEI_TON=null LC_AL
 schritt=
 scheitern() {
     import -window root "$bild" 2>/dev/null || true
+    cat "$arbeit"/fehler* "$arbeit"/*.log >&2 2>/dev/null || true
+    [ -z "${programm:-}" ] || kill -0 "$programm" || { wait "$programm" && true; echo "the program ended with $?" >&2; }
     echo "Failed: $schritt: $1 (in front: $(vorn); picture: ${bild#"$wurzel"/})" >&2
     exit 1
 }
@@ -59,7 +61,7 @@ es_zeigt() { bald spieler_sagt "$1" "$2" || scheitern "$1 is not $2 but $(spiele
 
 schritt "a screen, a window manager, a bus"
 exec {nummer}<> <(:)
-Xvfb -displayfd "$nummer" -screen 0 1280x800x24 -nolisten tcp >"$arbeit/x.log" 2>&1 &
+Xvfb -displayfd "$nummer" -screen 0 1280x800x24 -nolisten tcp -noreset >"$arbeit/x.log" 2>&1 &
 prozesse+=($!)
 read -r -t 20 -u "$nummer" anzeige || scheitern "no X server: $(cat "$arbeit/x.log")"
 export DISPLAY=:$anzeige
@@ -69,7 +71,8 @@ read -r -t 20 -u "${BUS[0]}" DBUS_SESSION_BUS_ADDRESS
 export DBUS_SESSION_BUS_ADDRESS
 openbox >"$arbeit/wm.log" 2>&1 &
 prozesse+=($!)
-bald xprop -root _NET_SUPPORTING_WM_CHECK || scheitern "no window manager"
+hat_verwalter() { [[ $(xprop -root _NET_SUPPORTING_WM_CHECK) == *"window id"* ]]; }
+bald hat_verwalter || scheitern "no window manager"
 
 schritt "first start: a new collection"
 "$programme/tonkartei" 2>"$arbeit/fehler" &
@@ -110,7 +113,7 @@ fenster "Tasten"
 schritt "one is found while typing, and played"
 taste ctrl+f
 tippe "kartenw"
-taste Return
+taste Down Return
 es_zeigt PlaybackStatus Playing
 es_zeigt Metadata Kartenwalzer
 
