@@ -61,6 +61,7 @@ pruefen: stil
 	@cmake --build --preset pruefung -- -k 0
 
 tour: bediener
+	@sh skripte/einrichten.sh tour
 	@bash skripte/tour.sh
 
 bench:

@@ -1,7 +1,7 @@
 #!/bin/sh
 # Installs the Debian packages that building, testing and running need, and nothing when they are all there (one
 # question to dpkg, no apt). Groups by argument: "leistung" adds the benchmarks' packages, "format" the formatter, "pruefen"
-# all that looks at the sources, "paket" what making a Debian package takes, "handbuch" what makes the handbook a page.
+# all that looks at the sources, "tour" what its Wayland round takes, "paket" what making a Debian package takes, "handbuch" what makes the handbook a page.
 set -eu
 
 # Building and running. libgl1 and the xcb libraries come with Qt; sound comes with libmpv.
@@ -18,13 +18,15 @@ pakete="$pakete xvfb openbox xdotool x11-utils"
 for gruppe in "$@"; do
     case $gruppe in
         leistung) pakete="$pakete libtag1-dev" ;;
+        # A compositor without a screen, and Qt's way to it.
+        tour) pakete="$pakete weston qt6-wayland" ;;
         format) pakete="$pakete clang-format" ;;
         # It compiles the benchmarks as well.
         pruefen) pakete="$pakete clang-format clang-tidy shellcheck libtag1-dev" ;;
         paket) pakete="$pakete dpkg-dev file" ;;
         handbuch) pakete="$pakete cmark-gfm" ;;
         *)
-            echo "einrichten.sh: unknown group '$gruppe' (known: leistung, format, pruefen, paket, handbuch)" >&2
+            echo "einrichten.sh: unknown group '$gruppe' (known: leistung, tour, format, pruefen, paket, handbuch)" >&2
             exit 2
             ;;
     esac

@@ -2,7 +2,7 @@
 # Plays the main job without a screen, with real files, the real player and the real windows drawn off-screen: a new
 # collection, songs added, sorted, searched, cut by categories, played and counted; then the counts, albums, the playlist,
 # the editor of categories, the menus, the statistics, the text export, the display and the DJ desks after a new start; then
-# all windows once more at twice the scale. Prints what happens and leaves a picture of every window in build/tour. Fails when something
+# all windows once more at twice the scale, and some in other colours, on small screens and under Wayland. Prints what happens and leaves a picture of every window in build/tour. Fails when something
 # is not as it should.
 set -eu
 wurzel=$(cd "$(dirname "$0")/.." && pwd)
@@ -29,6 +29,8 @@ antwort=
 starten() {
     coproc BEDIENER { exec "$bediener" --maschine echt --ansicht qt --wurzel "$arbeit/wurzel" "$@" 2>"$arbeit/fehler"; }
     bediener_prozess=$BEDIENER_PID
+    # Its own descriptors are taken away as soon as it ends, with the last reply unread.
+    exec {von_ihm}<&"${BEDIENER[0]}" {an_ihn}>&"${BEDIENER[1]}"
     lesen
 }
 
@@ -36,7 +38,7 @@ starten() {
 lesen() {
     antwort=
     local zeile
-    while IFS= read -r -u "${BEDIENER[0]}" zeile; do
+    while IFS= read -r -u "$von_ihm" zeile; do
         antwort+=$zeile$'\n'
         case $zeile in
             *'"bereit"'*) return 0 ;;
@@ -48,7 +50,7 @@ lesen() {
 
 # A line to the program; what it shows in return is printed.
 tu() {
-    printf '%s\n' "$1" >&"${BEDIENER[1]}"
+    printf '%s\n' "$1" >&"$an_ihn"
     echo "> $1"
     lesen
     printf '%s' "$antwort" | sed -n \
@@ -63,7 +65,7 @@ tu() {
 
 # The text or the lines of a control must hold this.
 erwarte() {
-    printf 'zeige %s\n' "$1" >&"${BEDIENER[1]}"
+    printf 'zeige %s\n' "$1" >&"$an_ihn"
     lesen
     if printf '%s' "$antwort" | grep -qF -- "$2"; then
         echo "    $1: $2"
@@ -86,6 +88,7 @@ ende() {
     esac
     wait "$bediener_prozess" || { echo "    the program ended with status $?"; fehler=1; }
     bediener_prozess=
+    exec {von_ihm}<&- {an_ihn}>&-
 }
 
 rundgang() {
@@ -260,6 +263,8 @@ auswertungen() {
 
 # shellcheck source=skripte/tour_pulte.sh
 . "$wurzel/skripte/tour_pulte.sh"
+# shellcheck source=skripte/tour_aussehen.sh
+. "$wurzel/skripte/tour_aussehen.sh"
 # shellcheck source=skripte/tour_austausch.sh
 . "$wurzel/skripte/tour_austausch.sh"
 
@@ -277,7 +282,7 @@ echo "== Playing and counting"
 tu "wähle Tonkartei.Liste 0"
 tu "klick Tonkartei.Lied_starten"
 tu "warte 1000"
-printf 'spieler\n' >&"${BEDIENER[1]}"
+printf 'spieler\n' >&"$an_ihn"
 lesen
 printf '    %s' "$antwort" | head -n 1 | head -c 300
 case $antwort in *'"status":1'*) ;; *) echo "    the player does not play"; fehler=1 ;; esac
@@ -344,6 +349,9 @@ ende
 [ ! -e "$arbeit/sammlungen/Tour/MP3_Info.DBG" ] || { echo "the access file stayed behind"; fehler=1; }
 austausch "" Tour
 pulte "" Tour
+aussehen Tour
+kleiner_schirm Tour 1024 600
+wayland Tour
 
 echo "== The same windows at twice the scale"
 export QT_SCALE_FACTOR=2
@@ -359,6 +367,8 @@ auswertungen "@2x" Doppelt
 ende
 austausch "@2x" Doppelt
 pulte "@2x" Doppelt
+aussehen Doppelt "@2x"
+kleiner_schirm Doppelt 1920 1080 "@2x"
 
 echo
 if [ "$fehler" -ne 0 ]; then

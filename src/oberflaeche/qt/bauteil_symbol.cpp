@@ -1,4 +1,5 @@
 // The tray symbol. Where the desktop has no tray nothing is shown.
+#include <QGuiApplication>
 #include <QSystemTrayIcon>
 #include <QWidget>
 
@@ -25,8 +26,12 @@ public:
 
 private:
     void Aussehen_zeigen() override { symbol_.setToolTip(Anzeigeabsätze(element().tooltip())); }
-    // Also where there is no tray yet: at the start of a session the program may come up before the desktop's tray.
-    void Lage_zeigen() override { symbol_.setVisible(element().sichtbar()); }
+    // Under X also where there is no tray yet: at the start of a session the program may come up before the desktop's tray.
+    // Elsewhere Qt would complain.
+    void Lage_zeigen() override {
+        const bool wartet_darauf = QGuiApplication::platformName() == QLatin1String("xcb");
+        symbol_.setVisible(element().sichtbar() && (wartet_darauf || QSystemTrayIcon::isSystemTrayAvailable()));
+    }
 
     QSystemTrayIcon symbol_;
 };
