@@ -205,7 +205,7 @@ Größe Maße::Bildschirm() const {
 QRect freier_Schirm() {
     constexpr QSize keiner(800, 800);  // what the off-screen platform says of itself
     const QScreen* schirm = QGuiApplication::primaryScreen();
-    if (schirm == nullptr || (schirm->name().isEmpty() && schirm->size() == keiner)) return {};
+    if (schirm == nullptr || (schirm->name().isEmpty() && schirm->size() * schirm->devicePixelRatio() == keiner)) return {};
     return schirm->availableGeometry();
 }
 
