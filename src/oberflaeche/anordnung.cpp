@@ -146,13 +146,17 @@ void Anordnung::Rahmen_verteilen(const Knoten& knoten, Element* rahmen) {
 Größe Anordnung::Mindestgröße(Größe frei) {
     if (leer()) return {};
     zu_viel_ = {};
+    gemessene_.clear();
     const Größe maß = messen(wurzel_);
     const auto Überschuss = [](int eins, int grenze) { return grenze > 0 ? std::max(0, eins - grenze) : 0; };
     zu_viel_ = {Überschuss(maß.breite, frei.breite), Überschuss(maß.höhe, frei.höhe)};
-    return zu_viel_.breite == 0 && zu_viel_.höhe == 0 ? maß : messen(wurzel_);
+    if (zu_viel_.breite == 0 && zu_viel_.höhe == 0) return maß;
+    gemessene_.clear();
+    return messen(wurzel_);
 }
 
 void Anordnung::anordnen(Größe größe) {
+    gemessene_.clear();
     if (!leer()) setzen(wurzel_, {0, 0, größe.breite, größe.höhe});
 }
 
@@ -167,6 +171,13 @@ bool Anordnung::zählt(const Knoten& knoten) const {
 }
 
 Größe Anordnung::messen(const Knoten& knoten) const {
+    if (const auto bekannt = gemessene_.find(&knoten); bekannt != gemessene_.end()) return bekannt->second;
+    const Größe maß = gemessen(knoten);
+    gemessene_.emplace(&knoten, maß);
+    return maß;
+}
+
+Größe Anordnung::gemessen(const Knoten& knoten) const {
     Größe maß;
     switch (knoten.sorte_) {
         case Knoten::Sorte::Abstand: break;

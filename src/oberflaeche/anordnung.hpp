@@ -4,6 +4,7 @@
 
 #include <initializer_list>
 #include <memory>
+#include <unordered_map>
 #include <vector>
 
 #include "oberflaeche/geometrie.hpp"
@@ -78,8 +79,9 @@ public:
     bool leer() const noexcept { return wurzel_.kinder_.empty() && wurzel_.element_ == nullptr; }
 
 private:
-    struct Maß;
+    // Of one working out: what a node asks for does not change within it, and is asked for on every level above.
     Größe messen(const Knoten& knoten) const;
+    Größe gemessen(const Knoten& knoten) const;
     bool zählt(const Knoten& knoten) const;
     void setzen(const Knoten& knoten, Bereich platz) const;
     void Rahmen_verteilen(const Knoten& knoten, Element* rahmen);
@@ -90,6 +92,7 @@ private:
 
     Ansicht& ansicht_;
     Knoten wurzel_;
+    mutable std::unordered_map<const Knoten*, Größe> gemessene_;
     int gelesen_ = 0;
     Größe zu_viel_;  // by so much what scrolls is to be smaller than it wishes
 };

@@ -1,6 +1,7 @@
 #include "oberflaeche/qt/bilder.hpp"
 
 #include <QColor>
+#include <QIconEngine>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -216,13 +217,33 @@ void auf_Grund(QPainter& maler, const QRectF& platz, double seite) {
     maler.scale(kante / seite, kante / seite);
 }
 
-QPixmap Bildpunkte(const Text& name, int kante, const QColor& farbe) {
-    QPixmap bild(kante, kante);
-    bild.fill(Qt::transparent);
-    QPainter maler(&bild);
-    Bild_malen(maler, QRectF(0, 0, kante, kante), name, farbe);
-    return bild;
-}
+// Drawn when it is wanted, in the size that is wanted.
+class Bildmotor : public QIconEngine {
+public:
+    Bildmotor(Text name, const QColor& farbe, const QColor& blass)
+        : name_(std::move(name)), farbe_(farbe), blass_(blass.isValid() ? blass : farbe) {}
+
+    void paint(QPainter* maler, const QRect& platz, QIcon::Mode art, QIcon::State) override {
+        Bild_malen(*maler, QRectF(platz), name_, art == QIcon::Disabled ? blass_ : farbe_);
+    }
+    QPixmap pixmap(const QSize& größe, QIcon::Mode art, QIcon::State zustand) override {
+        QPixmap bild(größe);
+        bild.fill(Qt::transparent);
+        QPainter maler(&bild);
+        paint(&maler, QRect(QPoint(), größe), art, zustand);
+        return bild;
+    }
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override {
+        QList<QSize> größen;
+        for (const int kante : {16, 24, 32, 48, 64, 128, 256}) größen << QSize(kante, kante);
+        return größen;
+    }
+    QIconEngine* clone() const override { return new Bildmotor(*this); }
+
+private:
+    const Text name_;
+    const QColor farbe_, blass_;
+};
 
 }  // namespace
 
@@ -247,12 +268,7 @@ QIcon Programmsymbol() { return Bildsymbol("symbol", {}, {}); }
 
 QIcon Bildsymbol(const Text& name, const QColor& farbe, const QColor& blass) {
     if (name != "symbol" && Piktogramme().count(name) == 0) return {};
-    QIcon symbol;
-    for (const int kante : {16, 24, 32, 48, 64, 128, 256}) {
-        symbol.addPixmap(Bildpunkte(name, kante, farbe));
-        if (blass.isValid()) symbol.addPixmap(Bildpunkte(name, kante, blass), QIcon::Disabled);
-    }
-    return symbol;
+    return QIcon(new Bildmotor(name, farbe, blass));
 }
 
 }  // namespace tonkartei
