@@ -1,7 +1,6 @@
 #include "albenverwaltung/titeltabelle.hpp"
 
 #include <algorithm>
-#include <string>
 
 namespace tonkartei {
 
@@ -14,18 +13,12 @@ Titeltabelle::Zeile::Zeile(Fenster& fenster, int nummer)
         feld->wie_Daten = true;
         feld->eingerahmt = true;
     }
-    const Text zeile = "Zeile " + std::to_string(nummer) + ", ";
-    Lied_Nr.Vorlesename = zeile + "Nummer";
-    Lied_Artist.Vorlesename = zeile + "Artist";
-    Lied_Titel.Vorlesename = zeile + "Titel";
-    Lied_Zeit.Vorlesename = zeile + "Zeit";
     Lied_Nr.ausrichtung = Lied_Zeit.ausrichtung = Schriftfeld::Ausrichtung::rechts;
 }
 
 Titeltabelle::Titeltabelle(Fenster& fenster)
     : Lieder_Scroll(fenster, "Lieder_Scroll", 0, 0, ohne_Index, Regler::Form::Bildlauf) {
     Lieder_Scroll.senkrecht = true;
-    Lieder_Scroll.Vorlesename = "erster Titel der Tabelle";
     Lieder_Scroll.Geändert.verbinden([this] {
         Zeilen_füllen();
         gewählt();

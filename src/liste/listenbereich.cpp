@@ -52,8 +52,6 @@ Listenbereich::Listenbereich(Fenster& f, Haus& haus, Albenraum& alben, Kategorie
     Schnellsuche.tooltip("Lieder in der Liste enthalten diesen Text");
     Reset_Anzahl.tooltip("ändert, wie oft das Lied gehört wurde");
     Reset_Anzahl.aktiv(false);
-    Liste.Vorlesename = "Lieder oder Alben";
-    Liste2.Vorlesename = "Titel des Albums";
     Nr_Liste.unsichtbarer_Helfer = true;
     for (Schriftfeld* wert :
          {&Liste_Anzahl, &Liste_Größe, &Liste_Dauer, &Titel, &Artist, &Anzahl, &Lied_Größe, &Lied_Zeit}) {

@@ -134,11 +134,8 @@ Anordnung::Anordnung(Ansicht& ansicht, Knoten wurzel) : ansicht_(ansicht), wurze
     Rahmen_verteilen(wurzel_, nullptr);
 }
 
-void Anordnung::Rahmen_verteilen(const Knoten& knoten, Element* rahmen) {
-    if (knoten.element_ != nullptr) {
-        knoten.element_->rahmen(rahmen);
-        knoten.element_->Lesefolge = ++gelesen_;
-    }
+void Anordnung::Rahmen_verteilen(const Knoten& knoten, Element* rahmen) const {
+    if (knoten.element_ != nullptr) knoten.element_->rahmen(rahmen);
     Element* innen = knoten.sorte_ == Knoten::Sorte::Gruppe ? knoten.element_ : rahmen;
     for (const Knoten& kind : knoten.kinder_) Rahmen_verteilen(kind, innen);
 }

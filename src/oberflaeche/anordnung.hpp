@@ -84,7 +84,7 @@ private:
     Größe gemessen(const Knoten& knoten) const;
     bool zählt(const Knoten& knoten) const;
     void setzen(const Knoten& knoten, Bereich platz) const;
-    void Rahmen_verteilen(const Knoten& knoten, Element* rahmen);
+    void Rahmen_verteilen(const Knoten& knoten, Element* rahmen) const;
     Größe messen_Reihe(const Knoten& knoten, bool waagrecht) const;
     void setzen_Reihe(const Knoten& knoten, Bereich platz, bool waagrecht) const;
     void Gittermaße(const Knoten& knoten, std::vector<int>& breiten, std::vector<int>& höhen) const;
@@ -93,7 +93,6 @@ private:
     Ansicht& ansicht_;
     Knoten wurzel_;
     mutable std::unordered_map<const Knoten*, Größe> gemessene_;
-    int gelesen_ = 0;
     Größe zu_viel_;  // by so much what scrolls is to be smaller than it wishes
 };
 

@@ -107,10 +107,6 @@ public:
     bool Beschriftung_wörtlich = false;
     // A helper that the user never sees (hidden parallel lists): the view makes nothing for it.
     bool unsichtbarer_Helfer = false;
-    // What a screen reader says where neither a caption nor the label before it tells what it is.
-    Text Vorlesename;
-    // Its turn when the window is read, as the layout has it.
-    int Lesefolge = 0;
     // Number in the mouse-over effect of its window; 0 none.
     int Mausnummer = 0;
 

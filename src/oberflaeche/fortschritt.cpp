@@ -8,7 +8,6 @@ namespace tonkartei {
 
 Fortschritts_Fenster::Fortschritts_Fenster(Ansicht& ansicht) : Fenster(ansicht, "Fortschritts_Fenster", "Tonkartei") {
     größenveränderlich = false;
-    Fortschritt.Vorlesename = "Fortschritt";
 }
 
 Knoten Fortschritts_Fenster::anordnung() {

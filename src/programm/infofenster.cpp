@@ -6,7 +6,6 @@ namespace tonkartei {
 
 Infofenster::Infofenster(Ansicht& ansicht, const Modell& modell) : Fenster(ansicht, "Infofenster", "Info"), modell_(modell) {
     größenveränderlich = false;
-    Symbol.Vorlesename = Programmtitel;
     Symbol.Wunsch = {1440, 1440};
     Programm_Name.schrift(18);
     Programm_Name.fett(true);

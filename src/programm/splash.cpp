@@ -16,7 +16,6 @@ constexpr int Gleitpause = 10;  // milliseconds
 Splash::Splash(Datenbankraum& datenbank)
     : Fenster(datenbank.haus.ansicht, "Splash", Programmtitel), datenbank_(datenbank), haus_(datenbank.haus) {
     größenveränderlich = false;
-    Symbol.Vorlesename = Programmtitel;
     Symbol.frei = true;
     Symbol.Wunsch = {1920, 1920};
     Programm_Name.schrift(22);

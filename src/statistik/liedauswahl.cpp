@@ -10,7 +10,6 @@ Liedauswahl::Liedauswahl(Fenster& fenster, const Text& vorsilbe, Liedziel ziel)
       Lied_starten(fenster, vorsilbe + "Lied_starten", "Lied &starten"),
       Lied_in_Playlist(fenster, vorsilbe + "Lied_in_Playlist", "in &Playlist"),
       ziel_(ziel) {
-    Liste.Vorlesename = "Lieder";
     Lied_starten.tooltip("Das gewählte Lied mit WinAmp spielen.");
     Lied_in_Playlist.tooltip("Das gewählte Lied in die Playlist aufnehmen.");
     Liste.Doppelklick.verbinden([this] { starten(); });

@@ -16,7 +16,6 @@
 #include "oberflaeche/qt/stil.hpp"
 #include "oberflaeche/qt/umfeld.hpp"
 #include "oberflaeche/qt/umrechnung.hpp"
-#include "oberflaeche/qt/zugang.hpp"
 
 namespace tonkartei {
 
@@ -29,7 +28,6 @@ void Bauteil::aufnehmen(QWidget* widget, QWidget* fläche) {
     widget_ = widget;
     fläche_ = fläche == nullptr ? widget : fläche;
     widget_->setObjectName(Anzeigetext(element_.voller_Name()));
-    als_Element(*widget_, element_);
     for (QWidget* w : {widget_, fläche_}) {
         w->setMouseTracking(true);
         w->setAcceptDrops(true);
@@ -53,7 +51,6 @@ void Bauteil::Aussehen_zeigen() {
     if (widget_->font() != schrift) widget_->setFont(schrift);
     const QString tooltip = Anzeigeabsätze(element_.tooltip());
     widget_->setToolTip(Qt::mightBeRichText(tooltip) ? tooltip.toHtmlEscaped() : tooltip);
-    widget_->setAccessibleName(tonkartei::Vorlesename(element_));
     Farben_zeigen();
 }
 

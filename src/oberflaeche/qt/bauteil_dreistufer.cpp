@@ -53,8 +53,6 @@ protected:
 private:
     void Pfeile_färben() {
         const Töne ton = Töne::von(palette());
-        auf->setAccessibleName(QStringLiteral("hinauf"));
-        ab->setAccessibleName(QStringLiteral("hinunter"));
         auf->setIcon(Bildsymbol("auf", ton.Schrift, ton.Linie));
         ab->setIcon(Bildsymbol("ab", ton.Schrift, ton.Linie));
     }

@@ -106,7 +106,6 @@ private:
 Menüleiste::Menüleiste(Umfeld& umfeld, const Menü& menü, QWidget* eltern)
     : umfeld_(umfeld), menü_(menü), leiste_(new QMenuBar(eltern)) {
     leiste_->setNativeMenuBar(false);
-    leiste_->setAccessibleName(QStringLiteral("Menü"));
     if (!menü_.einträge().empty())
         leiste_->installEventFilter(new Sperre(umfeld_, menü_.einträge().front()->fenster(), leiste_));
     // One connection for the whole bar: it passes on what its menus trigger.

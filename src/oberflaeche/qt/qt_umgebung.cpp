@@ -11,7 +11,6 @@
 #include "oberflaeche/qt/bilder.hpp"
 #include "oberflaeche/qt/farben.hpp"
 #include "oberflaeche/qt/stil.hpp"
-#include "oberflaeche/qt/zugang.hpp"
 
 namespace tonkartei {
 namespace {
@@ -50,7 +49,6 @@ Qt_Umgebung::Qt_Umgebung(int& argc, char** argv) {
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     innen_ = std::make_unique<Innen>(argc, argv);
     QApplication& anwendung = innen_->anwendung;
-    Zugang_einrichten();
     QCoreApplication::setApplicationName(QStringLiteral("Tonkartei"));
     QGuiApplication::setDesktopFileName(QStringLiteral("tonkartei"));
     // The model decides when the program ends.
