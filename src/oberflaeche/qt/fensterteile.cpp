@@ -86,6 +86,13 @@ void Fensterwidget::Ziele_sammeln(const Element& quelle, std::vector<QWidget*>& 
     jedes_Teil([&](const Fensterwidget& innen, const Element&) { innen.Ziele_sammeln(quelle, ziele); });
 }
 
+Bauteil* Fensterwidget::bauteil_von(const QWidget& widget) const {
+    if (umfeld_.zu_Ende) return nullptr;
+    for (const auto& [element, teil] : bauteile_)
+        if (teil != nullptr && teil->widget() == &widget) return teil.get();
+    return nullptr;
+}
+
 bool Fensterwidget::eigener_Grund() const {
     for (const Fenster* f = &fenster_; f != nullptr; f = f->Elternfenster())
         if (f->hintergrund != Farbe_Standard) return true;

@@ -12,6 +12,7 @@
 #include "oberflaeche/qt/bilder.hpp"
 #include "oberflaeche/qt/farben.hpp"
 #include "oberflaeche/qt/stil.hpp"
+#include "oberflaeche/qt/zugang.hpp"
 
 namespace tonkartei {
 
@@ -53,6 +54,7 @@ Qt_Umgebung::Qt_Umgebung(int& argc, char** argv) {
         schrift.setPixelSize(13);
         QApplication::setFont(schrift);
     }
+    Zugang_einrichten();
     QGuiApplication::setWindowIcon(Programmsymbol());
     if (innen_->deutsch.load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&innen_->deutsch);
