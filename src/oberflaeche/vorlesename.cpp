@@ -39,8 +39,13 @@ Text Beschriftung(const Element& e) {
         }
         text += e.beschriftung()[i];
     }
-    if (!Daten && !text.empty() && text.back() == ':') text.pop_back();
-    return sagt_etwas(text) ? text : Text{};
+    if (!sagt_etwas(text)) return {};
+    if (!Daten && text.back() == ':') text.pop_back();
+    if (e.art() != Elementart::Knopf) return text;
+    // An arrow beside the words is for the eye.
+    const char* pfeil = " <>-";
+    const std::size_t anfang = text.find_first_not_of(pfeil);
+    return text.substr(anfang, text.find_last_not_of(pfeil) + 1 - anfang);
 }
 
 // Up to what it explains besides.
@@ -53,11 +58,13 @@ Text Hinweis(const Element& e) {
 bool ist_Überschrift(const Element& e) {
     if (e.art() != Elementart::Schrift || e.Klick.hat_Hörer()) return false;
     const auto& schrift = static_cast<const Schriftfeld&>(e);
-    return !schrift.wie_Daten && !schrift.eingerahmt && !schrift.Ziffern;
+    const Text& text = schrift.beschriftung();
+    const bool führt_hin = text.find('&') != Text::npos || (!text.empty() && text.back() == ':');
+    return führt_hin && !schrift.wie_Daten && !schrift.eingerahmt && !schrift.Ziffern;
 }
 
 // The label that is called after the control, else the one made just before it.
-Text Überschrift(const Element& e, bool nur_benannte) {
+Text Überschrift(const Element& e) {
     const auto& alle = e.fenster().elemente();
     for (const Element* eines : alle)
         if (eines->art() == Elementart::Schrift && eines->Index() == e.Index() && eines->Name() == e.Name() + "_Text")
@@ -65,9 +72,7 @@ Text Überschrift(const Element& e, bool nur_benannte) {
     const auto selbst = std::find(alle.begin(), alle.end(), &e);
     if (selbst == alle.begin() || selbst == alle.end()) return {};
     const Element& davor = **(selbst - 1);
-    const bool mit_Zugriff = davor.beschriftung().find('&') != Text::npos;
-    return ist_Überschrift(davor) && davor.rahmen() == e.rahmen() && (mit_Zugriff || !nur_benannte) ? Beschriftung(davor)
-                                                                                                    : Text{};
+    return ist_Überschrift(davor) && davor.rahmen() == e.rahmen() ? Beschriftung(davor) : Text{};
 }
 
 bool ist_allein(const Element& e) {
@@ -82,8 +87,8 @@ Text Fenstertitel(const Fenster& fenster) {
 }
 
 Text Feldname(const Element& e) {
-    for (const Text& name : {Überschrift(e, true), Hinweis(e), Überschrift(e, false)})
-        if (!name.empty()) return name;
+    if (const Text name = Überschrift(e); !name.empty()) return name;
+    if (const Text name = Hinweis(e); !name.empty()) return name;
     for (const Element* rahmen = e.rahmen(); rahmen != nullptr && ist_allein(e); rahmen = rahmen->rahmen())
         if (const Text name = Beschriftung(*rahmen); !name.empty()) return name;
     const bool für_alles = e.art() == Elementart::Liste || e.art() == Elementart::Reiter || ist_allein(e);
@@ -92,7 +97,7 @@ Text Feldname(const Element& e) {
 
 // A value that can be clicked goes by what it is the value of.
 Text Schriftname(const Element& e) {
-    const Text text = Beschriftung(e), wovon = Überschrift(e, false);
+    const Text text = Beschriftung(e), wovon = e.Vorlesename.empty() ? Überschrift(e) : e.Vorlesename;
     if (wovon.empty()) return text.empty() ? Hinweis(e) : text;
     return text.empty() ? wovon : wovon + ": " + text;
 }
@@ -100,13 +105,12 @@ Text Schriftname(const Element& e) {
 }  // namespace
 
 Text Vorlesename(const Element& e) {
-    const Text text = e.art() == Elementart::Schrift ? Schriftname(e) : Beschriftung(e);
+    if (e.art() == Elementart::Schrift) return Schriftname(e);
     if (!e.Vorlesename.empty()) return e.Vorlesename;
-    if (!text.empty()) return text;
+    if (const Text text = Beschriftung(e); !text.empty()) return text;
     switch (e.art()) {
         case Elementart::Rahmen: return {};
-        case Elementart::Schrift: return {};
-        case Elementart::Fläche: return Hinweis(e);
+        case Elementart::Fläche:
         case Elementart::Knopf: return Hinweis(e);
         default: return Feldname(e);
     }

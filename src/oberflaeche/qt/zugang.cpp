@@ -1,7 +1,9 @@
 #include "oberflaeche/qt/zugang.hpp"
 
+#include <QAbstractButton>
 #include <QAccessible>
-#include <QLineEdit>
+#include <QComboBox>
+#include <QTimer>
 #include <QToolButton>
 
 #include "oberflaeche/elemente.hpp"
@@ -21,7 +23,15 @@ const Fensterwidget* Fenster_um(const QWidget* widget) {
     return nullptr;
 }
 
-bool ist_klickbar(const Element& element) { return element.art() == Elementart::Schrift && element.Klick.hat_Hörer(); }
+void benennen(QWidget& widget, const QString& name) {
+    if (widget.accessibleName() != name) widget.setAccessibleName(name);
+}
+
+// A label or a picture that does something.
+bool ist_klickbar(const Element& element) {
+    const Elementart art = element.art();
+    return (art == Elementart::Schrift || art == Elementart::Fläche) && element.Klick.hat_Hörer();
+}
 
 QAccessible::Role Fensterrolle(const Fensterwidget& widget) {
     if (!widget.isWindow()) return QAccessible::Pane;
@@ -30,18 +40,21 @@ QAccessible::Role Fensterrolle(const Fensterwidget& widget) {
 
 // Null where Qt's own does, which reads the name from the widget.
 QAccessibleInterface* Zugang_machen(Bauteil& teil) {
-    Zugangsnamen_setzen(teil);
+    // Who came here past the parents, by the focus, hears the name a moment later.
+    QTimer::singleShot(0, teil.widget(), [widget = teil.widget()] { Zugangsnamen_setzen(*widget); });
     QWidget* widget = teil.widget();
     const Element& element = teil.element();
+    if (ist_klickbar(element)) return new Klickzugang(widget, teil);
     switch (element.art()) {
         case Elementart::Rahmen:
-            return new Bodenzugang(widget, element.beschriftung().empty() ? QAccessible::Pane : QAccessible::Grouping);
+            return new Bodenzugang(widget, Vorlesename(element).empty() ? QAccessible::Pane : QAccessible::Grouping);
+        case Elementart::Option: return new Optionszugang(static_cast<QAbstractButton*>(widget));
+        case Elementart::Auswahl: return new Auswahlzugang(static_cast<QComboBox*>(widget));
         case Elementart::Dreistufer: return new Stufenzugang(widget, teil);
         case Elementart::Fläche: return new QAccessibleWidget(widget, QAccessible::Graphic);
         case Elementart::Balken:
             if (static_cast<const Balken&>(element).Diagramm) return new QAccessibleWidget(widget, QAccessible::Graphic);
             return nullptr;
-        case Elementart::Schrift: return ist_klickbar(element) ? new Klickzugang(widget, teil) : nullptr;
         default: return nullptr;
     }
 }
@@ -54,28 +67,33 @@ QAccessibleInterface* Zugang(const QString& klasse, QObject* objekt) {
     if (fenster == nullptr) return nullptr;
     if (fenster == widget) return new Bodenzugang(widget, Fensterrolle(*fenster));
     if (fenster->boden() == widget) return new Bodenzugang(widget, QAccessible::Pane);
-    if (Bauteil* teil = fenster->bauteil_von(*widget)) return Zugang_machen(*teil);
-    // The button in a text field that empties it.
-    if (qobject_cast<QLineEdit*>(widget->parentWidget()) != nullptr && qobject_cast<QToolButton*>(widget) != nullptr)
-        widget->setAccessibleName(QStringLiteral("leeren"));
-    return nullptr;
+    Bauteil* teil = fenster->bauteil_von(*widget);
+    return teil == nullptr ? nullptr : Zugang_machen(*teil);
 }
 
 }  // namespace
 
 void Zugang_einrichten() { QAccessible::installFactory(Zugang); }
 
+void Zugangsnamen_setzen(const QWidget& widget) {
+    const Fensterwidget* fenster = Fenster_um(&widget);
+    if (const Bauteil* teil = fenster == nullptr ? nullptr : fenster->bauteil_von(widget)) Zugangsnamen_setzen(*teil);
+}
+
 void Zugangsnamen_setzen(const Bauteil& teil) {
     QWidget* widget = teil.widget();
     const Element& element = teil.element();
     // Labels are their own text.
     if (widget == nullptr || (element.art() == Elementart::Schrift && !ist_klickbar(element))) return;
-    const QString name = Anzeigetext(Vorlesename(element));
-    if (widget->accessibleName() != name) widget->setAccessibleName(name);
-    if (element.art() != Elementart::Liste) return;
-    const auto& liste = static_cast<const Listenfeld&>(element);
-    const QString leertext = liste.Anzahl() == 0 ? Anzeigeabsätze(liste.leertext()) : QString();
-    if (widget->accessibleDescription() != leertext) widget->setAccessibleDescription(leertext);
+    benennen(*widget, Anzeigetext(Vorlesename(element)));
+    if (element.art() == Elementart::Eingabe) {
+        // The one that empties it.
+        for (QToolButton* knopf : widget->findChildren<QToolButton*>()) benennen(*knopf, QStringLiteral("leeren"));
+    } else if (element.art() == Elementart::Liste) {
+        const auto& liste = static_cast<const Listenfeld&>(element);
+        const QString leertext = liste.Anzahl() == 0 ? Anzeigeabsätze(liste.leertext()) : QString();
+        if (widget->accessibleDescription() != leertext) widget->setAccessibleDescription(leertext);
+    }
 }
 
 }  // namespace tonkartei

@@ -2,13 +2,16 @@
 // screen. All of it is made when it is asked for; without anyone who asks it costs nothing.
 #pragma once
 
+class QWidget;
+
 namespace tonkartei {
 
 class Bauteil;
 
 // Once, with the application object.
 void Zugang_einrichten();
-// The name follows the model.
+// The names follow the model. Each of these makes Qt ask for the widget's interface, so none may come while one is made.
 void Zugangsnamen_setzen(const Bauteil& teil);
+void Zugangsnamen_setzen(const QWidget& widget);
 
 }  // namespace tonkartei

@@ -1,11 +1,14 @@
 #include "oberflaeche/qt/zugangsarten.hpp"
 
-#include <QMenu>
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <algorithm>
 
 #include "oberflaeche/elemente.hpp"
 #include "oberflaeche/hand.hpp"
 #include "oberflaeche/qt/leseordnung.hpp"
+#include "oberflaeche/qt/zugang.hpp"
 
 namespace tonkartei {
 
@@ -33,7 +36,9 @@ std::vector<QWidget*> Bodenzugang::Kinder() const {
 QAccessibleInterface* Bodenzugang::child(int stelle) const {
     const auto kinder = Kinder();
     if (stelle < 0 || stelle >= static_cast<int>(kinder.size())) return nullptr;
-    return QAccessible::queryAccessibleInterface(kinder[static_cast<std::size_t>(stelle)]);
+    QWidget* kind = kinder[static_cast<std::size_t>(stelle)];
+    Zugangsnamen_setzen(*kind);
+    return QAccessible::queryAccessibleInterface(kind);
 }
 
 int Bodenzugang::indexOfChild(const QAccessibleInterface* kind) const {
@@ -42,8 +47,65 @@ int Bodenzugang::indexOfChild(const QAccessibleInterface* kind) const {
     return fund == kinder.end() ? -1 : static_cast<int>(fund - kinder.begin());
 }
 
-Klickzugang::Klickzugang(QWidget* widget, Bauteil& teil)
-    : QAccessibleWidget(widget, QAccessible::Button), teil_(&teil) {}
+Auswahlzugang::Auswahlzugang(QComboBox* feld) : QAccessibleWidget(feld, QAccessible::ComboBox) {}
+
+QComboBox* Auswahlzugang::feld() const { return static_cast<QComboBox*>(widget()); }
+
+// Both in one, since a change of the choice is told as a change of the name.
+QString Auswahlzugang::text(QAccessible::Text welcher) const {
+    const QString gewählt = feld()->currentText();
+    if (welcher == QAccessible::Value) return gewählt;
+    if (welcher != QAccessible::Name) return QAccessibleWidget::text(welcher);
+    const QString name = feld()->accessibleName();
+    return name.isEmpty() || gewählt.isEmpty() ? name + gewählt : name + QStringLiteral(": ") + gewählt;
+}
+
+QAccessibleInterface* Auswahlzugang::child(int stelle) const {
+    return stelle == 0 ? QAccessible::queryAccessibleInterface(feld()->view()) : nullptr;
+}
+
+int Auswahlzugang::indexOfChild(const QAccessibleInterface* kind) const {
+    return kind != nullptr && kind->object() == feld()->view() ? 0 : -1;
+}
+
+QAccessible::State Auswahlzugang::state() const {
+    QAccessible::State stand = QAccessibleWidget::state();
+    stand.expandable = true;
+    stand.expanded = feld()->view()->isVisible();
+    stand.collapsed = !stand.expanded;
+    return stand;
+}
+
+QStringList Auswahlzugang::actionNames() const { return {showMenuAction(), setFocusAction()}; }
+
+void Auswahlzugang::doAction(const QString& name) {
+    if (name != showMenuAction())
+        QAccessibleWidget::doAction(name);
+    else if (feld()->view()->isVisible())
+        feld()->hidePopup();
+    else
+        feld()->showPopup();
+}
+
+Optionszugang::Optionszugang(QAbstractButton* knopf) : QAccessibleWidget(knopf, QAccessible::RadioButton) {}
+
+QAccessible::State Optionszugang::state() const {
+    QAccessible::State stand = QAccessibleWidget::state();
+    stand.checkable = true;
+    stand.checked = static_cast<QAbstractButton*>(widget())->isChecked();
+    return stand;
+}
+
+QStringList Optionszugang::actionNames() const { return {toggleAction(), setFocusAction()}; }
+
+void Optionszugang::doAction(const QString& name) {
+    if (name != toggleAction())
+        QAccessibleWidget::doAction(name);
+    else
+        static_cast<QAbstractButton*>(widget())->click();
+}
+
+Klickzugang::Klickzugang(QWidget* widget, Bauteil& teil) : QAccessibleWidget(widget, QAccessible::Button), teil_(&teil) {}
 
 QStringList Klickzugang::actionNames() const { return {pressAction(), setFocusAction()}; }
 
@@ -54,8 +116,7 @@ void Klickzugang::doAction(const QString& name) {
         teil_->von_Hand([](Element& element) { Hand::klicken(element); });
 }
 
-Stufenzugang::Stufenzugang(QWidget* widget, Bauteil& teil)
-    : QAccessibleWidget(widget, QAccessible::SpinBox), teil_(&teil) {}
+Stufenzugang::Stufenzugang(QWidget* widget, Bauteil& teil) : QAccessibleWidget(widget, QAccessible::SpinBox), teil_(&teil) {}
 
 void* Stufenzugang::interface_cast(QAccessible::InterfaceType art) {
     if (art == QAccessible::ValueInterface) return static_cast<QAccessibleValueInterface*>(this);

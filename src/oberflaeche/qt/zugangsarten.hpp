@@ -7,6 +7,9 @@
 
 #include "oberflaeche/qt/bauteil.hpp"
 
+class QAbstractButton;
+class QComboBox;
+
 namespace tonkartei {
 
 // A window, a frame, the ground between them: its parts come in the order of the screen.
@@ -20,6 +23,31 @@ public:
 private:
     // What is hidden comes last: it has no place.
     std::vector<QWidget*> Kinder() const;
+};
+
+// A drop-down list: Qt's own is called by its chosen line alone and finds its name by a label only.
+class Auswahlzugang : public QAccessibleWidget {
+public:
+    explicit Auswahlzugang(QComboBox* feld);
+    QString text(QAccessible::Text welcher) const override;
+    int childCount() const override { return 1; }
+    QAccessibleInterface* child(int stelle) const override;
+    int indexOfChild(const QAccessibleInterface* kind) const override;
+    QAccessible::State state() const override;
+    QStringList actionNames() const override;
+    void doAction(const QString& name) override;
+
+private:
+    QComboBox* feld() const;
+};
+
+// An option button: it lets the model do the excluding, and Qt takes it for a check box.
+class Optionszugang : public QAccessibleWidget {
+public:
+    explicit Optionszugang(QAbstractButton* knopf);
+    QAccessible::State state() const override;
+    QStringList actionNames() const override;
+    void doAction(const QString& name) override;
 };
 
 // A label that does something when it is clicked.
