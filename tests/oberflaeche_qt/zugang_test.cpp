@@ -55,6 +55,14 @@ TEST_F(Zugang, TellsRoleAndName) {
     EXPECT_EQ(von(fenster.Fortschritt).valueInterface()->currentValue().toInt(), 40);
 }
 
+TEST_F(Zugang, IsMadeOnceSomebodyAsks) {
+    const QWidget& suche = widget<QWidget>(fenster.Suche);
+    EXPECT_EQ(suche.accessibleName(), QString());
+    QAccessible::setActive(true);
+    EXPECT_EQ(suche.accessibleName(), QStringLiteral("Schnellsuche"));
+    QAccessible::setActive(false);
+}
+
 TEST_F(Zugang, WorksWhatCanBeWorkedJustNow) {
     int geklickt = 0;
     std::vector<int> stufen;

@@ -18,6 +18,7 @@ namespace tonkartei {
 
 struct Qt_Umgebung::Innen {
     QApplication anwendung;
+    Zugangswache zugang;
     QTranslator deutsch;
     Text kommandozeile;
 
@@ -54,7 +55,6 @@ Qt_Umgebung::Qt_Umgebung(int& argc, char** argv) {
         schrift.setPixelSize(13);
         QApplication::setFont(schrift);
     }
-    Zugang_einrichten();
     QGuiApplication::setWindowIcon(Programmsymbol());
     if (innen_->deutsch.load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&innen_->deutsch);

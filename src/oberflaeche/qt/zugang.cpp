@@ -1,9 +1,8 @@
 #include "oberflaeche/qt/zugang.hpp"
 
 #include <QAbstractButton>
-#include <QAccessible>
+#include <QApplication>
 #include <QComboBox>
-#include <QTimer>
 #include <QToolButton>
 
 #include "oberflaeche/elemente.hpp"
@@ -40,8 +39,6 @@ QAccessible::Role Fensterrolle(const Fensterwidget& widget) {
 
 // Null where Qt's own does, which reads the name from the widget.
 QAccessibleInterface* Zugang_machen(Bauteil& teil) {
-    // Who came here past the parents, by the focus, hears the name a moment later.
-    QTimer::singleShot(0, teil.widget(), [widget = teil.widget()] { Zugangsnamen_setzen(*widget); });
     QWidget* widget = teil.widget();
     const Element& element = teil.element();
     if (ist_klickbar(element)) return new Klickzugang(widget, teil);
@@ -73,7 +70,20 @@ QAccessibleInterface* Zugang(const QString& klasse, QObject* objekt) {
 
 }  // namespace
 
-void Zugang_einrichten() { QAccessible::installFactory(Zugang); }
+Zugangswache::Zugangswache() {
+    QAccessible::installFactory(Zugang);
+    QAccessible::installActivationObserver(this);
+}
+
+Zugangswache::~Zugangswache() {
+    QAccessible::removeActivationObserver(this);
+    QAccessible::removeFactory(Zugang);
+}
+
+void Zugangswache::accessibilityActiveChanged(bool aktiv) {
+    if (!aktiv) return;
+    for (const QWidget* widget : QApplication::allWidgets()) Zugangsnamen_setzen(*widget);
+}
 
 void Zugangsnamen_setzen(const QWidget& widget) {
     const Fensterwidget* fenster = Fenster_um(&widget);
