@@ -12,6 +12,7 @@ void Alben_Verwaltung::Felder_beschreiben() {
     Datenbank_Titel_Null.tooltip("Kein Titel des Albums ist mehr mit einem Lied verbunden");
     Scan_DB.tooltip("Verbindet die Titel mit den Liedern gleichen Namens");
     Scan_Zeit.tooltip("Die Titel bekommen die Länge ihrer Lieder");
+    Lied_Position.Vorlesename = "Reihenfolge";
     Lied_Position.tooltip("Verschiebt den aktuellen Titel");
     in_Datenbank.tooltip("Der Titel ist mit einem Lied der Datenbank verbunden");
     Datenbank_Nr.tooltip("Nummer des Liedes in der Datenbank");

@@ -13,11 +13,16 @@ Titeltabelle::Zeile::Zeile(Fenster& fenster, int nummer)
         feld->wie_Daten = true;
         feld->eingerahmt = true;
     }
+    Lied_Nr.Vorlesename = "Nummer";
+    Lied_Artist.Vorlesename = "Artist";
+    Lied_Titel.Vorlesename = "Titel";
+    Lied_Zeit.Vorlesename = "Zeit";
     Lied_Nr.ausrichtung = Lied_Zeit.ausrichtung = Schriftfeld::Ausrichtung::rechts;
 }
 
 Titeltabelle::Titeltabelle(Fenster& fenster)
     : Lieder_Scroll(fenster, "Lieder_Scroll", 0, 0, ohne_Index, Regler::Form::Bildlauf) {
+    Lieder_Scroll.Vorlesename = "aktueller Titel";
     Lieder_Scroll.senkrecht = true;
     Lieder_Scroll.Geändert.verbinden([this] {
         Zeilen_füllen();

@@ -27,6 +27,7 @@ Datei_ausgabe::Datei_ausgabe(Ansicht& ansicht, Dateisystem& dateien, Liedausgabe
         spalte.wähle(vorgabe);
         spalte.tooltip("Was in dieser Spalte der Datei steht.");
     }
+    Spaltentrenner[3].Vorlesename = "senkrechter Strich";
     Spaltentrenner[Tabulator].wählen();
     for (Optionsfeld& option : Spaltentrenner) option.Klick.verbinden([this, &option] { Trenner_Nr_ = option.Index(); });
     Spaltentrennzeichen.tooltip("Was zwischen zwei Spalten steht.");

@@ -24,6 +24,7 @@ Vergleichsfenster::Vergleichsfenster(tonkartei::Ansicht& ansicht, Text name, Tex
         helfer->unsichtbarer_Helfer = true;
         helfer->sichtbar(false);
     }
+    Liste.Vorlesename = "Lieder";
     anzeigen[0].tooltip("Die Lieder, die es in dieser Datenbank nicht gibt");
     anzeigen[1].tooltip("Die Lieder, die es hier mit anderem Namen, anderer Größe oder anderem Datum gibt");
     for (int i = 0; i < 2; ++i)

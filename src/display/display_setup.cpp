@@ -23,6 +23,10 @@ Display_Setup::Display_Setup(Ansicht& ansicht, Display_Einstellungen& werte)
     LPT_LPT1.tooltip("Setzt die Werte für Daten-, Status- und Controlport auf die Standartwerte für LPT1");
     for (int i = 1; i <= Taster.Anzahl(); ++i)
         Hi_aktiv[i].Gruppe = Low_aktiv[i].Gruppe = "Taster_aktiv(" + Zahltext(i) + ")";
+    for (int i = 1; i <= Display_Init_Wert.Anzahl(); ++i) {
+        Display_Init_Wert[i].Vorlesename = "Wert " + Zahltext(i);
+        Display_Init_Zeit[i].Vorlesename = "Zeit " + Zahltext(i);
+    }
     Listen_füllen();
     LPT_LPT1.Klick.verbinden([this] {
         LPT_Data.text("888");

@@ -37,6 +37,11 @@ Listen::Listen(Fenster& f, Haus& haus)
     }
     Listen_Mode[Playlist].tooltip("nimmt Lieder an, die auf sie gezogen werden");
     Listen_Mode[Wunschliste].tooltip("nimmt Lieder an, die auf sie gezogen werden");
+    Liste[Suchliste].Vorlesename = "Lieder";
+    Liste[Playlist].Vorlesename = "Playlist";
+    Liste[Wunschliste].Vorlesename = "Wunschliste";
+    Schnellsuche.Vorlesename = "Schnellsuche";
+    Kat_Schemas.Vorlesename = "Schemas";
     for (Listenfeld& liste : Liste)
         liste.tooltip(
             "Lieder lassen sich auf Player und Listen ziehen; die Tasten 1 bis 4 laden das gewählte Lied in einen "

@@ -31,6 +31,9 @@ Spielerfeld::Spielerfeld(Fenster& f, const char*, int n)
       Player_Auto_Label(f, "Player_Auto_Label", n % 2 == 1 ? "   ---------->" : "   <----------", n),
       Player_Lautstärke(f, "Player_Lautstärke", 0, Reglerweite, n) {
     Player_Rahmen.deckend = true;
+    Player_Rahmen.Vorlesename = "Player " + Zahltext(n);
+    Player_Taste_Play.Vorlesename = "Play";
+    Player_Taste_Pause.Vorlesename = "Pause";
     for (Schriftfeld* feld : {&Player_Artist, &Player_Titel}) {
         feld->wie_Daten = true;
         feld->schrift(Titelschrift);

@@ -26,6 +26,8 @@ Long Lieder_in_Kategorie(const Modell& modell, int Kategorie) {
 
 Kategorie_bearbeiten::Kategorie_bearbeiten(Ansicht& ansicht, Modell& modell, Kategorie_Wahl& wahl)
     : Fenster(ansicht, "Kategorie_bearbeiten", "Kategorien"), modell_(modell), wahl_(wahl) {
+    Liste.Vorlesename = "Kategorien";
+    Reihenfolge.Vorlesename = "Reihenfolge";
     Liste.tooltip("Zeigt die momentan vorhandenen Kategorien an");
     Reihenfolge.tooltip("verschiebt die gewählte Kategorie");
     Reihenfolge.senkrecht = true;

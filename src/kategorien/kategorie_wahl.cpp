@@ -11,6 +11,7 @@ Kategorie_Wahl::Kategorie_Wahl(Ansicht& ansicht, const Modell& modell)
     Artist.wie_Daten = true;
     abspielen.tooltip("spielt das Lied mit WinAmp ab");
     Kategorie_Edit.tooltip("öffnet das Fenster zum Bearbeiten der Kategorien");
+    Liste.Vorlesename = "Kategorie des Liedes";
     Liste.tooltip("Wählen sie die Kategorie des Liedes");
     Liste.wählt_erst_auf_Return = true;
     Liste.Klick.verbinden([this] { antworten(als_Byte(Liste.gewählt() + 1)); });

@@ -28,6 +28,7 @@ Kategorienbereich::Kategorienbereich(Fenster& fenster, Modell& modell, Einstellu
     for (int n = 1; n <= Schemas_maximal; ++n) {
         auto& knopf = schemas_[static_cast<std::size_t>(n - 1)];
         knopf = std::make_unique<Knopf>(fenster, "Kategorie_Schema", Zahltext(n), n);
+        knopf->Vorlesename = "Schema " + Zahltext(n);
         knopf->klein = true;
         knopf->sichtbar(false);
         knopf->Klick.verbinden([this, n] { Schema_klicken(n); });

@@ -48,6 +48,7 @@ Listenbereich::Listenbereich(Fenster& f, Haus& haus, Albenraum& alben, Kategorie
       kategorien_(kategorien) {
     sortieren_Titel.tooltip("Zeigt den Titel des Liedes vorne an und sortiert die Liste danach");
     sortieren_Artist.tooltip("Zeigt den Artist des Liedes vorne an und sortiert die Liste danach");
+    Liste.Vorlesename = "Lieder";
     Schnellsuche.leerbar = true;
     Schnellsuche.tooltip("Lieder in der Liste enthalten diesen Text");
     Reset_Anzahl.tooltip("ändert, wie oft das Lied gehört wurde");

@@ -13,6 +13,7 @@ constexpr int Schritt_ms = 10;
 Titelliste::Titelliste(Fenster& f, Text name, const Listenfeld& liste, const Einstellungen& einstellungen, Rechner& rechner)
     : Listenfeld(f, std::move(name)), liste_(liste), einstellungen_(einstellungen), rechner_(rechner) {
     frei = true;
+    Vorlesename = "Titel des Albums";
     sichtbar(false);
 }
 

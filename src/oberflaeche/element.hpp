@@ -107,6 +107,8 @@ public:
     bool Beschriftung_wörtlich = false;
     // A helper that the user never sees (hidden parallel lists): the view makes nothing for it.
     bool unsichtbarer_Helfer = false;
+    // What a screen reader calls it, where neither caption nor label nor tool-tip does (oberflaeche/vorlesename).
+    Text Vorlesename;
     // Number in the mouse-over effect of its window; 0 none.
     int Mausnummer = 0;
 

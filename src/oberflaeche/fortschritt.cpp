@@ -8,6 +8,7 @@ namespace tonkartei {
 
 Fortschritts_Fenster::Fortschritts_Fenster(Ansicht& ansicht) : Fenster(ansicht, "Fortschritts_Fenster", "Tonkartei") {
     größenveränderlich = false;
+    Fortschritt.Vorlesename = "Fortschritt";
 }
 
 Knoten Fortschritts_Fenster::anordnung() {

@@ -23,6 +23,7 @@ Playlist::Playlist(Haus& haus, const M3U& m3u, Listenbereich& liste, WinAmp_Star
     Liste_Anzahl.eingerahmt = true;
     Liste_Anzahl.wie_Daten = true;
     Liste_Anzahl.ausrichtung = Schriftfeld::Ausrichtung::rechts;
+    Reihenfolge.Vorlesename = "Reihenfolge";
     Liste.tooltip("Die Lieder der Playlist; aus der Liste der Datenbank lassen sich Lieder hierher ziehen");
     Reihenfolge.tooltip("verschiebt das gewählte Lied nach oben oder unten");
     löschen.tooltip("nimmt das gewählte Lied aus der Playlist");

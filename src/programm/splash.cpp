@@ -31,6 +31,7 @@ Splash::Splash(Datenbankraum& datenbank)
     Button_3.tooltip("erstellt eine neue Datenbank");
     Button_4.tooltip("Beendet das Proramm");
     Liste.sichtbar(false);
+    Liste.Vorlesename = "zuletzt geöffnete Datenbanken";
     for (Knopf* knopf : {&Button_1, &Button_2, &Button_3, &Button_4}) knopf->sichtbar(false);
     Willkommen.sichtbar(false);
     Vorgabeknopf = &Button_1;

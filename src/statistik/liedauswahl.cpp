@@ -12,6 +12,7 @@ Liedauswahl::Liedauswahl(Fenster& fenster, const Text& vorsilbe, Liedziel ziel)
       ziel_(ziel) {
     Lied_starten.tooltip("Das gewählte Lied mit WinAmp spielen.");
     Lied_in_Playlist.tooltip("Das gewählte Lied in die Playlist aufnehmen.");
+    Liste.Vorlesename = "Lieder";
     Liste.Doppelklick.verbinden([this] { starten(); });
     Lied_starten.Klick.verbinden([this] { starten(); });
     Lied_in_Playlist.Klick.verbinden([this] { in_Playlist(); });

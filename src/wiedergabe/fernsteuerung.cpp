@@ -48,20 +48,22 @@ Fernsteuerung::Fernsteuerung(Fenster& f, Einstellungen& einstellungen, WinAmp& w
                                                       &WinAmp_zurück, &WinAmp_Position, &WinAmp_Vol, &WinAmp_Zeit})
         e->Mausnummer = nummer++;
 
-    const auto Taste = [](Knopf& knopf, const char* bild, const char* tooltip) {
+    const auto Taste = [](Knopf& knopf, const char* name, const char* bild, const char* tooltip) {
         knopf.klein = true;
+        knopf.Vorlesename = name;
         knopf.Bild = bild;
         knopf.tooltip(tooltip);
     };
-    Taste(WinAmp_zurück, "zurück", "an den Anfang des Liedes, gehalten: zurückspulen");
-    Taste(WinAmp_Play, "play", "spielt das Lied in WinAmp");
-    Taste(Winamp_Pause, "pause", "hält das Lied an oder spielt es weiter");
-    Taste(WinAmp_Stop, "stop", "beendet das Lied in WinAmp");
-    Taste(WinAmp_vor, "vor", "nächstes oder Zufalls-Lied, gehalten: vorspulen");
+    Taste(WinAmp_zurück, "zurück", "zurück", "an den Anfang des Liedes, gehalten: zurückspulen");
+    Taste(WinAmp_Play, "Play", "play", "spielt das Lied in WinAmp");
+    Taste(Winamp_Pause, "Pause", "pause", "hält das Lied an oder spielt es weiter");
+    Taste(WinAmp_Stop, "Stop", "stop", "beendet das Lied in WinAmp");
+    Taste(WinAmp_vor, "vor", "vor", "nächstes oder Zufalls-Lied, gehalten: vorspulen");
     WinAmp_Show.tooltip("Fernsteuerung von WinAmp");
     WinAmp_Position.tooltip("Stelle im Lied");
     WinAmp_Vol.tooltip("Lautstärke von WinAmp");
     Vol_Bild.tooltip(WinAmp_Vol.tooltip());
+    WinAmp_Zeit.Vorlesename = "Zeit";
     WinAmp_Zeit.tooltip("gespielte Zeit oder Restzeit, ein Klick wechselt");
 
     Tasten_verbinden();

@@ -28,6 +28,7 @@ Wiedergabebereich::Wiedergabebereich(Fenster& fenster)
     auto_Kat_Wechsel.tooltip("wechselt beim Autoplay nach einigen Liedern die Kategorie");
     auto_Kat_Wechsel.sichtbar(false);
     auto_Kat_Wechsel_Setup.tooltip("stellt ein, nach wievielen Liedern die Kategorie gewechselt wird");
+    auto_Kat_Wechsel_Setup.Vorlesename = "Kategoriewechsel einstellen";
     auto_Kat_Wechsel_Setup.klein = true;
 }
 

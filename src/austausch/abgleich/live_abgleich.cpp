@@ -23,6 +23,7 @@ Live_abgleich::Live_abgleich(const Modell& modell, Abgleich_Übernahme& übernah
       editor_(editor),
       werkzeug_(werkzeug) {
     Abbruchknopf = &Ok;
+    KatListe.Vorlesename = "Kategorien der anderen Datenbank";
     KatListe.tooltip("Welche Kategorie die Lieder in dieser Datenbank bekommen");
     neue_Kategorie.tooltip("Die neue Kategorie der gewählten Zeile");
     Kategorie_Edit.tooltip("Die Kategorien dieser Datenbank ändern");

@@ -29,6 +29,8 @@ auflösen::auflösen(Ansicht& ansicht, const Modell& modell, Dateisystem& dateie
     Vorgabeknopf = &Ok;
     Abbruchknopf = &Abbruch;
     for (std::size_t i = 0; i < 3; ++i) {
+        Ebene[i].Vorlesename = "Ebene " + Zahltext(static_cast<Long>(i) + 1);
+        DName[i].Vorlesename = "Teil " + Zahltext(static_cast<Long>(i) + 1);
         Ebene[i].tooltip("Wonach die Verzeichnisse dieser Ebene heißen.");
         DName[i].tooltip("Was an dieser Stelle des Dateinamens steht.");
         Ebene[i].Klick.verbinden([this] { Folge_nachführen(Ebene); });

@@ -20,6 +20,7 @@ DJ_Liste::DJ_Liste(Ansicht& ansicht, const Modell& modell, DJ_Kategorien& katego
     Nr_Liste.sichtbar(false);
     Liste.tag("Tonkartei - DJ-Modus (Alt) Liste");
     Liste.Ziehmarke = Liste.tag();
+    Liste.Vorlesename = "Lieder";
     Liste.tooltip(
         "Lieder lassen sich auf die Player und in die gewünschten Lieder ziehen; die Tasten 1 und 2 laden das "
         "gewählte Lied in einen Player, W legt es in die Wünsche");

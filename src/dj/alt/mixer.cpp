@@ -30,6 +30,12 @@ Mixer::Kanal::Kanal(Mixer& mixer, int n)
       Autofade_Scroll(mixer, "Autofade" + Zahltext(n) + "_Scroll", 0, übliche_Länge),
       Autofade_Zeit(mixer, "Autofade" + Zahltext(n) + "_Zeit") {
     Play_Pause.Bild = "pause";
+    const Text Player = "Player " + Zahltext(n);
+    Play_Pause.Vorlesename = Player + ", Play oder Pause";
+    Random.Vorlesename = Player + ", Random";
+    Lautstärke.Vorlesename = Player + ", Lautstärke";
+    Autofade.Vorlesename = Player + ", Autofade";
+    Autofade_Scroll.Vorlesename = Player + ", Beginn des Autofade";
     Play_Pause.tooltip("spielt oder hält an; nimmt Lieder an, die auf ihn gezogen werden");
     Random.tooltip("lädt ein Zufalls-Lied aus der Liste");
     Lautstärke.wert(gerundet(Lautstärke_maximal_255 * 0.25));
@@ -57,6 +63,10 @@ Mixer::Mixer(const Modell& modell, Spielerpaar& spieler, Titelpaar& titel, DJ_Li
     POF_Punkt.wert(POF_Anfang);
     POF_Punkt.aktiv(false);
     Crossfade.griffig = true;
+    Crossfade.Vorlesename = "Crossfader";
+    Lautstärke_Link.Vorlesename = "Lautstärken gemeinsam";
+    Source_Play.Vorlesename = "Play";
+    Source_Pause.Vorlesename = "Pause";
     Crossfade.tooltip("Player 1 links, Player 2 rechts");
     Crossfade_Mitte.ausrichtung = Schriftfeld::Ausrichtung::Mitte;
     Crossfade_Mitte.fett(true);

@@ -32,6 +32,7 @@ Wunschliste::Wunschliste(Ansicht& ansicht, const Modell& modell, const DJ_Liste&
     }
     Liste.tag("Tonkartei - DJ-Modus (Alt) Wunschliste");
     Liste.Ziehmarke = Liste.tag();
+    Liste.Vorlesename = "gewünschte Lieder";
     Liste.tooltip("nimmt Lieder aus der Liste an; auf einen Player gezogen, verlassen sie die Wünsche");
     Position.tooltip("verschiebt das gewählte Lied nach oben oder unten");
     löschen.tooltip("nimmt das gewählte Lied aus den Wünschen");

@@ -66,6 +66,10 @@ void Bauteil::Lage_zeigen() {
 
 bool Bauteil::darf() const { return umfeld_.hört() && element_.bedienbar() && umfeld_.erreichbar(element_.fenster()); }
 
+void Bauteil::von_Hand(const std::function<void(Element&)>& tat) {
+    if (darf()) umfeld_.von_Hand([&] { tat(element_); });
+}
+
 bool Bauteil::eventFilter(QObject* wer, QEvent* was) {
     if (umfeld_.zu_Ende) return false;
     switch (was->type()) {

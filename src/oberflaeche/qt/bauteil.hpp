@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QRect>
 #include <QWidget>
+#include <functional>
 #include <memory>
 
 #include "oberflaeche/element.hpp"
@@ -38,6 +39,9 @@ public:
 
     // What is dragged from elsewhere in the program can be dropped on it just now.
     bool ist_Ziel() const { return element_.Abgelegt.hat_Hörer() && darf(); }
+
+    // Works it for who has neither mouse nor keys, if it can be worked just now.
+    void von_Hand(const std::function<void(Element&)>& tat);
 
     bool eventFilter(QObject* wer, QEvent* was) override;
 

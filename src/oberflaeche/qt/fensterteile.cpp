@@ -1,4 +1,6 @@
 // Windows as parts of others, and the grounds that they lie on.
+#include <algorithm>
+
 #include "oberflaeche/elemente.hpp"
 #include "oberflaeche/fenster.hpp"
 #include "oberflaeche/qt/farben.hpp"
@@ -84,6 +86,16 @@ void Fensterwidget::Ziele_sammeln(const Element& quelle, std::vector<QWidget*>& 
     for (const auto& [element, teil] : bauteile_)
         if (element != &quelle && teil->widget() != nullptr && teil->ist_Ziel()) ziele.push_back(teil->widget());
     jedes_Teil([&](const Fensterwidget& innen, const Element&) { innen.Ziele_sammeln(quelle, ziele); });
+}
+
+Bauteil* Fensterwidget::bauteil_von(const QWidget& widget) const {
+    if (umfeld_.zu_Ende) return nullptr;
+    const auto fund = std::find_if(bauteile_.begin(), bauteile_.end(),
+                                   [&](const auto& eintrag) { return eintrag.second->widget() == &widget; });
+    // A widget may outlive its control for a while.
+    const auto& da = fenster_.elemente();
+    const bool lebt = fund != bauteile_.end() && std::find(da.begin(), da.end(), fund->first) != da.end();
+    return lebt ? fund->second.get() : nullptr;
 }
 
 bool Fensterwidget::eigener_Grund() const {

@@ -1,5 +1,6 @@
 #include "oberflaeche/qt/fensterwidget.hpp"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
@@ -22,6 +23,7 @@
 #include "oberflaeche/qt/rollflaeche.hpp"
 #include "oberflaeche/qt/schleier.hpp"
 #include "oberflaeche/qt/umrechnung.hpp"
+#include "oberflaeche/qt/zugang.hpp"
 
 namespace tonkartei {
 namespace {
@@ -184,6 +186,8 @@ bool Fensterwidget::abgleichen() {
             if (!isActiveWindow() && QGuiApplication::applicationState() == Qt::ApplicationActive) activateWindow();
         }
     }
+    if (etwas && QAccessible::isActive())
+        for (const auto& [element, teil] : bauteile_) Zugangsnamen_setzen(*teil);
     gleicht_ab_ = false;
     return etwas;
 }

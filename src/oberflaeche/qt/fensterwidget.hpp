@@ -32,6 +32,10 @@ public:
 
     QWidget* Boden_für(const Element& element) const;
     Bauteil* bauteil(const Element& element) const;
+    // The one with that widget; null: none, or its control is gone.
+    Bauteil* bauteil_von(const QWidget& widget) const;
+    // What everything but the menu bar lies on.
+    const QWidget* boden() const noexcept { return boden_; }
     Fenster& fenster() const noexcept { return fenster_; }
 
     // It, or a window that it is a part of, has a ground of its own.

@@ -11,6 +11,7 @@
 #include "oberflaeche/qt/bilder.hpp"
 #include "oberflaeche/qt/farben.hpp"
 #include "oberflaeche/qt/stil.hpp"
+#include "oberflaeche/qt/zugang.hpp"
 
 namespace tonkartei {
 namespace {
@@ -34,6 +35,7 @@ void Farben_setzen(Farbschema schema) {
 
 struct Qt_Umgebung::Innen {
     QApplication anwendung;
+    Zugangswache zugang;
     QTranslator deutsch;
     Text kommandozeile;
 

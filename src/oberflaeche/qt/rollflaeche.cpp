@@ -42,6 +42,7 @@ QScrollBar* Rollfläche::Leiste(Qt::Orientation richtung) {
     QScrollBar*& leiste = richtung == Qt::Horizontal ? waagrecht_ : senkrecht_;
     if (leiste == nullptr) {
         leiste = new QScrollBar(richtung, this);
+        leiste->setAccessibleName(richtung == Qt::Horizontal ? QStringLiteral("nach rechts") : QStringLiteral("nach unten"));
         leiste->setSingleStep(Schritt);
         leiste->setFocusPolicy(Qt::NoFocus);
         connect(leiste, &QScrollBar::valueChanged, this, [this] { boden_->move(-Stelle(waagrecht_), -Stelle(senkrecht_)); });
