@@ -27,10 +27,11 @@ public:
 
     Schriftfeld Datenbank_Text{*this, "Datenbank_Text", "D&atenbank:"};
     Auswahlfeld Datenbank{*this, "Datenbank"};
+    // Before what lies in it: only what is in the window is told to a screen reader as what it is.
+    Rahmen rechte_Spalte{*this, "rechte_Spalte"};
     // The order of making is the tab order; `Lieder` only keeps its reference to `Kategorien` while it is made.
     Listenbereich Lieder;
     Kategorienbereich Kategorien;
-    Rahmen rechte_Spalte{*this, "rechte_Spalte"};
     Rahmen Wiedergabe_Rahmen{*this, "Wiedergabe_Rahmen", "Wiedergabe"};
     Wiedergabebereich Wiedergabe;
     tonkartei::Fernsteuerung Fernsteuerung;
