@@ -32,9 +32,8 @@ struct Schreibtisch_Einstellungen {
 };
 
 struct Einstellungen {
-    Byte Datenbank_Liste_Anzahl = 0;
+    Byte Datenbank_Liste_Anzahl = 0, Verzeichnis_Anzahl = 0;
     Feld<Text, Verzeichnisse_maximal> Datenbank_Liste;  // the newest first
-    Byte Verzeichnis_Anzahl = 0;
     Feld<Text, Verzeichnisse_maximal> Zuletzt_hinzugefügte_Verzeichnisse;
     Long Anzahl_Zeit = 10;  // seconds that a song must run before the next start so that it counts
     bool Lieder_Namen_lesen = false;
@@ -53,8 +52,8 @@ struct Einstellungen {
     bool WinAmp_verstecken_minimiert = true;
     Long WinAmp_beenden = 4;            // closing rule 1 to 4
     Long PositionX = 0, PositionY = 0;  // twips
+    Long Kategorien = 1;                // bit k - 1: box k
     bool Kategorien_merken = false;
-    Long Kategorien = 1;  // bit k - 1: box k
     Byte Random_Einstellung = 25;
     Byte Kategorie_Rechtsklick = 1;  // 1 only this category, 2 assign to the song
     bool Kategorie_wechsel_bestätigen = true;
@@ -62,9 +61,9 @@ struct Einstellungen {
     Long automatische_Kategorien_Farbe = 32768;
     Long Markierte_Farbe = 16763030;
     Long Markierte_Listen_Farbe = 16773340;
+    Long auto_Kat_Wechsel_Lieder = 5;
     bool Position_merken = true;
     bool auto_Kat_Wechsel_Status = false;
-    Long auto_Kat_Wechsel_Lieder = 5;
     bool Random_Autoplay = true;
     Byte Fenster_minimieren = 2;  // 1 task bar, 2 tray, 3 both
     bool Systray_immer_sichtbar = true;

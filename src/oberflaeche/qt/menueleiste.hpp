@@ -1,6 +1,7 @@
 // Menus of the model as Qt menus: a window's bar, or the body of a pop-up menu.
 #pragma once
 
+#include <QPoint>
 #include <memory>
 #include <vector>
 
