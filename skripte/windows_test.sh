@@ -18,7 +18,7 @@ unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_CACHE_HOME WAYLAND_DISPLAY
 
 if [ -z "${TONKARTEI_WINE_SCHIRM:-}" ]; then
     rm -rf "$windows"
-    mkdir -p "$HOME"
+    mkdir -p "$HOME" "$WINEPREFIX"
     export TONKARTEI_WINE_SCHIRM=1
     exec xvfb-run -a -s '-screen 0 1600x1200x24' sh skripte/windows_test.sh "$@"
 fi
@@ -28,10 +28,10 @@ wineserver=/usr/lib/wine/wineserver
 trap '"$wineserver" -k 2>/dev/null || true' EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM
-wine wineboot --init || {
+# It stays up between the tests instead of starting anew for each.
+"$wineserver" -p
+wine wineboot --init 2>/dev/null || {
     echo "windows_test.sh: Wine does not start; with WINEDEBUG= it says why." >&2
     exit 1
 }
-# It stays up between the tests instead of starting anew for each.
-"$wineserver" -p
 ctest --preset windows "$@"

@@ -52,10 +52,11 @@ quelle() {
     if [ ! -e "$arbeit/apt.conf" ]; then
         ausgabe=$(sed -n 's/^VERSION_CODENAME=//p' /etc/os-release)
         mkdir -p "$arbeit/apt/listen/partial" "$arbeit/apt/archiv/partial"
-        # What the machine takes its packages from, Debian's part of it.
-        # shellcheck disable=SC2016
-        apt-get indextargets --format '$(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' | sort -u |
-            sed -n "s/^\([^ ]* ${ausgabe}[^ ]* main\)$/deb-src \1/p" >"$arbeit/apt/quellen.list"
+        # Where the machine takes its packages from, Debian's part of it; known even where no list has been fetched yet. What
+        # is in several archives comes from the first: the updates' are whole, while mirrors of the big one may lack signatures.
+        apt-get update --print-uris |
+            sed -n "s|^'\(.*\)/dists/\(${ausgabe}[^/]*\)/InRelease'.*|deb-src \1 \2 main|p" |
+            sort -r -k 3 >"$arbeit/apt/quellen.list"
         [ -s "$arbeit/apt/quellen.list" ] || abbruch "apt knows no archive of Debian $ausgabe."
         cat >"$arbeit/apt.conf" <<EOF
 Dir::Etc::sourcelist "$arbeit/apt/quellen.list";
