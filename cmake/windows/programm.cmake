@@ -1,4 +1,6 @@
-# What makes an executable a program of Windows: no console, and the resources that tell what it is.
+# What makes an executable a program of Windows: no console, and the resources that tell what it is. What Qt finds in folders of
+# its own elsewhere, it gets here within the executable.
+find_package(Qt6 REQUIRED COMPONENTS Widgets)
 file(STRINGS ${CMAKE_SOURCE_DIR}/LICENSE PROGRAMM_RECHTE REGEX "^Copyright" LIMIT_COUNT 1)
 
 # tonkartei_windows_programm(TARGET FILE DESCRIPTION)
@@ -15,12 +17,14 @@ function(tonkartei_windows_programm ziel PROGRAMM_DATEI PROGRAMM_BESCHREIBUNG)
   set_target_properties(${ziel} PROPERTIES WIN32_EXECUTABLE ON OUTPUT_NAME ${stamm} SUFFIX ${endung})
 endfunction()
 
-if(TARGET tonkartei)
-  tonkartei_windows_programm(tonkartei Tonkartei.exe "Tonkartei")
-  # Qt's own German, which on Linux is a package of its own.
-  qt_add_resources(tonkartei uebersetzungen PREFIX /uebersetzungen BASE /usr/share/qt6/translations
-    FILES /usr/share/qt6/translations/qtbase_de.qm)
-endif()
-if(TARGET spieler)
-  tonkartei_windows_programm(spieler WinAmp.Exe "Tonkartei: Abspieler")
-endif()
+tonkartei_windows_programm(tonkartei Tonkartei.exe "Tonkartei")
+tonkartei_windows_programm(spieler WinAmp.Exe "Tonkartei: Abspieler")
+# Qt's own German.
+qt_add_resources(tonkartei uebersetzungen PREFIX /uebersetzungen BASE /usr/share/qt6/translations
+  FILES /usr/share/qt6/translations/qtbase_de.qm)
+# Windows without a screen, for tests and pictures.
+foreach(ziel tonkartei tonkartei-bediener bediener-uebung test_oberflaeche_qt)
+  if(TARGET ${ziel})
+    qt_import_plugins(${ziel} INCLUDE Qt6::QOffscreenIntegrationPlugin)
+  endif()
+endforeach()
