@@ -31,7 +31,8 @@ TEST(Farben, TextsMoveJustAsFarAsNeeded) {
 
 TEST(Farben, EveryPaletteCanBeReadThroughout) {
     std::vector<Töne> alle;
-    for (const Farbschema schema : {Farbschema::hell, Farbschema::dunkel, Farbschema::kontrast_hell, Farbschema::kontrast_dunkel})
+    for (const Farbschema schema :
+         {Farbschema::hell, Farbschema::dunkel, Farbschema::kontrast_hell, Farbschema::kontrast_dunkel})
         alle.push_back(Töne::von(Farbtafel(schema)));
     EXPECT_EQ(Kontrast(alle[2].Schrift, alle[2].Linie) * Kontrast(alle[3].Schrift, alle[3].Linie), 1);
     for (const QColor& grund :
