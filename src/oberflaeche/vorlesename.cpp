@@ -87,10 +87,10 @@ Text Fenstertitel(const Fenster& fenster) {
 }
 
 Text Feldname(const Element& e) {
-    if (const Text name = Überschrift(e); !name.empty()) return name;
-    if (const Text name = Hinweis(e); !name.empty()) return name;
+    if (Text name = Überschrift(e); !name.empty()) return name;
+    if (Text name = Hinweis(e); !name.empty()) return name;
     for (const Element* rahmen = e.rahmen(); rahmen != nullptr && ist_allein(e); rahmen = rahmen->rahmen())
-        if (const Text name = Beschriftung(*rahmen); !name.empty()) return name;
+        if (Text name = Beschriftung(*rahmen); !name.empty()) return name;
     const bool für_alles = e.art() == Elementart::Liste || e.art() == Elementart::Reiter || ist_allein(e);
     return für_alles ? Fenstertitel(e.fenster()) : Text{};
 }
@@ -107,7 +107,7 @@ Text Schriftname(const Element& e) {
 Text Vorlesename(const Element& e) {
     if (e.art() == Elementart::Schrift) return Schriftname(e);
     if (!e.Vorlesename.empty()) return e.Vorlesename;
-    if (const Text text = Beschriftung(e); !text.empty()) return text;
+    if (Text text = Beschriftung(e); !text.empty()) return text;
     switch (e.art()) {
         case Elementart::Rahmen: return {};
         case Elementart::Fläche:
