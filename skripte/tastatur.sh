@@ -79,8 +79,14 @@ schritt "first start: a new collection"
 programm=$!
 prozesse+=("$programm")
 fenster "Tonkartei"
-sleep 1
-taste Return
+# The start window takes keys once its picture has glided aside.
+for ((versuch = 0; versuch < 20; versuch++)); do
+    taste Return
+    for ((i = 0; i < 10; i++)); do
+        if ist_vorn "erstellen"; then break 2; fi
+        sleep 0.1
+    done
+done
 fenster "erstellen"
 taste Return
 fenster "Verzeichnis"
@@ -118,9 +124,15 @@ es_zeigt PlaybackStatus Playing
 es_zeigt Metadata Kartenwalzer
 
 schritt "the remote control pauses it"
-taste alt+f
-sleep 1
-taste Tab space
+for ((versuch = 0; versuch < 20; versuch++)); do
+    # Its panel slides in first; once more is no more.
+    taste alt+f
+    sleep 0.5
+    taste Tab space
+    if spieler_sagt PlaybackStatus Paused; then break; fi
+    sleep 0.5
+    if spieler_sagt PlaybackStatus Paused; then break; fi
+done
 es_zeigt PlaybackStatus Paused
 taste Escape
 
