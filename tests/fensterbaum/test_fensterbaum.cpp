@@ -71,7 +71,6 @@ struct Fensterbaum : testing::Test {
             fehler.insert(hier + ": can be worked, but as what?");
         // Rows and drop-down lists are Qt's own.
         if (rolle == QAccessible::List || rolle == QAccessible::ComboBox || rolle == QAccessible::MenuItem) return;
-        QRect davor;
         for (int i = 0; i < was.childCount(); ++i) {
             QAccessibleInterface* kind = was.child(i);
             ASSERT_TRUE(kind != nullptr && was.indexOfChild(kind) == i) << hier;

@@ -53,7 +53,7 @@ QComboBox* Auswahlzugang::feld() const { return static_cast<QComboBox*>(widget()
 
 // Both in one, since a change of the choice is told as a change of the name.
 QString Auswahlzugang::text(QAccessible::Text welcher) const {
-    const QString gewählt = feld()->currentText();
+    QString gewählt = feld()->currentText();
     if (welcher == QAccessible::Value) return gewählt;
     if (welcher != QAccessible::Name) return QAccessibleWidget::text(welcher);
     const QString name = feld()->accessibleName();
