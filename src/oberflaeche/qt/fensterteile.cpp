@@ -89,7 +89,8 @@ void Fensterwidget::Ziele_sammeln(const Element& quelle, std::vector<QWidget*>& 
 }
 
 Bauteil* Fensterwidget::bauteil_von(const QWidget& widget) const {
-    if (umfeld_.zu_Ende) return nullptr;
+    // While they go one by one, Qt still asks for one or the other.
+    if (umfeld_.zu_Ende || vergeht_) return nullptr;
     const auto fund = std::find_if(bauteile_.begin(), bauteile_.end(),
                                    [&](const auto& eintrag) { return eintrag.second->widget() == &widget; });
     // A widget may outlive its control for a while.

@@ -68,7 +68,10 @@ Fensterwidget::Fensterwidget(Umfeld& umfeld, Fenster& fenster)
     Kürzel_machen();
 }
 
-Fensterwidget::~Fensterwidget() { Teile_lösen(*this); }
+Fensterwidget::~Fensterwidget() {
+    vergeht_ = true;
+    Teile_lösen(*this);
+}
 
 void Fensterwidget::Kürzel_machen() {
     for (const auto& [taste, tat] : fenster_.Kürzel) {

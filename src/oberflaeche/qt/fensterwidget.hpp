@@ -103,7 +103,7 @@ private:
     Element* fokus_ = nullptr;
     Farbe grund_ = Farbe_Standard;
     bool alles_ = true, fenster_geändert_ = false, menü_geändert_ = false, vorgemerkt_ = false, gleicht_ab_ = false;
-    bool gezeigt_ = false;
+    bool gezeigt_ = false, vergeht_ = false;
     Qt::WindowFlags flaggen_;
 };
 
