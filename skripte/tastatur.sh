@@ -11,6 +11,10 @@ arbeit=$(mktemp -d)
 bild=$wurzel/build/tastatur.png
 prozesse=()
 aufraeumen() {
+    # The player plays on when the program ends, as it should.
+    for prozess in /proc/[0-9]*; do
+        if grep -aqs "$arbeit/" "$prozess/cmdline"; then kill "${prozess#/proc/}" 2>/dev/null || true; fi
+    done
     for prozess in "${prozesse[@]}"; do kill "$prozess" 2>/dev/null || true; done
     wait 2>/dev/null || true
     rm -rf "$arbeit"
