@@ -8,7 +8,8 @@ RELEASE := build/release
 KERNE   := $(shell nproc 2>/dev/null || echo 2)
 QUELLEN := src werkzeug tests leistung
 
-.PHONY: help run test stil pruefen tour bench format install paket handbuch bediener bauen
+.PHONY: help run test stil pruefen tour bench format install paket handbuch bediener bauen \
+        windows windows-bauen test-windows
 .NOTPARALLEL:
 MAKEFLAGS += --no-print-directory
 
@@ -23,6 +24,8 @@ help:
 	@echo 'make format    clang-format over all sources'
 	@echo 'make install   install below PREFIX ($(PREFIX)), DESTDIR in front'
 	@echo 'make handbuch  the handbook as a page for the browser, build/handbuch/handbuch.html'
+	@echo 'make windows   cross-build for Windows: build/windows/Tonkartei.exe, WinAmp.Exe and a zip of both'
+	@echo 'make test-windows  run the tests of the Windows build under Wine'
 	@echo 'make paket     build a Debian package in $(RELEASE), the handbook in it'
 
 # Targets by the file they make, so that only what is needed is built.
@@ -90,3 +93,16 @@ bediener:
 	@cmake --preset release
 	@cmake --build --preset release --target bin/tonkartei-bediener bin/WinAmp.Exe
 	@echo '$(CURDIR)/$(RELEASE)/bin/tonkartei-bediener'
+
+windows-bauen:
+	@sh skripte/einrichten.sh windows
+	@sh skripte/windows_vorrat.sh
+	@cmake --preset windows
+
+windows: windows-bauen
+	@cmake --build --preset windows --target bin/Tonkartei.exe bin/WinAmp.Exe
+	@sh skripte/windows_paket.sh
+
+test-windows: windows-bauen
+	@cmake --build --preset windows
+	@sh skripte/windows_test.sh -j $(KERNE)

@@ -1,7 +1,8 @@
 #!/bin/sh
 # Installs the Debian packages that building, testing and running need, and nothing when they are all there (one
 # question to dpkg, no apt). Groups by argument: "leistung" adds the benchmarks' packages, "format" the formatter, "pruefen"
-# all that looks at the sources, "paket" what making a Debian package takes, "handbuch" what makes the handbook a page.
+# all that looks at the sources, "paket" what making a Debian package takes, "handbuch" what makes the handbook a page,
+# "windows" the cross compiler and what running its programs takes.
 set -eu
 
 # Building and running. libgl1 and the xcb libraries come with Qt; sound comes with libmpv.
@@ -21,8 +22,13 @@ for gruppe in "$@"; do
         pruefen) pakete="$pakete clang-format clang-tidy shellcheck libtag1-dev" ;;
         paket) pakete="$pakete dpkg-dev file" ;;
         handbuch) pakete="$pakete cmark-gfm" ;;
+        # libmpg123-0 names the version that is cross-built; dpkg-dev unpacks sources.
+        windows)
+            pakete="$pakete g++-mingw-w64-x86-64-posix googletest libmpg123-0 dpkg-dev zip"
+            pakete="$pakete wine wine64 xvfb xauth"
+            ;;
         *)
-            echo "einrichten.sh: unknown group '$gruppe' (known: leistung, format, pruefen, paket, handbuch)" >&2
+            echo "einrichten.sh: unknown group '$gruppe' (known: leistung, format, pruefen, paket, handbuch, windows)" >&2
             exit 2
             ;;
     esac

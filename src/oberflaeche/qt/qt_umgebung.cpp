@@ -44,7 +44,10 @@ Qt_Umgebung::Qt_Umgebung(int& argc, char** argv) {
         QApplication::setFont(schrift);
     }
     QGuiApplication::setWindowIcon(Programmsymbol());
-    if (innen_->deutsch.load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    // Qt's own German: the system's, or what the program was built with.
+    const QString deutsch = QStringLiteral("qtbase_de");
+    if (innen_->deutsch.load(deutsch, QLibraryInfo::path(QLibraryInfo::TranslationsPath)) ||
+        innen_->deutsch.load(deutsch, QStringLiteral(":/uebersetzungen")))
         QCoreApplication::installTranslator(&innen_->deutsch);
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     anwendung.setEffectEnabled(Qt::UI_AnimateCombo, false);
