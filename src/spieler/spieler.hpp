@@ -5,15 +5,15 @@
 #include <cstddef>
 #include <vector>
 
-#include "spieler/abspieler.hpp"
-#include "spieler/fenster.hpp"
+#include "spieler/fensterprozedur.hpp"
+#include "spieler/klang.hpp"
 #include "spieler/lautstaerke.hpp"
 
 namespace tonkartei::spieler {
 
 class Spieler final : public Fensterprozedur {
 public:
-    Spieler(Abspieler& abspieler, const Lautstärkegedächtnis& gedächtnis);
+    Spieler(Klang& klang, Dateisystem& platte, const Lautstärkegedächtnis& gedächtnis);
 
     std::int32_t Nachricht(std::uint32_t nachricht, std::int32_t w, std::int64_t l) override;
     // Files and list files. Replacing starts the first one.
@@ -42,7 +42,8 @@ private:
     std::int32_t Länge() const;
     void Lautstärke_merken();
 
-    Abspieler& abspieler_;
+    Klang& klang_;
+    Dateisystem& platte_;
     const Lautstärkegedächtnis& gedächtnis_;
     std::vector<Text> lieder_;
     std::size_t aktuell_ = 0;  // position in lieder_

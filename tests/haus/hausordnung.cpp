@@ -43,7 +43,11 @@ constexpr std::array Stockwerke{
     Stock{Anbau, 10, Maschine, " plattform/linux "},
     Stock{Anbau, 10, Maschine, " plattform/windows "},
     Stock{60, 60, nichts, " programm "},
-    Stock{70, 10, Maschine | mpv, " spieler "},
+    Stock{70, 10, nichts, " spieler "},
+    Stock{70, 10, Maschine, " spieler/linux "},
+    Stock{70, 10, Maschine, " spieler/windows "},
+    Stock{70, 10, Maschine, " spieler/mpg123 "},
+    Stock{70, 10, Maschine | mpv, " spieler/mpv "},
 };
 
 // Nobody else may know an annex, but through a door: from (a folder or a file) into (a folder).
@@ -51,9 +55,14 @@ struct Tür {
     std::string_view Von;
     std::string_view Nach;
 };
-// The player has both ends of the wire that stands for window messages.
-constexpr std::array Türen{Tür{"programm/main.cpp", "oberflaeche/qt"}, Tür{"programm/main.cpp", "plattform/linux"},
-                           Tür{"spieler/", "plattform/linux"}};
+// The player has both ends of the wire that stands for window messages, and a window and a sound of each machine's own.
+constexpr std::array Türen{Tür{"programm/main.cpp", "oberflaeche/qt"},  Tür{"programm/main.cpp", "plattform/linux"},
+                           Tür{"spieler/main.cpp", "plattform/linux"},  Tür{"spieler/linux/", "plattform/linux"},
+                           Tür{"spieler/mpv/", "plattform/linux"},      Tür{"spieler/windows/", "plattform/windows"},
+                           Tür{"spieler/mpg123/", "plattform/windows"}, Tür{"spieler/linux/", "spieler"},
+                           Tür{"spieler/windows/", "spieler"},          Tür{"spieler/mpv/", "spieler"},
+                           Tür{"spieler/mpg123/", "spieler"},           Tür{"spieler/linux/", "spieler/mpv"},
+                           Tür{"spieler/windows/", "spieler/mpg123"}};
 
 bool steht_in(std::string_view liste, std::string_view wort) {
     return liste.find(" " + std::string(wort) + " ") != std::string_view::npos;

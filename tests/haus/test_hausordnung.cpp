@@ -76,7 +76,7 @@ TEST(Hausordnung, FindetWasSieVerbietetUndNurDas) {
         {"src/datenbank/a.cpp", "#include <vector>\n#include \"mp3/tag.hpp\"\n#include \"grundlagen/text.hpp\"\n", ""},
         {"src/oberflaeche/qt/a.cpp", "#include <QWidget>\n#include \"oberflaeche/fenster.hpp\"\n", ""},
         {"src/plattform/linux/a.cpp", "#include <sys/stat.h>\n#include \"xdg.hpp\"\nint a = getpid();\n", ""},
-        {"src/spieler/a.cpp", "#include <mpv/client.h>\n#include <poll.h>\n#include \"plattform/linux/xdg.hpp\"\n", ""},
+        {"src/spieler/mpv/a.cpp", "#include <mpv/client.h>\n#include <poll.h>\n#include \"plattform/linux/xdg.hpp\"\n", ""},
         {"src/programm/main.cpp",
          "#include \"oberflaeche/qt/ansicht_qt.hpp\"\n#include \"plattform/linux/xdg.hpp\"\n#include \"dj/dj.hpp\"\n", ""},
         {"src/grundlagen/a.cpp", "// QString, mpv_create(), fork()\n/* #include <unistd.h>\n */ int Quicksort;\n", ""},
