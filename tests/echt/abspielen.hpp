@@ -26,7 +26,7 @@ protected:
         s.Lieder.clear();
         for (int n = 1; n <= anzahl; ++n) s.Lieder.push_back({"A" + std::to_string(n), "T"});
         a = sammlung("a", s);
-        for (int n = 1; n <= anzahl; ++n) ordner.datei("a/0000000" + std::to_string(n) + ".MP3", Wav(sekunden));
+        for (int n = 1; n <= anzahl; ++n) ordner.datei("a/0000000" + std::to_string(n) + ".MP3", Mp3(sekunden));
     }
     void starte(std::vector<std::string> setze) {
         ::mkdir(ordner.pfad("lauf").c_str(), 0700);

@@ -75,6 +75,10 @@ std::optional<std::intptr_t> Fenster::beantworten(unsigned nachricht, std::uintp
         }
         case WM_COPYDATA: return Dateien_empfangen(l) ? TRUE : FALSE;
         case WM_CLOSE: verschwinden(); return 0;
+        case WM_WINDOWPOSCHANGING:
+            // Whoever shows it must not lose the keyboard to something that cannot be seen.
+            reinterpret_cast<WINDOWPOS*>(l)->flags |= SWP_NOACTIVATE;
+            return std::nullopt;
         case WM_ENDSESSION:
             if (w != 0) verschwinden();
             return 0;
