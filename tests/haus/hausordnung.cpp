@@ -124,6 +124,8 @@ bool im_Wort(char zeichen) {
 }
 
 Fremdes Herkunft_des_Wortes(std::string_view wort, bool ist_Aufruf) {
+    // One word of the machine's looks like Qt's: what a queue of messages can hold.
+    if (wort.starts_with("QS_")) return Maschine;
     if (wort.size() > 2 && wort[0] == 'Q' && (wort[1] == '_' || std::isupper(static_cast<unsigned char>(wort[1]))))
         return Qt;
     if (wort.starts_with("mpv_")) return mpv;
