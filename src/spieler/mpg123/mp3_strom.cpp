@@ -13,6 +13,7 @@ namespace {
 // Bytes that may lie between two frames: pictures and tags in odd places. Without an end to it, noise would be found in what
 // is no music at all.
 constexpr long Höchstlänge_Schutt = 65536;
+constexpr std::size_t Pufferlänge = 65536;
 
 }  // namespace
 
@@ -47,10 +48,19 @@ bool Mp3_Strom::Rate_übernehmen() {
 }
 
 std::int64_t Mp3_Strom::Bytes_lesen(std::span<char> ziel) noexcept try {
-    const std::size_t n = datei_.lesen(static_cast<std::uint64_t>(stelle_), ziel);
+    // The library asks for four bytes and less.
+    if (stelle_ < puffer_ab_ || stelle_ >= puffer_ab_ + std::ssize(puffer_)) {
+        puffer_.resize(Pufferlänge);
+        puffer_ab_ = stelle_;
+        puffer_.resize(datei_.lesen(static_cast<std::uint64_t>(stelle_), puffer_));
+    }
+    const auto vorrat = std::span(puffer_).subspan(static_cast<std::size_t>(stelle_ - puffer_ab_));
+    const std::size_t n = std::min(ziel.size(), vorrat.size());
+    std::copy_n(vorrat.begin(), n, ziel.begin());
     stelle_ += static_cast<std::int64_t>(n);
     return static_cast<std::int64_t>(n);
 } catch (...) {
+    puffer_.clear();
     return -1;
 }
 

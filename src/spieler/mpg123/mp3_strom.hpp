@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <vector>
 
 #include "plattform/offene_datei.hpp"
 
@@ -49,6 +50,8 @@ private:
 
     Offene_Datei datei_;
     std::int64_t stelle_ = 0;
+    std::vector<char> puffer_;  // of the file, from byte puffer_ab_ on
+    std::int64_t puffer_ab_ = 0;
     int rate_ = 0;
     std::unique_ptr<mpg123_handle_struct, Freigabe> strom_;
 };
