@@ -13,7 +13,7 @@
 namespace tonkartei::haus {
 namespace {
 
-enum Fremdes : unsigned { nichts = 0, Qt = 1, Maschine = 2, mpv = 4 };
+enum Fremdes : unsigned { nichts = 0, Qt = 1, Maschine = 2, mpv = 4, mpg123 = 8 };
 
 struct Stock {
     int Höhe;
@@ -46,7 +46,7 @@ constexpr std::array Stockwerke{
     Stock{70, 10, nichts, " spieler "},
     Stock{70, 10, Maschine, " spieler/linux "},
     Stock{70, 10, Maschine, " spieler/windows "},
-    Stock{70, 10, Maschine, " spieler/mpg123 "},
+    Stock{70, 10, Maschine | mpg123, " spieler/mpg123 "},
     Stock{70, 10, Maschine | mpv, " spieler/mpv "},
 };
 
@@ -98,17 +98,21 @@ std::optional<std::string> Ziel(const Quellen& quellen, const std::string& von, 
     return std::nullopt;
 }
 
-// A header in angle brackets: of Qt, of libmpv, or of the machine when it is not one of the C++ library, whose names have
-// neither dot nor slash. Other libraries count as the machine's: nobody but the rooms for such things may use one.
+// A header in angle brackets: of Qt, of libmpv, of mpg123, or of the machine when it is not one of the C++ library, whose
+// names have neither dot nor slash. Other libraries count as the machine's: nobody but the rooms for such things may use
+// one.
 Fremdes Herkunft(const std::string& kopf) {
     if (kopf.starts_with("mpv/")) return mpv;
+    if (kopf == "mpg123.h") return mpg123;
     if (kopf.size() > 1 && kopf[0] == 'Q' && (std::isupper(static_cast<unsigned char>(kopf[1])) || kopf[1] == 't'))
         return Qt;
     if (kopf.starts_with("q") && kopf.ends_with(".h")) return Qt;
     return kopf.find_first_of("./") == std::string::npos ? nichts : Maschine;
 }
 
-const char* Name(Fremdes fremdes) { return fremdes == Qt ? "Qt" : fremdes == mpv ? "libmpv" : "the machine"; }
+const char* Name(Fremdes fremdes) {
+    return fremdes == Qt ? "Qt" : fremdes == mpv ? "libmpv" : fremdes == mpg123 ? "mpg123" : "the machine";
+}
 
 // Calls that headers of the standard library bring along or that need no header at all.
 constexpr std::string_view Aufrufe =
@@ -129,6 +133,7 @@ Fremdes Herkunft_des_Wortes(std::string_view wort, bool ist_Aufruf) {
     if (wort.size() > 2 && wort[0] == 'Q' && (wort[1] == '_' || std::isupper(static_cast<unsigned char>(wort[1]))))
         return Qt;
     if (wort.starts_with("mpv_")) return mpv;
+    if (wort.starts_with("mpg123_")) return mpg123;
     if (steht_in(Schalter, wort)) return Maschine;
     if (ist_Aufruf && (steht_in(Aufrufe, wort) || wort.starts_with("posix_") || wort.starts_with("pthread_")))
         return Maschine;

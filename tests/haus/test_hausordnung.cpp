@@ -71,6 +71,7 @@ TEST(Hausordnung, FindetWasSieVerbietetUndNurDas) {
         {"src/datenbank/a.cpp", "int main() { return getpid (); }\n", "the machine"},
         {"src/grundlagen/a.cpp", "#ifdef __linux__\n", "the machine"},
         {"src/wiedergabe/a.cpp", "#include <mpv/client.h>\n", "libmpv"},
+        {"src/spieler/mpv/a.cpp", "#include <mpg123.h>\n", "mpg123"},
         {"src/grundlagen/a.cpp", "auto s = \"// \";  auto* p = mpv_create();\n", "libmpv"},
         {"src/grundlagen/a.cpp", "int n = 1'000; char c = '\"'; int y = fork();\n", "the machine"},
         {"src/datenbank/a.cpp", "#include <vector>\n#include \"mp3/tag.hpp\"\n#include \"grundlagen/text.hpp\"\n", ""},
