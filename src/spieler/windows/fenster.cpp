@@ -35,9 +35,8 @@ Fenster::Fenster(const Text& klasse, Fensterprozedur& prozedur) : prozedur_(proz
     // An empty shape: nothing is drawn and nothing clicked, wherever it is put and by whomever it is shown.
     ::SetWindowRgn(fenster_, ::CreateRectRgn(0, 0, 0, 0), FALSE);
     ::SetPropW(fenster_, Fensterwert_Objekt, this);
-    ::ShowWindow(fenster_, SW_SHOWNOACTIVATE);
-    // The first showing is the starter's to decide (minimised), which is not meant for a window of this kind.
-    ::ShowWindow(fenster_, SW_SHOWNOACTIVATE);
+    // Not by the call for showing, whose first use is the starter's to decide (minimised, with the focus).
+    ::SetWindowPos(fenster_, nullptr, 0, 0, 0, 0, SWP_SHOWWINDOW | SWP_NOACTIVATE | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER);
     anzeigen();
 }
 

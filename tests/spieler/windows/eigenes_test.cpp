@@ -2,6 +2,7 @@
 #include "plattform/windows/breit.hpp"
 #include "plattform/windows/winapi.hpp"
 #include "spieler/buehne.hpp"
+#include "spieler/liste_m3u.hpp"
 #include "spieler/windows/dateiuebergabe.hpp"
 
 namespace tonkartei::spieler {
@@ -64,6 +65,14 @@ TEST_F(Eigenes, KlassenOhneGroßUndKlein) {
     const Hwnd f = Spieler_mit();
     EXPECT_EQ(0, Ende(starten({"/CLASS=TONKARTEI", Lied("a.mp3")})));
     EXPECT_EQ(1, Status(f)) << "handed over";
+}
+
+TEST(SpielerPfade, VonEinemOrdnerAus) {
+    for (const auto& [pfad, ganz] : {std::pair<Text, Text>{"a.mp3", "D:\\m\\a.mp3"},
+                                     {"\\x\\a.mp3", "D:\\x\\a.mp3"},
+                                     {"E:/a.mp3", "E:/a.mp3"},
+                                     {"\\\\s\\f\\a.mp3", "\\\\s\\f\\a.mp3"}})
+        EXPECT_EQ(ganz, ganzer_Pfad(pfad, "D:\\m"));
 }
 
 }  // namespace
