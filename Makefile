@@ -24,7 +24,7 @@ help:
 	@echo 'make format    clang-format over all sources'
 	@echo 'make install   install below PREFIX ($(PREFIX)), DESTDIR in front'
 	@echo 'make handbuch  the handbook as a page for the browser, build/handbuch/handbuch.html'
-	@echo 'make windows   cross-build for Windows: build/windows/Tonkartei.exe (the player for Windows is yet to come)'
+	@echo 'make windows   cross-build for Windows: Tonkartei.exe, WinAmp.Exe and a zip of both in build/windows'
 	@echo 'make test-windows  run the tests of the Windows build under Wine'
 	@echo 'make paket     build a Debian package in $(RELEASE), the handbook in it'
 
@@ -101,8 +101,8 @@ windows-bauen:
 	@cmake --preset windows
 
 windows: windows-bauen
-	@cmake --build --preset windows --target bin/Tonkartei.exe
-	@cp build/windows/bin/Tonkartei.exe build/windows/
+	@cmake --build --preset windows --target bin/Tonkartei.exe bin/WinAmp.Exe
+	@sh skripte/windows_paket.sh
 
 test-windows: windows-bauen
 	@cmake --build --preset windows

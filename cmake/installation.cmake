@@ -2,12 +2,8 @@
 # ../libexec/tonkartei (installed).
 include(GNUInstallDirs)
 
-if(TARGET tonkartei)
-  install(TARGETS tonkartei RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-endif()
-if(TARGET spieler)
-  install(TARGETS spieler RUNTIME DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/tonkartei)
-endif()
+install(TARGETS tonkartei RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS spieler RUNTIME DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/tonkartei)
 install(FILES paket/tonkartei.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 
 # Texts that name the version. The address is the one that the program shows where it asks its user to get in touch.

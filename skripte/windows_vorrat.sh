@@ -17,11 +17,12 @@ qt_optionen="
 -DFEATURE_sql=OFF -DFEATURE_network=OFF -DFEATURE_dbus=OFF -DFEATURE_testlib=OFF -DFEATURE_printsupport=OFF
 -DFEATURE_xml=OFF -DFEATURE_concurrent=OFF
 -DINPUT_opengl=no -DFEATURE_vulkan=OFF -DFEATURE_direct2d=OFF -DFEATURE_direct2d1_1=OFF
+-DFEATURE_directwrite=OFF -DFEATURE_directwrite3=OFF
 -DFEATURE_icu=OFF -DFEATURE_zstd=OFF -DFEATURE_glib=OFF -DFEATURE_gif=OFF -DFEATURE_jpeg=OFF
 -DFEATURE_system_zlib=OFF -DFEATURE_system_png=OFF -DFEATURE_system_pcre2=OFF -DFEATURE_system_freetype=OFF
 -DFEATURE_system_harfbuzz=OFF -DFEATURE_system_doubleconversion=OFF -DFEATURE_system_libb2=OFF
 -DFEATURE_tabletevent=OFF"  # the header it takes is not free, so not in Debian's archive
-mpg123_optionen="--host=$ziel --with-audio=win32 --disable-components --enable-libmpg123 --enable-libout123
+mpg123_optionen="--host=$ziel --disable-components --enable-libmpg123
 --disable-shared --enable-static --disable-modules"
 
 abbruch() {

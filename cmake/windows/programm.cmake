@@ -18,9 +18,7 @@ function(tonkartei_windows_programm ziel PROGRAMM_DATEI PROGRAMM_BESCHREIBUNG)
 endfunction()
 
 tonkartei_windows_programm(tonkartei Tonkartei.exe "Tonkartei")
-if(TARGET spieler)
-  tonkartei_windows_programm(spieler WinAmp.Exe "Tonkartei: Abspieler")
-endif()
+tonkartei_windows_programm(spieler WinAmp.Exe "Tonkartei: Abspieler")
 # Qt's own German.
 qt_add_resources(tonkartei uebersetzungen PREFIX /uebersetzungen BASE /usr/share/qt6/translations
   FILES /usr/share/qt6/translations/qtbase_de.qm)

@@ -1,36 +1,13 @@
 #include "spieler/lautstaerke.hpp"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <array>
 #include <charconv>
 #include <cstdio>
-#include <cstdlib>
+#include <random>
 
-#include "plattform/linux/deskriptor.hpp"
+#include "plattform/offene_datei.hpp"
 
 namespace tonkartei::spieler {
-
-namespace {
-
-// $XDG_STATE_HOME/tonkartei/spieler/, the folders made; empty when there is none.
-Text Zustandsordner() {
-    Text ordner;
-    if (const char* zustand = std::getenv("XDG_STATE_HOME"); zustand && zustand[0] == '/') {
-        ordner = zustand;
-    } else if (const char* heim = std::getenv("HOME"); heim && heim[0] == '/') {
-        ordner = Text(heim) + "/.local/state";
-    } else {
-        return {};
-    }
-    ordner += "/tonkartei/spieler/";
-    for (std::size_t i = 1; (i = ordner.find('/', i)) != Text::npos; ++i) ::mkdir(ordner.substr(0, i).c_str(), 0700);
-    return ordner;
-}
-
-}  // namespace
 
 Text Dateiname_aus_Klasse(const Text& klasse) {
     constexpr std::size_t Höchstlänge = 200;
@@ -52,29 +29,36 @@ Text Dateiname_aus_Klasse(const Text& klasse) {
     return name;
 }
 
-Lautstärkegedächtnis::Lautstärkegedächtnis(const Text& klasse) {
-    const Text ordner = Zustandsordner();
-    if (!ordner.empty()) pfad_ = ordner + "lautstaerke-" + Dateiname_aus_Klasse(klasse);
+Lautstärkegedächtnis::Lautstärkegedächtnis(Dateisystem& platte, const Text& ordner, const Text& klasse) : platte_(platte) {
+    if (!ordner.empty()) pfad_ = mit_Trenner(ordner) + "lautstaerke-" + Dateiname_aus_Klasse(klasse);
 }
 
-std::optional<int> Lautstärkegedächtnis::lesen() const {
-    const Deskriptor datei(::open(pfad_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+std::optional<int> Lautstärkegedächtnis::lesen() const try {
+    if (pfad_.empty()) return std::nullopt;
     std::array<char, 16> text{};
-    const ssize_t n = datei ? ::read(datei.fd(), text.data(), text.size()) : 0;
+    const std::size_t n = Offene_Datei(platte_, pfad_, Dateimodus::lesen).lesen(0, text);
     int wert = 0;
-    if (n <= 0 || std::from_chars(text.data(), text.data() + n, wert).ec != std::errc()) return std::nullopt;
-    if (wert < 0 || wert > 255) return std::nullopt;
-    return wert;
+    if (std::from_chars(text.data(), text.data() + n, wert).ec != std::errc()) return std::nullopt;
+    return wert >= 0 && wert <= 255 ? std::optional(wert) : std::nullopt;
+} catch (const Dateifehler&) {
+    return std::nullopt;
 }
 
 void Lautstärkegedächtnis::merken(int wert) const {
     if (pfad_.empty()) return;
-    const Text neu = pfad_ + ".neu-" + std::to_string(::getpid());
-    const Text text = std::to_string(wert) + "\n";
-    Deskriptor datei(::open(neu.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0600));
-    const bool ganz = datei && ::write(datei.fd(), text.data(), text.size()) == static_cast<ssize_t>(text.size());
-    datei.schließen();
-    if (!ganz || ::rename(neu.c_str(), pfad_.c_str()) != 0) ::unlink(neu.c_str());
+    // Two players of one class may write at once.
+    const Text neu = pfad_ + ".neu-" + std::to_string(std::random_device()());
+    try {
+        Offene_Datei datei(platte_, neu, Dateimodus::schreiben);
+        datei.schreiben(0, std::to_string(wert) + "\n");
+        datei.schließen();
+        if (platte_.Datei_da(pfad_))
+            platte_.ersetzen(neu, pfad_);
+        else
+            platte_.umbenennen(neu, pfad_);
+    } catch (const Dateifehler&) {
+        if (platte_.Datei_da(neu)) platte_.löschen(neu);
+    }
 }
 
 }  // namespace tonkartei::spieler

@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "grundlagen/text.hpp"
+#include "plattform/dateisystem.hpp"
 
 namespace tonkartei::spieler {
 
@@ -12,13 +12,14 @@ Text Dateiname_aus_Klasse(const Text& klasse);
 
 class Lautstärkegedächtnis {
 public:
-    // Throws nothing; without a place to keep it nothing is remembered.
-    explicit Lautstärkegedächtnis(const Text& klasse);
+    // In an existing folder; empty: there is none, and nothing is remembered. Nothing here throws.
+    Lautstärkegedächtnis(Dateisystem& platte, const Text& ordner, const Text& klasse);
 
     std::optional<int> lesen() const;  // 0 to 255
     void merken(int wert) const;       // the old value or the new one, at every instant
 
 private:
+    Dateisystem& platte_;
     Text pfad_;  // empty: none
 };
 

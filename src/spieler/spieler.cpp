@@ -1,10 +1,9 @@
 #include "spieler/spieler.hpp"
 
-#include <sys/stat.h>
-
 #include <algorithm>
 #include <limits>
 
+#include "plattform/fenstersystem.hpp"
 #include "spieler/liste_m3u.hpp"
 
 namespace tonkartei::spieler {
@@ -15,18 +14,12 @@ constexpr std::int64_t Frage_Status = 104, Frage_Zeit = 105, Befehl_springen = 1
 constexpr std::int64_t Schritt = 5000;  // ms
 constexpr auto Merkpause = std::chrono::milliseconds(300);
 
-// Pipes and devices could keep the library waiting for ever.
-bool ist_Datei(const Text& pfad) {
-    struct stat st;
-    return ::stat(pfad.c_str(), &st) == 0 && S_ISREG(st.st_mode);
-}
-
 }  // namespace
 
-Spieler::Spieler(Abspieler& abspieler, const Lautstärkegedächtnis& gedächtnis)
-    : abspieler_(abspieler), gedächtnis_(gedächtnis), lautstärke_(gedächtnis.lesen().value_or(255)) {
-    abspieler_.Lautstärke_setzen(lautstärke_);
-    abspieler_.zu_Ende = [this] { spielen_ab(aktuell_ + 1); };
+Spieler::Spieler(Klang& klang, Dateisystem& platte, const Lautstärkegedächtnis& gedächtnis)
+    : klang_(klang), platte_(platte), gedächtnis_(gedächtnis), lautstärke_(gedächtnis.lesen().value_or(255)) {
+    klang_.Lautstärke_setzen(lautstärke_);
+    klang_.zu_Ende = [this] { spielen_ab(aktuell_ + 1); };
 }
 
 std::int32_t Spieler::Nachricht(std::uint32_t nachricht, std::int32_t w, std::int64_t l) {
@@ -49,8 +42,8 @@ void Spieler::Befehl(std::int32_t code) {
             if (status_ != Status::gestoppt) anhalten(status_ == Status::spielt);
             break;
         case Befehl_Stopp: stoppen(); break;
-        case Befehl_zurück: springen(abspieler_.Position() - Schritt); break;
-        case Befehl_vor: springen(abspieler_.Position() + Schritt); break;
+        case Befehl_zurück: springen(klang_.Position() - Schritt); break;
+        case Befehl_vor: springen(klang_.Position() + Schritt); break;
         default: break;
     }
 }
@@ -69,7 +62,7 @@ std::int32_t Spieler::Anwenderbefehl(std::int32_t w, std::int64_t l) {
 }
 
 void Spieler::Dateien(const std::vector<Text>& dateien, bool ersetzen) {
-    auto neue = entfaltet(dateien);
+    auto neue = entfaltet(dateien, platte_);
     if (ersetzen) {
         lieder_ = std::move(neue);
         spielen_ab(0);
@@ -87,14 +80,15 @@ Fensterprozedur::Auskunft Spieler::Auskunft_geben() const {
 }
 
 void Spieler::spielen_ab(std::size_t stelle) {
-    while (stelle < lieder_.size() && !ist_Datei(lieder_[stelle])) ++stelle;
+    // Pipes and devices could keep the engine waiting for ever.
+    while (stelle < lieder_.size() && !platte_.Datei_da(lieder_[stelle])) ++stelle;
     if (stelle >= lieder_.size()) {
         aktuell_ = lieder_.empty() ? 0 : lieder_.size() - 1;
         stoppen();
         return;
     }
     aktuell_ = stelle;
-    abspieler_.laden(lieder_[stelle]);
+    klang_.laden(lieder_[stelle]);
     anhalten(false);
 }
 
@@ -104,33 +98,32 @@ void Spieler::nächstes() {
 
 void Spieler::Lautstärke_stellen(int wert) {
     lautstärke_ = std::clamp(wert, 0, 255);
-    abspieler_.Lautstärke_setzen(lautstärke_);
+    klang_.Lautstärke_setzen(lautstärke_);
     merken_um_ = std::min(merken_um_, std::chrono::steady_clock::now() + Merkpause);
 }
 
 void Spieler::stoppen() {
-    abspieler_.stoppen();
+    klang_.stoppen();
     status_ = Status::gestoppt;
 }
 
 void Spieler::anhalten(bool angehalten) {
-    abspieler_.anhalten(angehalten);
+    klang_.anhalten(angehalten);
     status_ = angehalten ? Status::pausiert : Status::spielt;
 }
 
 void Spieler::springen(std::int64_t ms) {
-    if (status_ != Status::gestoppt) abspieler_.springen(std::max<std::int64_t>(ms, 0));
+    if (status_ != Status::gestoppt) klang_.springen(std::max<std::int64_t>(ms, 0));
 }
 
 // -1 tells that nothing plays; rounded to seconds it counts as 0.
 std::int32_t Spieler::Position() const {
     if (status_ == Status::gestoppt) return -1;
-    return static_cast<std::int32_t>(
-        std::min<std::int64_t>(abspieler_.Position(), std::numeric_limits<std::int32_t>::max()));
+    return static_cast<std::int32_t>(std::min<std::int64_t>(klang_.Position(), std::numeric_limits<std::int32_t>::max()));
 }
 
 std::int32_t Spieler::Länge() const {
-    const auto länge = abspieler_.Länge();
+    const auto länge = klang_.Länge();
     return länge && *länge >= 0 ? static_cast<std::int32_t>(std::min(*länge, 1e9)) : -1;
 }
 

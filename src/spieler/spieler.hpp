@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <vector>
 
-#include "spieler/abspieler.hpp"
-#include "spieler/fenster.hpp"
+#include "spieler/fensterprozedur.hpp"
+#include "spieler/klang.hpp"
 #include "spieler/lautstaerke.hpp"
 
 namespace tonkartei::spieler {
@@ -17,7 +17,7 @@ inline constexpr std::int32_t Befehl_zurück = 40144, Befehl_vor = 40148;
 
 class Spieler final : public Fensterprozedur {
 public:
-    Spieler(Abspieler& abspieler, const Lautstärkegedächtnis& gedächtnis);
+    Spieler(Klang& klang, Dateisystem& platte, const Lautstärkegedächtnis& gedächtnis);
 
     std::int32_t Nachricht(std::uint32_t nachricht, std::int32_t w, std::int64_t l) override;
     // Files and list files. Replacing starts the first one.
@@ -31,8 +31,8 @@ public:
     void an_Stelle(std::int64_t ms) { springen(ms); }
     void Lautstärke_stellen(int wert);
     // As the file tells them; empty unknown.
-    const Text& Titel() const noexcept { return abspieler_.Titel(); }
-    const Text& Interpret() const noexcept { return abspieler_.Interpret(); }
+    Text Titel() const { return klang_.Titel(); }
+    Text Interpret() const { return klang_.Interpret(); }
 
     bool Ende_verlangt() const noexcept { return ende_; }
     // Until when the loop may sleep, and what is due then: a slider that is dragged writes its last value only.
@@ -55,7 +55,8 @@ private:
     std::int32_t Länge() const;
     void Lautstärke_merken();
 
-    Abspieler& abspieler_;
+    Klang& klang_;
+    Dateisystem& platte_;
     const Lautstärkegedächtnis& gedächtnis_;
     std::vector<Text> lieder_;
     std::size_t aktuell_ = 0;  // position in lieder_

@@ -2,17 +2,13 @@
 // run beside each other, each with a program and players of its own.
 #pragma once
 
-#include <sys/socket.h>
-#include <sys/stat.h>
-#include <sys/un.h>
-#include <unistd.h>
-
-#include <csignal>
-#include <cstring>
+#include <filesystem>
 #include <thread>
 
 #include "programm/buehne.hpp"
 #include "ton.hpp"
+
+#include "spielerwelt.hpp"
 
 namespace tonkartei {
 
@@ -26,10 +22,11 @@ protected:
         s.Lieder.clear();
         for (int n = 1; n <= anzahl; ++n) s.Lieder.push_back({"A" + std::to_string(n), "T"});
         a = sammlung("a", s);
-        for (int n = 1; n <= anzahl; ++n) ordner.datei("a/0000000" + std::to_string(n) + ".MP3", Wav(sekunden));
+        for (int n = 1; n <= anzahl; ++n) ordner.datei("a/0000000" + std::to_string(n) + ".MP3", Mp3(sekunden));
     }
     void starte(std::vector<std::string> setze) {
-        ::mkdir(ordner.pfad("lauf").c_str(), 0700);
+        std::filesystem::create_directory(ordner.weg("lauf"));
+        std::filesystem::permissions(ordner.weg("lauf"), std::filesystem::perms::owner_all);
         for (const auto& eintrag : zuletzt({a})) setze.push_back(eintrag);
         setze.push_back("WinAmp beenden=2");
         starten({.setze = setze,
@@ -70,41 +67,21 @@ public:
         }
         return text;
     }
-    // The last class that a process was started with.
-    static std::string Klasse_von(pid_t prozess) {
-        std::ifstream strom("/proc/" + std::to_string(prozess) + "/cmdline");
-        std::string klasse;
-        for (std::string argument; std::getline(strom, argument, '\0');)
-            if (argument.starts_with("/CLASS=")) klasse = argument.substr(7);
-        std::erase(klasse, '"');
-        return klasse;
-    }
     // The player's process dies without a word.
-    void töten(const std::string& klasse = "Tonkartei") {
-        const std::string fenster = ordner.pfad("lauf/tonkartei/fenster/");
-        int getötet = 0;
-        for (const auto& eintrag : std::filesystem::directory_iterator(fenster)) {
-            const int s = ::socket(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0);
-            sockaddr_un adresse{};
-            adresse.sun_family = AF_UNIX;
-            std::strncpy(adresse.sun_path, eintrag.path().c_str(), sizeof(adresse.sun_path) - 1);
-            ucred wer{};
-            socklen_t länge = sizeof(wer);
-            if (::connect(s, reinterpret_cast<sockaddr*>(&adresse), sizeof(adresse)) == 0 &&
-                ::getsockopt(s, SOL_SOCKET, SO_PEERCRED, &wer, &länge) == 0 && Klasse_von(wer.pid) == klasse &&
-                ::kill(wer.pid, SIGKILL) == 0)
-                ++getötet;
-            ::close(s);
-        }
-        EXPECT_EQ(getötet, 1);
-    }
+    void töten(const std::string& klasse = "Tonkartei") { EXPECT_EQ(Spieler_töten(ordner, klasse), 1); }
 };
 
+// Beside each other where each can have a desktop of its own.
 template <class... Szenen>
 void zugleich() {
     std::vector<std::thread> alle;
-    (alle.emplace_back([] { Szenen().TestBody(); }), ...);
-    for (auto& thread : alle) thread.join();
+    const auto beginnen = [&](auto szene) {
+        alle.emplace_back(szene);
+        if (!eigener_Schreibtisch) alle.back().join();
+    };
+    (beginnen([] { Szenen().TestBody(); }), ...);
+    for (auto& thread : alle)
+        if (thread.joinable()) thread.join();
 }
 
 }  // namespace tonkartei

@@ -30,8 +30,7 @@ struct Listendatei : Abspielen {
         lege(3, 2.5);
         // In a folder of any name.
         const std::string winamp = ordner.ordner("mein Spieler");
-        std::filesystem::create_symlink(std::filesystem::canonical("/proc/self/exe").replace_filename("WinAmp.Exe"),
-                                        winamp + "WinAmp.Exe");
+        Spieler_hinlegen(winamp);
         starte({"Random-Einstellung=1", "WinAmp=" + winamp});
         hände({"klick Tonkartei.Zufalls_Playlist", "eingabe 3", "antwort Nein"});
         for (const char* lied : {"00000001.MP3", "00000002.MP3", "00000003.MP3"})

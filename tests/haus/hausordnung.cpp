@@ -13,7 +13,7 @@
 namespace tonkartei::haus {
 namespace {
 
-enum Fremdes : unsigned { nichts = 0, Qt = 1, Maschine = 2, mpv = 4 };
+enum Fremdes : unsigned { nichts = 0, Qt = 1, Maschine = 2, mpv = 4, mpg123 = 8 };
 
 struct Stock {
     int Höhe;
@@ -43,7 +43,11 @@ constexpr std::array Stockwerke{
     Stock{Anbau, 10, Maschine, " plattform/linux "},
     Stock{Anbau, 10, Maschine, " plattform/windows "},
     Stock{60, 60, nichts, " programm "},
-    Stock{70, 10, Maschine | mpv, " spieler spieler/mpris "},
+    Stock{70, 10, nichts, " spieler "},
+    Stock{70, 10, Maschine, " spieler/linux spieler/mpris "},
+    Stock{70, 10, Maschine, " spieler/windows "},
+    Stock{70, 10, Maschine | mpg123, " spieler/mpg123 "},
+    Stock{70, 10, Maschine | mpv, " spieler/mpv "},
 };
 
 // Nobody else may know an annex, but through a door: from (a folder or a file) into (a folder).
@@ -51,11 +55,25 @@ struct Tür {
     std::string_view Von;
     std::string_view Nach;
 };
-// The player has both ends of the wire that stands for window messages.
-constexpr std::array Türen{
-    Tür{"programm/main.cpp", "oberflaeche/qt"},       Tür{"programm/main.cpp", "oberflaeche/qt/freedesktop"},
-    Tür{"oberflaeche/qt/windows/", "oberflaeche/qt"}, Tür{"oberflaeche/qt/freedesktop/", "oberflaeche/qt"},
-    Tür{"programm/main.cpp", "plattform/linux"},      Tür{"spieler/", "plattform/linux"}};
+// The player has both ends of the wire that stands for window messages, and a window and a sound of each machine's own.
+constexpr std::array Türen{Tür{"programm/main.cpp", "oberflaeche/qt"},
+                           Tür{"programm/main.cpp", "oberflaeche/qt/freedesktop"},
+                           Tür{"oberflaeche/qt/windows/", "oberflaeche/qt"},
+                           Tür{"oberflaeche/qt/freedesktop/", "oberflaeche/qt"},
+                           Tür{"programm/main.cpp", "plattform/linux"},
+                           Tür{"spieler/main.cpp", "plattform/linux"},
+                           Tür{"spieler/linux/", "plattform/linux"},
+                           Tür{"spieler/mpv/", "plattform/linux"},
+                           Tür{"spieler/windows/", "plattform/windows"},
+                           Tür{"spieler/mpg123/", "plattform/windows"},
+                           Tür{"spieler/linux/", "spieler"},
+                           Tür{"spieler/mpris/", "spieler"},
+                           Tür{"spieler/windows/", "spieler"},
+                           Tür{"spieler/mpv/", "spieler"},
+                           Tür{"spieler/mpg123/", "spieler"},
+                           Tür{"spieler/linux/", "spieler/mpv"},
+                           Tür{"spieler/linux/", "spieler/mpris"},
+                           Tür{"spieler/windows/", "spieler/mpg123"}};
 
 bool steht_in(std::string_view liste, std::string_view wort) {
     return liste.find(" " + std::string(wort) + " ") != std::string_view::npos;
@@ -92,17 +110,21 @@ std::optional<std::string> Ziel(const Quellen& quellen, const std::string& von, 
     return std::nullopt;
 }
 
-// A header in angle brackets: of Qt, of libmpv, or of the machine when it is not one of the C++ library, whose names have
-// neither dot nor slash. Other libraries count as the machine's: nobody but the rooms for such things may use one.
+// A header in angle brackets: of Qt, of libmpv, of mpg123, or of the machine when it is not one of the C++ library, whose
+// names have neither dot nor slash. Other libraries count as the machine's: nobody but the rooms for such things may use
+// one.
 Fremdes Herkunft(const std::string& kopf) {
     if (kopf.starts_with("mpv/")) return mpv;
+    if (kopf == "mpg123.h") return mpg123;
     if (kopf.size() > 1 && kopf[0] == 'Q' && (std::isupper(static_cast<unsigned char>(kopf[1])) || kopf[1] == 't'))
         return Qt;
     if (kopf.starts_with("q") && kopf.ends_with(".h")) return Qt;
     return kopf.find_first_of("./") == std::string::npos ? nichts : Maschine;
 }
 
-const char* Name(Fremdes fremdes) { return fremdes == Qt ? "Qt" : fremdes == mpv ? "libmpv" : "the machine"; }
+const char* Name(Fremdes fremdes) {
+    return fremdes == Qt ? "Qt" : fremdes == mpv ? "libmpv" : fremdes == mpg123 ? "mpg123" : "the machine";
+}
 
 // Calls that headers of the standard library bring along or that need no header at all.
 constexpr std::string_view Aufrufe =
@@ -118,9 +140,12 @@ bool im_Wort(char zeichen) {
 }
 
 Fremdes Herkunft_des_Wortes(std::string_view wort, bool ist_Aufruf) {
+    // One word of the machine's looks like Qt's: what a queue of messages can hold.
+    if (wort.starts_with("QS_")) return Maschine;
     if (wort.size() > 2 && wort[0] == 'Q' && (wort[1] == '_' || std::isupper(static_cast<unsigned char>(wort[1]))))
         return Qt;
     if (wort.starts_with("mpv_")) return mpv;
+    if (wort.starts_with("mpg123_")) return mpg123;
     if (steht_in(Schalter, wort)) return Maschine;
     if (ist_Aufruf && (steht_in(Aufrufe, wort) || wort.starts_with("posix_") || wort.starts_with("pthread_")))
         return Maschine;

@@ -43,7 +43,7 @@ bool hat_Knopf(Meldungsfeld::Knöpfe knöpfe, Antwort antwort) {
 // Of an input box.
 constexpr int Zeichen_je_Zeile = 60;
 
-Text Pfad(const QString& name) { return QFile::encodeName(name).toStdString(); }
+Text Pfad(const QString& name) { return QFile::encodeName(QDir::toNativeSeparators(name)).toStdString(); }
 
 Text Pfad_wählen(QFileDialog& dialog) {
     dialog.setSupportedSchemes({QStringLiteral("file")});

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "plattform/windows/breit.hpp"
+#include "plattform/windows/spieleranzeige.hpp"
 #include "plattform/windows/winapi.hpp"
 
 namespace tonkartei {
@@ -10,6 +11,7 @@ namespace {
 
 constexpr std::chrono::milliseconds Frist_wenn_hängend{10};
 constexpr int längste_Klasse = 257;
+constexpr int längster_Titel = 4096;
 
 // Handles of windows have 32 bits that count, on 64-bit systems, too.
 HWND Fenster(Hwnd griff) { return static_cast<HWND>(::LongToHandle(griff)); }
@@ -85,12 +87,19 @@ std::optional<Fenstersystem_Windows::Spielerzustand> Fenstersystem_Windows::Zust
     const Text klasse = GetClassNameA(fenster);
     if (!klasse.starts_with("Winamp") && !klasse.starts_with("Tonkartei")) return std::nullopt;
     const auto fragen = [&](std::int32_t w, std::int64_t l) { return SendMessageA(fenster, WM_USER, w, l).value_or(0); };
-    return Spielerzustand{.sichtbar = ::IsWindowVisible(Fenster(fenster)) != 0,
-                          .Lautstärke = 0,
-                          .Status = fragen(0, Status),
-                          .Position = fragen(0, Zeiten),
-                          .Länge = fragen(1, Zeiten),
-                          .Datei = {}};
+    Spielerzustand zustand{.sichtbar = ::IsWindowVisible(Fenster(fenster)) != 0,
+                           .Lautstärke = 0,
+                           .Status = fragen(0, Status),
+                           .Position = fragen(0, Zeiten),
+                           .Länge = fragen(1, Zeiten),
+                           .Datei = {}};
+    // After it has answered: a window can be found before its player has put these on it.
+    wchar_t datei[längster_Titel];
+    const int länge = ::GetWindowTextW(Fenster(fenster), datei, längster_Titel);
+    zustand.Datei = schmal({datei, static_cast<std::size_t>(std::max(länge, 0))});
+    const auto wert = ::HandleToLong(::GetPropW(Fenster(fenster), Fensterwert_Lautstärke));
+    zustand.Lautstärke = std::max(static_cast<int>(wert) - 1, 0);
+    return zustand;
 }
 
 }  // namespace tonkartei

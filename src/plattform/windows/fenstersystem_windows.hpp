@@ -28,7 +28,7 @@ public:
     Hwnd SetParent(Hwnd fenster, Hwnd neuer_Elter) override;
     std::int32_t SetWindowLongA(Hwnd fenster, int stelle, std::int32_t wert) override;
 
-    // What a player tells of itself by messages; none of them tells its volume or its file. Not a Windows call: for tests.
+    // What a player tells of itself by messages, and what one of ours shows besides. Not a Windows call: for tests.
     struct Spielerzustand {
         bool sichtbar = false;
         int Lautstärke = 0;

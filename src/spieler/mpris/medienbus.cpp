@@ -9,6 +9,7 @@
 #include <ctime>
 
 #include "plattform/dateisystem.hpp"
+#include "plattform/fenstersystem.hpp"
 #include "spieler/spieler.hpp"
 
 namespace tonkartei::spieler {

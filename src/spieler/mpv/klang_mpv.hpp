@@ -1,49 +1,40 @@
-// One song through libmpv. Nothing here waits: commands are sent off, and what the library tells is kept, so that an
+// Sound by libmpv. Nothing here waits: commands are sent off, and what the library tells is kept, so that an
 // audio device that hangs cannot hold up an answer.
 #pragma once
 
 #include <chrono>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 
-#include "grundlagen/text.hpp"
 #include "plattform/linux/deskriptor.hpp"
+#include "spieler/klang.hpp"
 
 struct mpv_handle;
 struct mpv_event;
 
 namespace tonkartei::spieler {
 
-class Abspieler {
+class Klang_mpv final : public Klang {
 public:
     // `ausgabe` chooses the audio output by libmpv's names; empty: what the desktop has, or nothing in real time.
     // Throws std::runtime_error when the library cannot be set up.
-    explicit Abspieler(const Text& ausgabe);
-    Abspieler(const Abspieler&) = delete;
-    Abspieler& operator=(const Abspieler&) = delete;
+    explicit Klang_mpv(const Text& ausgabe);
 
     // Readable when abholen() has work.
     int Wecker() const noexcept { return wecker_.fd(); }
-    void abholen();
+    void abholen() override;
 
-    // The song came to its end by itself, or could not be played. Called from abholen().
-    std::function<void()> zu_Ende;
+    void laden(const Text& datei) override;
+    void stoppen() override;
+    void anhalten(bool angehalten) override;
+    void springen(std::int64_t ms) override;
+    void Lautstärke_setzen(int wert) override;
 
-    void laden(const Text& datei);
-    void stoppen();
-    void anhalten(bool angehalten);
-    // While the song is still being opened the jump is remembered. Beyond its end the song ends.
-    void springen(std::int64_t ms);
-    void Lautstärke_setzen(int wert);  // 0 to 255
-
-    // Position in milliseconds: the target while a jump is under way. Length in seconds, none before it is known.
-    std::int64_t Position() const;
-    std::optional<double> Länge() const noexcept { return länge_; }
-    // As the song's file tells them; empty unknown.
-    const Text& Titel() const noexcept { return titel_; }
-    const Text& Interpret() const noexcept { return interpret_; }
+    std::int64_t Position() const override;
+    std::optional<double> Länge() const override { return länge_; }
+    Text Titel() const override { return titel_; }
+    Text Interpret() const override { return interpret_; }
 
 private:
     using Uhr = std::chrono::steady_clock;

@@ -1,4 +1,4 @@
-#include "spieler/abspieler.hpp"
+#include "spieler/mpv/klang_mpv.hpp"
 
 #include <mpv/client.h>
 #include <sys/eventfd.h>
@@ -62,9 +62,9 @@ void wecken(void* wecker) {
 
 }  // namespace
 
-void Abspieler::Freigabe::operator()(mpv_handle* mpv) const { mpv_terminate_destroy(mpv); }
+void Klang_mpv::Freigabe::operator()(mpv_handle* mpv) const { mpv_terminate_destroy(mpv); }
 
-Abspieler::Abspieler(const Text& ausgabe) : wecker_(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)), mpv_(mpv_create()) {
+Klang_mpv::Klang_mpv(const Text& ausgabe) : wecker_(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)), mpv_(mpv_create()) {
     if (!wecker_ || !mpv_) throw std::runtime_error("no player library");
     for (const auto& [name, wert] : Einstellungen)
         mpv_set_option_string(mpv_.get(), name, wert);  // names that this version of the library lacks are no loss
@@ -77,7 +77,7 @@ Abspieler::Abspieler(const Text& ausgabe) : wecker_(::eventfd(0, EFD_CLOEXEC | E
     mpv_observe_property(mpv_.get(), Beobachtet_Interpret, "metadata/by-key/Artist", MPV_FORMAT_STRING);
 }
 
-void Abspieler::abholen() {
+void Klang_mpv::abholen() {
     std::uint64_t zähler;
     if (::read(wecker_.fd(), &zähler, sizeof(zähler)) < 0 && errno != EAGAIN) return;
     for (;;) {
@@ -87,7 +87,7 @@ void Abspieler::abholen() {
     }
 }
 
-void Abspieler::verarbeiten(const mpv_event& ereignis) {
+void Klang_mpv::verarbeiten(const mpv_event& ereignis) {
     switch (ereignis.event_id) {
         case MPV_EVENT_PROPERTY_CHANGE: {
             const auto& wert = *static_cast<const mpv_event_property*>(ereignis.data);
@@ -141,21 +141,21 @@ void Abspieler::verarbeiten(const mpv_event& ereignis) {
 
 // The library counts what the device has yet to play as not played, also right after a jump: it then tells a position that
 // lies before the target, by the length of the device's buffer.
-void Abspieler::Position_übernehmen(double sekunden) {
+void Klang_mpv::Position_übernehmen(double sekunden) {
     if (sekunden < boden_ && sekunden > boden_ - Gerätepuffer) return;
     boden_ = 0;
     position_ = sekunden;
     erzählt_um_ = Uhr::now();
 }
 
-void Abspieler::laden(const Text& datei) {
+void Klang_mpv::laden(const Text& datei) {
     vergessen();
     ladekennung_ = ++kennung_;
     const char* befehl[] = {"loadfile", datei.c_str(), "replace", nullptr};
     mpv_command_async(mpv_.get(), ladekennung_, befehl);
 }
 
-void Abspieler::vergessen() {
+void Klang_mpv::vergessen() {
     eintrag_ = -1;
     ladekennung_ = 0;
     geladen_ = false;
@@ -165,13 +165,13 @@ void Abspieler::vergessen() {
     Sprung_vergessen();
 }
 
-void Abspieler::stoppen() {
+void Klang_mpv::stoppen() {
     vergessen();
     const char* befehl[] = {"stop", nullptr};
     mpv_command_async(mpv_.get(), 0, befehl);
 }
 
-void Abspieler::anhalten(bool angehalten) {
+void Klang_mpv::anhalten(bool angehalten) {
     if (angehalten && !angehalten_) position_ = static_cast<double>(Position()) / 1000;
     angehalten_ = angehalten;
     erzählt_um_ = {};
@@ -179,19 +179,19 @@ void Abspieler::anhalten(bool angehalten) {
     mpv_set_property_async(mpv_.get(), 0, "pause", MPV_FORMAT_FLAG, &wert);
 }
 
-void Abspieler::Lautstärke_setzen(int wert) {
+void Klang_mpv::Lautstärke_setzen(int wert) {
     double prozent = wert * 100.0 / 255;
     mpv_set_property_async(mpv_.get(), 0, "volume", MPV_FORMAT_DOUBLE, &prozent);
 }
 
-void Abspieler::springen(std::int64_t ms) {
+void Klang_mpv::springen(std::int64_t ms) {
     Sprung_vergessen();
     sprungziel_ = ms;
     sprung_gesendet_ = Uhr::now();
     if (geladen_) Sprung_senden();
 }
 
-void Abspieler::Sprung_senden() {
+void Klang_mpv::Sprung_senden() {
     sprungkennung_ = ++kennung_;
     sprung_gesendet_ = Uhr::now();
     char sekunden[32];
@@ -200,14 +200,14 @@ void Abspieler::Sprung_senden() {
     mpv_command_async(mpv_.get(), sprungkennung_, befehl);
 }
 
-void Abspieler::Sprung_vergessen() {
+void Klang_mpv::Sprung_vergessen() {
     sprungziel_.reset();
     sprungkennung_ = 0;
     sprung_angenommen_ = sprung_läuft_ = false;
 }
 
 // The library tells the position some times a second only; in between the clock goes on for it.
-std::int64_t Abspieler::Position() const {
+std::int64_t Klang_mpv::Position() const {
     const auto jetzt = Uhr::now();
     double sekunden = position_;
     if (sprungziel_ && (!geladen_ || jetzt - sprung_gesendet_ < Sprungfrist)) {

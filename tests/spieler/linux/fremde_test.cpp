@@ -31,6 +31,7 @@ protected:
         EXPECT_EQ(0, ::connect(s.fd(), reinterpret_cast<const sockaddr*>(&adresse), sizeof(adresse)));
         return s;
     }
+    std::string Fensterordner() { return Ordner.pfad("lauf/tonkartei/fenster/"); }
     // A socket on the desktop that is not a player's.
     Deskriptor Attrappe(Hwnd fenster, int art = SOCK_SEQPACKET) {
         Deskriptor s(::socket(AF_UNIX, art | SOCK_CLOEXEC, 0));
@@ -54,7 +55,7 @@ protected:
 };
 
 TEST_F(Fremde, UnsinnStörtDenSpielerNicht) {
-    const Hwnd f = Spieler_mit({Lied("a.wav")});
+    const Hwnd f = Spieler_mit({Lied("a.mp3")});
     ASSERT_TRUE(läuft(f));
     Anfrage gruß, fremd, unbekannt, nachricht;
     fremd.Kennung = 7;
@@ -80,7 +81,7 @@ TEST_F(Fremde, UnsinnStörtDenSpielerNicht) {
 }
 
 TEST_F(Fremde, StummeUndVieleStörenDenSpielerNicht) {
-    const Hwnd f = Spieler_mit({Lied("a.wav")});
+    const Hwnd f = Spieler_mit({Lied("a.mp3")});
     std::vector<Deskriptor> stumme;
     for (int i = 0; i < 150; ++i) {
         stumme.push_back(verbinden(f));
@@ -111,24 +112,24 @@ TEST_F(Fremde, WasKeinFensterIstStörtDenBlickNicht) {
 }
 
 TEST_F(Fremde, HängenderSpielerKostetNurDieFrist) {
-    const pid_t pid = starten({"/CLASS=Tonkartei", Lied("a.wav")});
+    Prozess& prozess = starten({"/CLASS=Tonkartei", Lied("a.mp3")});
     const Hwnd f = Fenster_von("Tonkartei");
     ASSERT_EQ(1, Status(f));
-    ::kill(pid, SIGSTOP);
+    prozess.Signal(SIGSTOP);
     EXPECT_GT(1000, Millisekunden([&] { EXPECT_EQ(std::nullopt, Status(f)) << "not stopped"; }));
     EXPECT_GT(150, Millisekunden([&] { EXPECT_EQ(std::nullopt, Status(f)); })) << "known to hang";
     EXPECT_EQ(f, System.FindWindowA("Tonkartei")) << "a window that hangs is still a window";
-    Fenstersystem_Linux neues;
+    Fenstersystem_echt neues;
     EXPECT_EQ(0, neues.FindWindowA("Tonkartei")) << "it has not said yet what it is";
-    ::kill(pid, SIGCONT);
+    prozess.Signal(SIGCONT);
     EXPECT_TRUE(warte([&] { return Status(f) == 1; }));
     for (int i = 0; i < 50; ++i) ASSERT_EQ(1, Status(f)) << "no answer is taken for that of another question";
     EXPECT_TRUE(warte([&] { return neues.FindWindowA("Tonkartei") == f; }));
     // Killed while it hangs it is gone at the next look, and the answer is that of a closed window.
-    ::kill(pid, SIGSTOP);
+    prozess.Signal(SIGSTOP);
     EXPECT_EQ(std::nullopt, Status(f));
-    ::kill(pid, SIGKILL);
-    EXPECT_EQ(-2, Ende(pid));
+    prozess.Signal(SIGKILL);
+    EXPECT_EQ(-2, Ende(prozess));
     EXPECT_EQ(0, Status(f));
     EXPECT_EQ(0, System.FindWindowA("Tonkartei"));
     EXPECT_FALSE(std::filesystem::exists(Fensterordner() + std::to_string(f))) << "swept away";

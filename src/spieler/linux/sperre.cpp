@@ -1,4 +1,4 @@
-#include "spieler/sperre.hpp"
+#include "spieler/linux/sperre.hpp"
 
 #include <fcntl.h>
 #include <sys/file.h>

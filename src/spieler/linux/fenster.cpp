@@ -1,4 +1,4 @@
-#include "spieler/fenster.hpp"
+#include "spieler/linux/fenster.hpp"
 
 #include <fcntl.h>
 #include <sys/socket.h>
@@ -11,7 +11,7 @@
 #include <stdexcept>
 
 #include "plattform/linux/schreibtisch.hpp"
-#include "spieler/sperre.hpp"
+#include "spieler/linux/sperre.hpp"
 
 namespace tonkartei::spieler {
 
