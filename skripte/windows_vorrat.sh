@@ -22,7 +22,7 @@ qt_optionen="
 -DFEATURE_system_zlib=OFF -DFEATURE_system_png=OFF -DFEATURE_system_pcre2=OFF -DFEATURE_system_freetype=OFF
 -DFEATURE_system_harfbuzz=OFF -DFEATURE_system_doubleconversion=OFF -DFEATURE_system_libb2=OFF
 -DFEATURE_tabletevent=OFF"  # the header it takes is not free, so not in Debian's archive
-mpg123_optionen="--host=$ziel --disable-components --enable-libmpg123
+mpg123_optionen="--host=$ziel --with-audio=win32 --disable-components --enable-libmpg123
 --disable-shared --enable-static --disable-modules"
 
 abbruch() {
