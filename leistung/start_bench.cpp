@@ -51,7 +51,7 @@ int main() {
         return 1;
     }
     v.höchstens(
-        "Start mit 5000 Liedern bis zur Schleife", 7, "Start eines leeren Qt-Fensters",
+        "Start mit 5000 Liedern bis zur Schleife", 5, "Start eines leeren Qt-Fensters",
         [] { return starten(TONKARTEI_PROGRAMM); }, [] { return starten(TONKARTEI_LEERES_FENSTER); });
     return v.Ergebnis();
 }

@@ -23,7 +23,7 @@
 #include "oberflaeche/zeitgeber.hpp"
 #include "probe/stumme_ansicht.hpp"
 #include "programm/programm.hpp"
-#include "spieler/fenster.hpp"
+#include "spieler/linux/fenster.hpp"
 #include "wiedergabe/wiedergabe.hpp"
 #include "wiedergabe/wiedergabebereich.hpp"
 #include "wiedergabe/zufall/liedautomatik.hpp"

@@ -87,6 +87,7 @@ bool Info_Datei::lesen(int Dateinummer) {
     // Read aside first: a file that ends too soon must not leave half of it in the place of the songs that are shown.
     Bestand neu;
     fortschritt_.Text_setzen("Datenbank laden...");
+    fortschritt_.kurze_Schritte();
     try {
         Info_Körper_lesen(kanäle_, Dateinummer, neu, [&](Long nr, Long anzahl) {
             Kategorie_berichtigen(neu, neu.Lieder[nr]);

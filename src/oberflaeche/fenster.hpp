@@ -101,6 +101,9 @@ public:
     // Another default button, while the window is up.
     void Vorgabe_wechseln(Element& knopf);
     // The user may change its size.
+    // Milliseconds that it may be wanted before it is worth being seen: one that a short job shows would only flash. Whoever
+    // asks it is told that it is shown at once.
+    int Anlauf = 0;
     bool größenveränderlich = true;
     // No title bar, always in front of the others (splash, progress).
     bool ohne_Rand = false;

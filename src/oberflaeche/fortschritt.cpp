@@ -23,6 +23,7 @@ void Fortschritts_Fenster::Text_setzen(const Text& text) {
 
 void Fortschritts_Fenster::anzeigen(int Prozent) {
     Prozent = std::clamp(Prozent, 0, 100);
+    if (Prozent == 100) Anlauf = 0;
     if (Prozent == gezeigt_) return;
     gezeigt_ = Prozent;
     if (Prozent == 100) {

@@ -15,6 +15,8 @@ public:
 
     // What the job is called, "Datenbank laden...".
     void Text_setzen(const Text& text);
+    // Until it is hidden the next time the job goes in so short steps that the first of them need not be seen.
+    void kurze_Schritte() { Anlauf = 150; }
     // Shows the window with the bar at 0 to 100; the call with 100 hides it. The value shown already does nothing.
     void anzeigen(int Prozent);
 

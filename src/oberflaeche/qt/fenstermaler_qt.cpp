@@ -71,7 +71,8 @@ void Fenstermaler_Qt::Fenster_malen(Fenster& fenster) {
         while (!fläche->isExposed() && uhr.elapsed() < Geduld_ms)
             QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers, 10);
     }
-    widget->repaint();
+    // All that has changed is painted with it.
+    widget->repaint(0, 0, 1, 1);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers);
 }
 

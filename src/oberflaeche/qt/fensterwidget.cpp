@@ -134,9 +134,21 @@ void Fensterwidget::Bauteile_machen() {
     }
 }
 
+// A window that is not worth being seen yet, or was not while it was wanted: what changes on it is only noted.
+bool Fensterwidget::läuft_noch_an() {
+    if (gezeigt_ || !fenster_.geladen() || !fenster_.sichtbar() || fenster_.Anlauf == 0) {
+        const bool blieb_aus = anlauf_.isValid() && !gezeigt_ && fenster_.geladen() && !fenster_.sichtbar();
+        anlauf_.invalidate();
+        return blieb_aus;
+    }
+    if (!anlauf_.isValid()) anlauf_.start();
+    return !anlauf_.hasExpired(fenster_.Anlauf);
+}
+
 bool Fensterwidget::abgleichen() {
     if (gleicht_ab_ || umfeld_.zu_Ende) return false;
     vorgemerkt_ = false;
+    if (läuft_noch_an()) return false;
     const Stille stille(umfeld_);
     if (!fenster_.geladen()) {
         geänderte_.clear();

@@ -2,6 +2,7 @@
 // child of the frame that it fills: it comes, goes and is painted with it.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QWidget>
 #include <functional>
 #include <map>
@@ -69,6 +70,7 @@ protected:
 
 private:
     void vormerken();
+    bool läuft_noch_an();
     void Ziele_sammeln(const Element& quelle, std::vector<QWidget*>& ziele) const;
     void Vorgemerktes_zeigen();
     bool einsetzen();
@@ -104,6 +106,7 @@ private:
     Farbe grund_ = Farbe_Standard;
     bool alles_ = true, fenster_geändert_ = false, menü_geändert_ = false, vorgemerkt_ = false, gleicht_ab_ = false;
     bool gezeigt_ = false, vergeht_ = false;
+    QElapsedTimer anlauf_;  // since it was wanted, until it is shown
     Qt::WindowFlags flaggen_;
 };
 
