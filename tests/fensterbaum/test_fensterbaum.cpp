@@ -121,7 +121,7 @@ TEST_F(Fensterbaum, EveryControlHasANameARoleAndItsPlace) {
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
-    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     const tonkartei::Qt_Umgebung umgebung(argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -1,9 +1,8 @@
 // Plays the transcripts: each scene on a scratch folder of its own, each line compared exactly.
-#include <fcntl.h>
-#include <sys/stat.h>
-
+#include <chrono>
 #include <cstdio>
 #include <ctime>
+#include <filesystem>
 #include <iomanip>
 #include <sstream>
 
@@ -207,8 +206,8 @@ private:
             std::tm t{};
             std::istringstream(felder.at(1)) >> std::get_time(&t, "%Y-%m-%d %H:%M:%S");
             t.tm_isdst = -1;
-            const timespec zeiten[2]{{std::mktime(&t), 0}, {std::mktime(&t), 0}};
-            ASSERT_EQ(utimensat(AT_FDCWD, pfad.c_str(), zeiten, 0), 0) << pfad;
+            const auto zeit = std::chrono::system_clock::from_time_t(std::mktime(&t));
+            std::filesystem::last_write_time(pfad, std::chrono::file_clock::from_sys(zeit));
         } else if (was == "wähle") {
             wähle(std::stoi(wo));
         } else if (was == "ende") {
