@@ -172,7 +172,8 @@ void Klang_mpv::stoppen() {
 }
 
 void Klang_mpv::anhalten(bool angehalten) {
-    if (angehalten && !angehalten_) position_ = static_cast<double>(Position()) / 1000;
+    // The clock may have run a little ahead of the library; who saw where it stopped does not see it go back.
+    if (angehalten && !angehalten_) boden_ = position_ = static_cast<double>(Position()) / 1000;
     angehalten_ = angehalten;
     erzählt_um_ = {};
     int wert = angehalten;

@@ -57,7 +57,7 @@ private:
     bool geladen_ = false;
     bool angehalten_ = false;
     double position_ = 0;  // seconds, as told last
-    double boden_ = 0;     // seconds: the last jump's target, as long as the library has not reached it
+    double boden_ = 0;     // seconds: what was told last before a jump or a pause took over, until the library reaches it
     Uhr::time_point erzählt_um_{};
     std::optional<double> länge_;
     Text titel_, interpret_;
