@@ -267,7 +267,7 @@ private:
         }
         if (was == "ordner") {
             Zeilen namen;
-            for (const auto& e : std::filesystem::directory_iterator(ordner.pfad(wo))) namen.push_back(e.path().filename());
+            for (const auto& e : std::filesystem::directory_iterator(ordner.pfad(wo))) namen.push_back(e.path().filename().string());
             std::sort(namen.begin(), namen.end());
             return {verbunden(namen)};
         }
@@ -315,7 +315,7 @@ const bool Angemeldet = [] {
         if (eintrag.path().extension() == ".txt") dateien.push_back(eintrag.path());
     std::sort(dateien.begin(), dateien.end());
     for (const auto& datei : dateien)
-        for (auto& szene : Szenen_lesen(datei)) alle.push_back(std::move(szene));
+        for (auto& szene : Szenen_lesen(datei.string())) alle.push_back(std::move(szene));
     for (const Szene& szene : alle) {
         const std::string reihe = "Szenen_" + std::filesystem::path(szene.datei).stem().string();
         testing::RegisterTest(reihe.c_str(), szene.name.c_str(), nullptr, nullptr, szene.datei.c_str(), szene.zeile,
