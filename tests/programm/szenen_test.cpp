@@ -267,7 +267,8 @@ private:
         }
         if (was == "ordner") {
             Zeilen namen;
-            for (const auto& e : std::filesystem::directory_iterator(ordner.pfad(wo))) namen.push_back(e.path().filename().string());
+            for (const auto& e : std::filesystem::directory_iterator(ordner.pfad(wo)))
+                namen.push_back(e.path().filename().string());
             std::sort(namen.begin(), namen.end());
             return {verbunden(namen)};
         }
