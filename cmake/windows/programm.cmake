@@ -23,7 +23,7 @@ tonkartei_windows_programm(spieler WinAmp.Exe "Tonkartei: Abspieler")
 qt_add_resources(tonkartei uebersetzungen PREFIX /uebersetzungen BASE /usr/share/qt6/translations
   FILES /usr/share/qt6/translations/qtbase_de.qm)
 # Windows without a screen, for tests and pictures.
-foreach(ziel tonkartei tonkartei-bediener bediener-uebung test_oberflaeche_qt)
+foreach(ziel tonkartei tonkartei-bediener bediener-uebung test_oberflaeche_qt test_fensterbaum)
   if(TARGET ${ziel})
     qt_import_plugins(${ziel} INCLUDE Qt6::QOffscreenIntegrationPlugin)
   endif()
