@@ -20,8 +20,12 @@ endfunction()
 tonkartei_windows_programm(tonkartei Tonkartei.exe "Tonkartei")
 tonkartei_windows_programm(spieler WinAmp.Exe "Tonkartei: Abspieler")
 # Qt's own German.
-qt_add_resources(tonkartei uebersetzungen PREFIX /uebersetzungen BASE /usr/share/qt6/translations
-  FILES /usr/share/qt6/translations/qtbase_de.qm)
+foreach(ziel tonkartei tonkartei-bediener test_oberflaeche_qt)
+  if(TARGET ${ziel})
+    qt_add_resources(${ziel} uebersetzungen PREFIX /uebersetzungen BASE /usr/share/qt6/translations
+      FILES /usr/share/qt6/translations/qtbase_de.qm)
+  endif()
+endforeach()
 # Windows without a screen, for tests and pictures.
 foreach(ziel tonkartei tonkartei-bediener bediener-uebung test_oberflaeche_qt test_fensterbaum)
   if(TARGET ${ziel})

@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QCursor>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPixmap>
@@ -22,9 +21,7 @@ namespace {
 // How long a new window may take to come up before it is painted for the first time.
 constexpr int Geduld_ms = 250;
 
-bool schreiben(const QPixmap& bild, const Text& datei) {
-    return bild.save(QFile::decodeName(QByteArray::fromStdString(datei)), "PNG");
-}
+bool schreiben(const QPixmap& bild, const Text& datei) { return bild.save(QString::fromStdString(datei), "PNG"); }
 
 }  // namespace
 

@@ -3,7 +3,6 @@
 #include <QColorDialog>
 #include <QDialogButtonBox>
 #include <QDir>
-#include <QFile>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
@@ -43,7 +42,7 @@ bool hat_Knopf(Meldungsfeld::Knöpfe knöpfe, Antwort antwort) {
 // Of an input box.
 constexpr int Zeichen_je_Zeile = 60;
 
-Text Pfad(const QString& name) { return QFile::encodeName(QDir::toNativeSeparators(name)).toStdString(); }
+Text Pfad(const QString& name) { return QDir::toNativeSeparators(name).toStdString(); }
 
 Text Pfad_wählen(QFileDialog& dialog) {
     dialog.setSupportedSchemes({QStringLiteral("file")});
@@ -118,7 +117,7 @@ Text Dateiwahl_zeigen(const Dateiwahl& wahl, QWidget* eltern) {
     // Whether a file may be overwritten is the program's question.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setNameFilters(Namensfilter(wahl.filter));
-    if (!wahl.vorschlag.empty()) dialog.selectFile(QFile::decodeName(QByteArray::fromStdString(wahl.vorschlag)));
+    if (!wahl.vorschlag.empty()) dialog.selectFile(QString::fromStdString(wahl.vorschlag));
     return Pfad_wählen(dialog);
 }
 
