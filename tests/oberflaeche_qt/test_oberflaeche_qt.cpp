@@ -5,11 +5,13 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QShortcut>
+#include <QThread>
 #include <QTimer>
 #include <QWindow>
 #include <cstdlib>
 #include <memory>
 
+#include "oberflaeche/fortschritt.hpp"
 #include "oberflaeche/qt/kaesten.hpp"
 #include "oberflaeche/qt/qt_umgebung.hpp"
 #include "oberflaeche/zeitgeber.hpp"
@@ -191,6 +193,26 @@ TEST_F(Desktop, AMenusPictureShowsItsMarksAndGrowsWithItsEntries) {
     const QImage mit_Haken = malen();
     EXPECT_EQ(mit_Haken.height(), länger.height());
     EXPECT_NE(mit_Haken, länger);
+}
+
+TEST_F(Desktop, AProgressInShortStepsIsSeenOnlyWhenItLasts) {
+    Fortschritts_Fenster fortschritt(ansicht);
+    const auto zu_sehen_bei = [&](int prozent) {
+        fortschritt.anzeigen(prozent);
+        ansicht.Ereignisse_laufen_lassen();
+        const QWidget* balken = ansicht.maler().Widget(fortschritt.Fortschritt);
+        return balken != nullptr && balken->window()->isVisible();
+    };
+    fortschritt.kurze_Schritte();
+    EXPECT_FALSE(zu_sehen_bei(10));
+    EXPECT_TRUE(fortschritt.sichtbar());
+    EXPECT_FALSE(zu_sehen_bei(100));
+    fortschritt.kurze_Schritte();
+    EXPECT_FALSE(zu_sehen_bei(10));
+    QThread::msleep(200);
+    EXPECT_TRUE(zu_sehen_bei(20));
+    EXPECT_FALSE(zu_sehen_bei(100));
+    EXPECT_TRUE(zu_sehen_bei(10)) << "the next job shows it at once";
 }
 
 TEST_F(Desktop, ColoursAreChosenInGermanAndBeginWithTheOldOne) {
